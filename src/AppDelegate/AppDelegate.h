@@ -1,0 +1,150 @@
+#pragma once
+
+// The one long-lived object: owns everything the user sees, and follows the machine.
+//
+//   AppDelegate delegate(platform);
+//   MainInterface interface;
+//   connectOutlets(interface, delegate);
+//   delegate.applicationDidFinishLaunching();
+//
+// Everything runs on the main thread. A row action blocks in a nested run of the run loop until the
+// disk service has answered; meanwhile input is swallowed, the main queue rests and the popover
+// stays open.
+
+#include <QObject>
+#include <QVector>
+#include <memory>
+#include <optional>
+
+#include "AppDelegate/RowRecord.h"
+#include "Foundation/MainQueue.h"
+#include "Interface/Popover.h"
+#include "Interface/TableView.h"
+#include "Platform/LoginItems.h"
+
+class CheckBox;
+class EmptyView;
+class Platform;
+class QMenu;
+class RowButton;
+class StatusItem;
+class TextField;
+struct Notification;
+
+class AppDelegate : public QObject,
+                    public PopoverDelegate,
+                    public TableViewDataSource,
+                    public TableViewDelegate {
+  Q_OBJECT
+
+ public:
+  /// The platform must outlive the delegate and be the current one.
+  explicit AppDelegate(Platform &platform);
+  ~AppDelegate() override;
+
+  // The outlets: objects of the interface, which owns them. They are connected before start-up and
+  // outlive it; one that is not connected is left alone.
+  QMenu *menu() const { return _menu; }
+  void setMenu(QMenu *menu) { _menu = menu; }
+  Popover *popover() const { return _popover; }
+  void setPopover(Popover *popover) { _popover = popover; }
+  TableView *tableView() const { return _tableView; }
+  void setTableView(TableView *tableView) { _tableView = tableView; }
+  TextField *versionLabel() const { return _versionLabel; }
+  void setVersionLabel(TextField *label) { _versionLabel = label; }
+  CheckBox *runAtLoadCheck() const { return _runAtLoadCheck; }
+  void setRunAtLoadCheck(CheckBox *check) { _runAtLoadCheck = check; }
+  CheckBox *showAllDisksCheck() const { return _showAllDisksCheck; }
+  void setShowAllDisksCheck(CheckBox *check) { _showAllDisksCheck = check; }
+  CheckBox *forceUmountCheck() const { return _forceUmountCheck; }
+  void setForceUmountCheck(CheckBox *check) { _forceUmountCheck = check; }
+  TextField *statusTextField() const { return _statusTextField; }
+  void setStatusTextField(TextField *field) { _statusTextField = field; }
+  /// What stands in the table's place while it has no rows.
+  EmptyView *emptyView() const { return _emptyView; }
+  void setEmptyView(EmptyView *view) { _emptyView = view; }
+
+  // Start-up and end.
+  void applicationDidFinishLaunching();
+  /// The Quit button. While a row action is under way, the program ends when it is over.
+  void closeApp();
+
+  // The partition list.
+
+  /// Rebuilds the list from nothing and makes the table show it. Throws std::invalid_argument when
+  /// a record lacks a value; the rows before it stay, and the table is not told.
+  void refreshLists();
+  const QVector<RowRecord> &tableViewContents() const { return _tableViewContents; }
+  /// Index of the row that was last selected, -1 for none. A refresh leaves it as it was.
+  qint64 lastSelectedRow() const { return _lastSelectedRow; }
+
+  // What the table asks.
+  qint64 numberOfRowsInTableView(TableView *tableView) override;
+  TableCellView *tableView(TableView *tableView, const TableColumn &viewForTableColumn,
+                           qint64 row) override;
+  void tableView(TableView *tableView, QWidget *didAddRowView, qint64 forRow) override;
+  void tableViewSelectionDidChange(TableView *sender) override;
+
+  // Actions of the controls. The row buttons carry what they do in their titles.
+  void mountOrUmount(RowButton *sender);
+  void openEsp(RowButton *sender);
+  void showAllDisks(CheckBox *sender);
+
+  // Launch at login: the check box, the user default "RunAtload" and the login item are kept in
+  // line.
+  void runAtLoad(CheckBox *sender);
+  /// Whether this program has a login item.
+  bool isLaunchAtStartup() const;
+  /// Adds the item when there is none, removes it when there is one. Failures are silent.
+  void toggleLaunchAtStartup();
+  /// The first item that starts this program.
+  std::optional<LoginItems::Item> itemRefInLoginItems() const;
+
+  // What the machine and `DiskArbitrator` announce.
+  void addRefreshObserver();
+  void mounted(const Notification &notification);
+  void umounted(const Notification &notification);
+  void renamed(const Notification &notification);
+  void arbitrator(const Notification &notification);
+  void stopRunning();
+
+  // The popover.
+  void showPopover();
+  bool popoverShouldDetach(Popover *popover) override;
+  void popoverDidShow() override;
+  void popoverWillClose() override;
+
+  /// Puts the program's picture on the status item.
+  void darkModeAndRetina();
+
+ private:
+  class RowAction;
+
+  RowRecord recordOf(const QString &bsdName, const QString &siblingLine) const;
+  void restoreRunAtLoad();
+  void refreshListsOrLog();
+  void explainEmptyList();
+  void announce(const Notification &notification, QString (*message)(const QString &path));
+  void showBusyButtons();
+
+  Platform &_platform;
+  MainQueue _mainQueue;
+
+  qint64 _lastSelectedRow = -1;
+  QVector<RowRecord> _tableViewContents;
+  std::unique_ptr<StatusItem> topBarItem;
+  bool _showAll = false;
+
+  QMenu *_menu = nullptr;
+  Popover *_popover = nullptr;
+  TableView *_tableView = nullptr;
+  TextField *_versionLabel = nullptr;
+  CheckBox *_runAtLoadCheck = nullptr;
+  CheckBox *_showAllDisksCheck = nullptr;
+  TextField *_statusTextField = nullptr;
+  CheckBox *_forceUmountCheck = nullptr;
+  EmptyView *_emptyView = nullptr;
+
+  /// The partition whose row action is under way.
+  std::optional<QString> _busyPartition;
+};

@@ -1,0 +1,48 @@
+#include "AppDelegate/AppDelegate.h"
+#include "Interface/CheckBox.h"
+#include "Platform/Platform.h"
+
+namespace {
+const QString kRunAtload = QStringLiteral("RunAtload");
+}
+
+void AppDelegate::restoreRunAtLoad() {
+  // On at the first start of all: that is deliberate.
+  const QVariant stored = _platform.userDefaults().object(kRunAtload);
+  _runAtLoadCheck->setState(!stored.isValid() || stored.toBool() ? CheckBox::kOn : CheckBox::kOff);
+  runAtLoad(_runAtLoadCheck);
+}
+
+void AppDelegate::runAtLoad(CheckBox *sender) {
+  UserDefaults &defaults = _platform.userDefaults();
+  const int state = sender->state();
+  if (state == CheckBox::kOn || state == CheckBox::kOff) {
+    const bool isWanted = state == CheckBox::kOn;
+    if (isLaunchAtStartup() != isWanted) toggleLaunchAtStartup();
+    // Stored even if the list could not be changed: the next start tries again.
+    defaults.setBool(kRunAtload, isWanted);
+  }
+  defaults.synchronize();
+}
+
+std::optional<LoginItems::Item> AppDelegate::itemRefInLoginItems() const {
+  const LoginItems &loginItems = _platform.loginItems();
+  const auto items = loginItems.snapshot().value_or(QVector<LoginItems::Item>());
+  for (const LoginItems::Item &item : items) {
+    if (item.location.has_value() && *item.location == loginItems.ownLocation()) return item;
+  }
+  return std::nullopt;
+}
+
+bool AppDelegate::isLaunchAtStartup() const {
+  return itemRefInLoginItems().has_value();
+}
+
+void AppDelegate::toggleLaunchAtStartup() {
+  LoginItems &loginItems = _platform.loginItems();
+  if (const auto item = itemRefInLoginItems()) {
+    loginItems.remove(*item);
+  } else {
+    loginItems.insertOwnItem();
+  }
+}

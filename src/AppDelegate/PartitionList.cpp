@@ -1,0 +1,85 @@
+#include <QHash>
+#include <stdexcept>
+
+#include "AppDelegate/AppDelegate.h"
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "Foundation/SystemLog.h"
+#include "Foundation/Text.h"
+#include "Interface/EmptyView.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Partitions have an "s" behind the disk's number; whole disks do not.
+bool isPartitionName(const QString &name) {
+  if (!name.startsWith("disk"_L1)) return false;
+  QString rest = name;
+  return rest.remove("disk"_L1).contains(u's');
+}
+
+}  // namespace
+
+void AppDelegate::refreshLists() {
+  _tableViewContents = {};
+  QStringList names = _showAll ? DiskArbitrator::getAlldisks() : DiskArbitrator::findAllEFIdisk();
+  // Plain order of the UTF-16 code units: "disk10s1" comes before "disk1s1".
+  names.sort(Qt::CaseSensitive);
+  if (_showAll) names.removeIf([](const QString &name) { return !isPartitionName(name); });
+
+  // The partitions of a disk share one line about it. Made once for each disk, it costs a walk over
+  // the disk's partitions; made once for each row, it would cost the square of that.
+  QHash<QString, QString> siblingLines;
+  for (const QString &name : names) {
+    const QString parent = DiskArbitrator::findBSDdiskParent(name);
+    if (!siblingLines.contains(parent)) {
+      siblingLines[parent] = DiskArbitrator::findAllPartitionNameParentSeparatedByComma(name);
+    }
+    _tableViewContents.append(recordOf(name, siblingLines[parent]));
+  }
+  explainEmptyList();
+  _tableView->reloadData();
+}
+
+RowRecord AppDelegate::recordOf(const QString &bsdName, const QString &siblingLine) const {
+  RowRecord record;
+  record.img = DiskArbitrator::findVolumeIcon(bsdName);
+  if (record.img.isNull())
+    throw std::invalid_argument("there is no picture for " + bsdName.toStdString());
+  record.parentOf = DiskArbitrator::findBSDdiskParent(bsdName);
+  record.parentOfMedia = siblingLine;
+  record.isMounted = DiskArbitrator::isMountPointValid(bsdName);
+  record.mountPoint =
+      printed(record.isMounted ? DiskArbitrator::findMountPoint(bsdName) : std::nullopt);
+  record.ESP = bsdName;
+  return record;
+}
+
+void AppDelegate::refreshListsOrLog() {
+  try {
+    refreshLists();
+  } catch (const std::invalid_argument &problem) {
+    systemLog(u"The list of partitions is not complete: "_s + QString::fromUtf8(problem.what()));
+  }
+}
+
+void AppDelegate::explainEmptyList() {
+  switch (_platform.diskService().presence()) {
+    case DiskService::Presence::Asking:
+      _emptyView->setText(tr("Looking for disks"), tr("The disk service has not answered yet."));
+      return;
+    case DiskService::Presence::Absent:
+      _emptyView->setText(
+          tr("No disk service answers"),
+          tr("Disks cannot be seen without it. The list fills as soon as it runs."));
+      return;
+    case DiskService::Presence::Answering:
+      break;
+  }
+  if (_showAll) {
+    _emptyView->setText(tr("No partition here"), tr("Attach a disk to see its partitions."));
+  } else {
+    _emptyView->setText(tr("No EFI System Partition here"),
+                        tr("Attach a disk that has one, or tick Show all to see every partition."));
+  }
+}

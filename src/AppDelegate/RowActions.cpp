@@ -1,0 +1,73 @@
+#include <QDesktopServices>
+#include <QUrl>
+
+#include "AppDelegate/AppDelegate.h"
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "Interface/CheckBox.h"
+#include "Interface/InputGate.h"
+#include "Interface/RowButton.h"
+
+using namespace Qt::StringLiterals;
+
+/// While a row action is under way: the row's button says so, and nothing that the user does gets
+/// in between.
+class AppDelegate::RowAction {
+ public:
+  RowAction(AppDelegate &delegate, const QString &partition)
+      : _delegate(delegate), _queueHold(delegate._mainQueue) {
+    _delegate._busyPartition = partition;
+    _delegate._popover->setHeldOpen(true);
+    _delegate.showBusyButtons();
+  }
+  ~RowAction() {
+    _delegate._busyPartition.reset();
+    _delegate._popover->setHeldOpen(false);
+    _delegate.showBusyButtons();
+  }
+  RowAction(const RowAction &) = delete;
+  RowAction &operator=(const RowAction &) = delete;
+
+ private:
+  AppDelegate &_delegate;
+  InputGate _inputGate;
+  MainQueue::Hold _queueHold;
+};
+
+void AppDelegate::mountOrUmount(RowButton *sender) {
+  // A screen reader presses buttons without an input event, so the gate alone does not keep a
+  // second one out.
+  if (sender == nullptr || _busyPartition.has_value()) return;
+  // Copied before anything else: the list may be rebuilt and the button retitled while the service
+  // works.
+  const QStringList pieces = sender->title().split(u' ');
+  const QString verb = pieces.value(0);
+  const QString partition = pieces.value(1);
+
+  const RowAction underWay(*this, partition);
+  if (verb == "mount"_L1) {
+    DiskArbitrator::mountPartition(partition, std::nullopt);
+  } else {
+    // Mixed counts as on here, though not for the show-all box.
+    DiskArbitrator::umountPartition(partition, _forceUmountCheck->state() != 0);
+  }
+}
+
+void AppDelegate::openEsp(RowButton *sender) {
+  if (sender == nullptr || _busyPartition.has_value()) return;
+  const QString path = sender->title().split("open "_L1).value(1);
+  if (path == "(null)"_L1 || path == "N/A"_L1 || !path.startsWith(u'/')) return;
+  QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void AppDelegate::showAllDisks(CheckBox *sender) {
+  _showAll = sender->state() == 1;
+  refreshListsOrLog();
+}
+
+void AppDelegate::showBusyButtons() {
+  for (RowButton *button : _tableView->findChildren<RowButton *>()) {
+    const bool isMountButton = !button->title().startsWith("open "_L1);
+    const QString partition = button->title().section(u' ', 1, 1);
+    button->setBusy(isMountButton && partition == _busyPartition);
+  }
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+/// One entry of the partition list: what was true of one partition when the list was built. It is
+/// never changed afterwards; the next refresh makes another.
+struct RowRecord {
+  QImage img;
+  QString parentOf;       // the BSD name of the whole disk
+  QString parentOfMedia;  // one line that names everything on that disk
+  bool isMounted = false;
+  QString mountPoint;  // "(null)" while it is not mounted
+  QString ESP;         // the BSD name of the partition, whether it is an ESP or not
+};

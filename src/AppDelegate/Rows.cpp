@@ -1,0 +1,76 @@
+#include "AppDelegate/AppDelegate.h"
+#include "DiskArbitrator/DescriptionValues.h"
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "ESPTableCellView.h"
+#include "Foundation/Text.h"
+#include "Interface/ImageView.h"
+#include "Interface/RowButton.h"
+#include "Interface/RowTextField.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString emptyIfUnknown(const QString &text) {
+  return text == "N/A"_L1 || text == "(null)"_L1 ? QString() : text;
+}
+
+/// What the row's first line begins with.
+QString titleOf(const RowRecord &record) {
+  const QString name = printed(DiskArbitrator::findPartitionName(record.ESP));
+  if (name == DiskArbitrator::kEFISystemPartition) return u"ESP"_s;
+  if (name == "Recovery HD"_L1) return name;
+  // Asked afresh: the volume may have moved since the list was built.
+  if (record.isMounted)
+    return lastPathComponent(printed(DiskArbitrator::findMountPoint(record.ESP)));
+  return name;
+}
+
+QString textOf(const RowRecord &record) {
+  return u"%1 on %2\nparent of %3,\n%4"_s.arg(titleOf(record), record.ESP,
+                                              emptyIfUnknown(record.parentOf),
+                                              emptyIfUnknown(record.parentOfMedia));
+}
+
+}  // namespace
+
+qint64 AppDelegate::numberOfRowsInTableView(TableView * /*tableView*/) {
+  return _tableViewContents.size();
+}
+
+TableCellView *AppDelegate::tableView(TableView *tableView, const TableColumn &viewForTableColumn,
+                                      qint64 row) {
+  if (row < 0 || row >= _tableViewContents.size()) return nullptr;
+  if (viewForTableColumn.identifier != "MainCell"_L1) return nullptr;
+  const RowRecord &record = _tableViewContents[row];
+  if (!record.ESP.startsWith("disk"_L1)) return nullptr;
+
+  auto *cell = qobject_cast<ESPTableCellView *>(tableView->makeView(viewForTableColumn.identifier));
+  if (cell == nullptr) return nullptr;
+  cell->textField()->setStringValue(textOf(record));
+  cell->imageView()->setImage(record.img);
+  cell->setDeviceNode(
+      descriptionText(record.ESP, kDiskDescriptionDeviceNodeKey).value_or(QString()));
+
+  RowButton *mountButton = cell->mountButton();
+  mountButton->setTitle((record.isMounted ? u"umount "_s : u"mount "_s) + record.ESP);
+  mountButton->setProminent(!record.isMounted);
+  mountButton->setBusy(record.ESP == _busyPartition);
+  mountButton->setAction([this](RowButton *sender) { mountOrUmount(sender); });
+  // One way: a cell with a disabled button is never given to another row.
+  if (record.mountPoint == "/"_L1) mountButton->setEnabled(false);
+
+  RowButton *openButton = cell->openButton();
+  openButton->setTitle(u"open "_s + record.mountPoint);
+  openButton->setEnabled(record.isMounted);
+  openButton->setVisible(record.isMounted);
+  openButton->setAction([this](RowButton *sender) { openEsp(sender); });
+  return cell;
+}
+
+void AppDelegate::tableView(TableView * /*tableView*/, QWidget * /*didAddRowView*/,
+                            qint64 /*forRow*/) {}
+
+void AppDelegate::tableViewSelectionDidChange(TableView *sender) {
+  _lastSelectedRow = sender->selectedRow();
+}

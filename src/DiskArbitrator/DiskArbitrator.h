@@ -1,0 +1,108 @@
+#pragma once
+
+// Everything that is asked of disks or done to them, as class-level operations.
+//
+//   for (const QString &esp : DiskArbitrator::findAllEFIdisk())
+//     if (!DiskArbitrator::isMountPointValid(esp)) DiskArbitrator::mountPartition(esp,
+//     std::nullopt);
+//
+// No operation keeps anything between calls: each asks the current platform afresh. A reference is
+// a BSD name, a device path or the path of a mounted volume. Failures are answers: an absent text,
+// NO, or one of the sentinel texts that the operation names. Main thread only.
+
+#include <QImage>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "Platform/Platform.h"
+
+class DiskArbitrator {
+ public:
+  DiskArbitrator() = delete;
+
+  /// What a partition is called that holds a boot loader: its media name, and nothing else, makes
+  /// it an ESP.
+  static const QString kEFISystemPartition;
+
+  // What the description of a disk says. Absent where the service does not know it.
+
+  static std::optional<QString> findPartitionName(const QString &reference);
+  /// The volume's name; "N/A" where it has none or is not mounted. "EFI" for an ESP on an old
+  /// system.
+  static std::optional<QString> findMountPointName(const QString &reference);
+  /// The partition scheme of the whole disk that holds the reference.
+  static std::optional<QString> findPartitionSchemeMap(const QString &reference);
+  static std::optional<QString> findDeviceProtocol(const QString &reference);
+  /// "disk(null)" where the volume has none.
+  static std::optional<QString> findVolumeUUID(const QString &reference);
+  static std::optional<QString> findDiskUUID(const QString &reference);
+  static std::optional<QString> findVolumeMediaContent(const QString &reference);
+
+  // These answer for the whole disk that holds the reference. NO where nothing is known.
+
+  static bool isGPT(const QString &reference);
+  static bool isWritable(const QString &reference);
+  static bool isEjectable(const QString &reference);
+  static bool isInternal(const QString &reference);
+
+  // BSD names.
+
+  static std::optional<QString> findBSDName(const QString &reference);
+  static std::optional<QString> findBSDNameOfCurrentVolume();
+  /// The whole disk's name; "disk(null)" for what the service does not know.
+  static QString findBSDdiskParent(const QString &reference);
+  /// The slice number as text; "N/A" for what is no partition.
+  static QString findSliceNumberFromPartitionDisk(const QString &reference);
+
+  // What there is.
+
+  /// Whole disks and partitions by BSD name, in the registry's order. Empty when it cannot be
+  /// asked.
+  static QStringList getAlldisks();
+  static QStringList findAllEFIdisk();
+  /// The names of the mounted volumes, that of the volume mounted at "/" last.
+  static QStringList getListOfMountedMedia();
+  /// The ESP at slice 1 of the GPT disk that holds the reference; absent where there is none.
+  static std::optional<QString> findEFIdiskOfTheParentDisk(const QString &reference);
+  /// One line, "Disk: EFI, Data": the names of everything on the disk that holds the reference.
+  static QString findAllPartitionNameParentSeparatedByComma(const QString &reference);
+
+  // Where a partition is mounted.
+
+  /// An absolute path; absent while it is not mounted.
+  static std::optional<QString> findMountPoint(const QString &reference);
+  static bool isMountPointValid(const QString &reference);
+
+  // Mounting. Both block in a nested run of the run loop until the service has answered.
+
+  /// `atPath`, if it is there and not empty, is the folder to mount on; it is made if need be. YES
+  /// when the partition is mounted afterwards. A refusal is announced; after one, the answer takes
+  /// five seconds.
+  static bool mountPartition(const QString &partition, const std::optional<QString> &atPath);
+  /// YES in every case: the request was carried out. A refusal is announced.
+  static bool umountPartition(const QString &partition, bool forceUmount);
+
+  /// The picture for a partition. Null when even the caution icon cannot be loaded.
+  static QImage findVolumeIcon(const QString &partition);
+
+  /// The second number of the system's product version, 15 for "10.15". 0 when it cannot be read.
+  static qint32 findOSXMinorVersion();
+
+  /// Posts the message under "note" in a notification named "arbitrator" on the default center,
+  /// with `sender()` as its object. An empty message posts nothing.
+  static void sendNotificationWithMessage(const QString &message);
+  /// Who posts those notifications.
+  static const void *sender();
+
+ private:
+  /// Whether the system's version is 10.8 or older.
+  static bool isOldSystem();
+  // What the service calls when it has answered; the disk is its BSD name.
+  static void mountCallback(const QString &disk, const std::optional<Dissenter> &dissenter);
+  static void umountCallback(const QString &disk, const std::optional<Dissenter> &dissenter);
+};
+
+/// The name of the notification that announces a refusal, and the key of its text.
+inline const QString kArbitratorNotification = QStringLiteral("arbitrator");
+inline const QString kNoteKey = QStringLiteral("note");

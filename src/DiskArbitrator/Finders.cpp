@@ -1,0 +1,71 @@
+#include "DiskArbitrator/DescriptionValues.h"
+#include "DiskArbitrator/DiskArbitrator.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The UUID without whatever the service prints before it. A text without that prefix stays whole.
+QString uuidText(const QVariant &value) {
+  OptionalText described;
+  if (value.isValid()) {
+    const bool isUUID = value.metaType() == QMetaType::fromType<DiskUUID>();
+    described = isUUID ? value.value<DiskUUID>().description() : value.toString();
+  }
+  const QString text = "disk"_L1 + printed(described);
+  const QStringList pieces = text.split("> "_L1);
+  return withoutNull(pieces.value(1, text));
+}
+
+bool parentFlag(const QString &reference, const QString &key) {
+  return descriptionValue(DiskArbitrator::findBSDdiskParent(reference), key).toBool();
+}
+
+}  // namespace
+
+std::optional<QString> DiskArbitrator::findPartitionName(const QString &reference) {
+  return descriptionText(reference, kDADiskDescriptionMediaNameKey);
+}
+
+std::optional<QString> DiskArbitrator::findMountPointName(const QString &reference) {
+  if (isOldSystem() && findPartitionName(reference) == kEFISystemPartition) return u"EFI"_s;
+  return descriptionText(reference, kDADiskDescriptionVolumeNameKey).value_or(u"N/A"_s);
+}
+
+std::optional<QString> DiskArbitrator::findPartitionSchemeMap(const QString &reference) {
+  return descriptionText(findBSDdiskParent(reference), kDADiskDescriptionMediaContentKey);
+}
+
+std::optional<QString> DiskArbitrator::findDeviceProtocol(const QString &reference) {
+  return descriptionText(reference, kDADiskDescriptionDeviceProtocolKey);
+}
+
+std::optional<QString> DiskArbitrator::findVolumeUUID(const QString &reference) {
+  return uuidText(descriptionValue(reference, kDADiskDescriptionVolumeUUIDKey));
+}
+
+std::optional<QString> DiskArbitrator::findDiskUUID(const QString &reference) {
+  const QVariant value = descriptionValue(reference, kDADiskDescriptionMediaUUIDKey);
+  if (!value.isValid()) return std::nullopt;
+  return uuidText(value);
+}
+
+std::optional<QString> DiskArbitrator::findVolumeMediaContent(const QString &reference) {
+  return descriptionText(reference, kDADiskDescriptionMediaContentKey);
+}
+
+bool DiskArbitrator::isGPT(const QString &reference) {
+  return findPartitionSchemeMap(reference) == u"GUID_partition_scheme"_s;
+}
+
+bool DiskArbitrator::isWritable(const QString &reference) {
+  return parentFlag(reference, kDADiskDescriptionMediaWritableKey);
+}
+
+bool DiskArbitrator::isEjectable(const QString &reference) {
+  return parentFlag(reference, kDADiskDescriptionMediaEjectableKey);
+}
+
+bool DiskArbitrator::isInternal(const QString &reference) {
+  return parentFlag(reference, kDADiskDescriptionDeviceInternalKey);
+}

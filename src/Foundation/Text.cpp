@@ -1,0 +1,45 @@
+#include "Foundation/Text.h"
+
+#include <sys/stat.h>
+
+#include <QFile>
+#include <cerrno>
+#include <limits>
+
+QString printed(const OptionalText &text) {
+  return text.value_or(QStringLiteral("(null)"));
+}
+
+bool areEqualTexts(const OptionalText &left, const OptionalText &right) {
+  return left.has_value() && right.has_value() && *left == *right;
+}
+
+qint32 leadingInteger(const QString &text) {
+  constexpr qint64 kLimit = std::numeric_limits<qint32>::max();
+  auto character = text.cbegin();
+  while (character != text.cend() && character->isSpace()) ++character;
+  const bool negative = character != text.cend() && *character == u'-';
+  if (negative || (character != text.cend() && *character == u'+')) ++character;
+  qint64 value = 0;
+  for (; character != text.cend() && *character >= u'0' && *character <= u'9'; ++character) {
+    value = qMin(value * 10 + (character->unicode() - u'0'), kLimit + 1);
+  }
+  return static_cast<qint32>(negative ? -value : qMin(value, kLimit));
+}
+
+QString lastPathComponent(const QString &path) {
+  if (path == QLatin1StringView("N/A")) return path;
+  qsizetype end = path.size();
+  while (end > 1 && path[end - 1] == u'/') --end;
+  if (end == 1 && path[0] == u'/') return QStringLiteral("/");
+  return path.sliced(0, end).section(u'/', -1);
+}
+
+bool fileExistsAtPath(const OptionalText &path) {
+  if (!path.has_value() || path->isEmpty()) return false;
+  struct stat status {};
+  if (stat(QFile::encodeName(*path).constData(), &status) == 0) return true;
+  // Volumes of other users are mounted below folders that are closed to us, and they are mounted
+  // all the same.
+  return errno == EACCES;
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+// Builds and owns everything that a person sees: the status item's menu, and the popover
+// with the table and the controls around it. It decides what things look like and where they are;
+// what they say and do is up to whoever holds it.
+//
+// Start with QApplication and `installAccessibility` in place.
+
+#include <QMenu>
+#include <memory>
+
+#include "ESPTableCellView.h"
+#include "Interface/CheckBox.h"
+#include "Interface/Popover.h"
+#include "Interface/RowButton.h"
+#include "Interface/TableView.h"
+#include "Interface/TextField.h"
+
+class EmptyView;
+class QPushButton;
+
+class MainInterface {
+ public:
+  MainInterface();
+  ~MainInterface();
+  MainInterface(const MainInterface &) = delete;
+  MainInterface &operator=(const MainInterface &) = delete;
+
+  Popover *popover() const { return _popover.get(); }
+  /// Its prototype "MainCell" is an ESPTableCellView.
+  TableView *tableView() const { return _tableView; }
+  /// What stands in the table's place while it has no rows: what is so, and what to do about it.
+  EmptyView *emptyView() const { return _emptyView; }
+  CheckBox *showAllDisksCheck() const { return _showAllDisksCheck; }
+  CheckBox *forceUmountCheck() const { return _forceUmountCheck; }
+  CheckBox *runAtLoadCheck() const { return _runAtLoadCheck; }
+  TextField *statusTextField() const { return _statusTextField; }
+  TextField *versionLabel() const { return _versionLabel; }
+  QPushButton *quitButton() const { return _quitButton; }
+
+  QMenu *menu() const { return _menu.get(); }
+  QAction *openAction() const { return _openAction; }
+  QAction *quitAction() const { return _quitAction; }
+
+ private:
+  QWidget *makeContent();
+  QWidget *makeOptions();
+  QWidget *makeFoot();
+  void showTableOrEmptyText();
+
+  std::unique_ptr<QMenu> _menu;
+  std::unique_ptr<Popover> _popover;
+  // In the popover's content, which owns them:
+  TableView *_tableView = nullptr;
+  EmptyView *_emptyView = nullptr;
+  CheckBox *_showAllDisksCheck = nullptr;
+  CheckBox *_forceUmountCheck = nullptr;
+  CheckBox *_runAtLoadCheck = nullptr;
+  TextField *_statusTextField = nullptr;
+  TextField *_versionLabel = nullptr;
+  QPushButton *_quitButton = nullptr;
+  // In the menu:
+  QAction *_openAction = nullptr;
+  QAction *_quitAction = nullptr;
+};

@@ -1,0 +1,99 @@
+#pragma once
+
+// A frameless window that hangs from a place on the screen, with an arrow that points at it.
+//
+//   popover.setContentView(view);
+//   popover.setBehavior(Popover::Behavior::Transient);
+//   popover.showRelativeTo(statusItem.anchor(), Qt::BottomEdge);
+//
+// It takes the size that its content asks for, follows it when that changes, and never leaves the
+// screen.
+
+#include <QPainterPath>
+#include <QPointer>
+#include <QVariantAnimation>
+#include <QWidget>
+
+#include "Interface/PopoverPlacement.h"
+
+class Popover;
+
+class PopoverDelegate {
+ public:
+  virtual ~PopoverDelegate() = default;
+
+  /// Asked when a person drags the popover: whether it may be moved away from its place.
+  virtual bool popoverShouldDetach(Popover *popover) = 0;
+  virtual void popoverDidShow() = 0;
+  virtual void popoverWillClose() = 0;
+};
+
+class Popover : public QWidget {
+  Q_OBJECT
+
+ public:
+  enum class Behavior {
+    ApplicationDefined,  // closes only when told to, or by Escape
+    Transient,           // closes also when another program becomes the active one
+  };
+
+  explicit Popover(QWidget *parent = nullptr);
+
+  /// Not owned. Null for none.
+  void setDelegate(PopoverDelegate *delegate) { _delegate = delegate; }
+
+  Behavior behavior() const { return _behavior; }
+  void setBehavior(Behavior behavior) { _behavior = behavior; }
+
+  /// Whether it appears softly, where the desktop can show that.
+  bool animates() const { return _animates; }
+  void setAnimates(bool animates) { _animates = animates; }
+
+  QWidget *contentView() const { return _contentView; }
+  /// Takes the view over and destroys the one before.
+  void setContentView(QWidget *view);
+
+  /// Shows the popover below the anchor, a rectangle in screen coordinates, or over it with
+  /// `Qt::TopEdge`; on the other side where there is no room. A null anchor: in the middle of the
+  /// screen that has the pointer, without an arrow. One that is shown already moves there.
+  void showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge);
+
+  // close() closes it, as Escape and the window manager do.
+  bool isShown() const { return isVisible(); }
+
+  /// While held open, a transient popover does not close because another program becomes the active
+  /// one: that may be a password prompt that the popover's own request has brought up.
+  void setHeldOpen(bool held) { _heldOpen = held; }
+
+  PopoverPlacement placement() const { return _placement; }
+
+ protected:
+  void closeEvent(QCloseEvent *event) override;
+  bool event(QEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
+  void showEvent(QShowEvent *event) override;
+
+ private:
+  void place();
+  void arrangeContent();
+  QSize panelSize(const QRect &available) const;
+  QRect panelRect() const;
+  QPainterPath outline(qreal inset) const;
+  QMargins margins() const;
+  void appear();
+  void applicationStateChanged(Qt::ApplicationState state);
+
+  PopoverDelegate *_delegate = nullptr;
+  QPointer<QWidget> _contentView;
+  QRect _anchor;
+  Qt::Edge _preferredEdge = Qt::BottomEdge;
+  PopoverPlacement _placement;
+  QVariantAnimation _appearance;
+  Behavior _behavior = Behavior::ApplicationDefined;
+  bool _animates = false;
+  bool _heldOpen = false;
+  bool _composited = true;
+};

@@ -1,0 +1,74 @@
+#pragma once
+
+// A button in a row of the table. Its title is data that its action reads back, so it is kept apart
+// from what is painted: the title is never decorated or translated, and it is the accessible name.
+//
+//   button->setTitle(u"mount disk0s1"_s);
+//   button->setProminent(true);
+//   button->setAction([this](RowButton *sender) { mountOrUmount(sender); });
+//
+// Rows are recycled, so a press never outlives the title that it was meant for.
+
+#include <QBasicTimer>
+#include <QPushButton>
+#include <functional>
+
+class Look;
+
+class RowButton : public QPushButton {
+  Q_OBJECT
+
+ public:
+  using Action = std::function<void(RowButton *sender)>;
+
+  explicit RowButton(QWidget *parent = nullptr);
+
+  QString title() const { return _title; }
+
+  /// Cancels a press that is under way if the title is another one.
+  void setTitle(const QString &title);
+
+  /// What a click does, in place of what it did before: the mouse, Space, Return or a screen
+  /// reader's Press. The second press of a double click and a key's repetition are no clicks.
+  void setAction(Action action);
+
+  /// Whether the action has been called and has not returned.
+  bool isActing() const { return _acting > 0; }
+
+  /// Shows a turning spinner beside a dimmed title. Changes nothing else: the button stays enabled.
+  void setBusy(bool busy);
+  bool isBusy() const { return _busy; }
+
+  /// The accent look, for the action that the row is there for.
+  void setProminent(bool prominent);
+  bool isProminent() const { return _prominent; }
+
+  /// Lets go of a button that is held down, without a click.
+  void cancelPress();
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  bool event(QEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+  void mouseDoubleClickEvent(QMouseEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+  void showEvent(QShowEvent *event) override;
+  void timerEvent(QTimerEvent *event) override;
+
+ private:
+  void act();
+  void updateSpinner();
+  void paintFrame(QPainter &painter, const Look &look) const;
+  void paintTitle(QPainter &painter, const Look &look) const;
+  void paintSpinner(QPainter &painter, const Look &look, const QRectF &place) const;
+
+  QString _title;
+  Action _action;
+  QBasicTimer _spinner;
+  int _acting = 0;
+  bool _busy = false;
+  bool _prominent = false;
+};

@@ -1,0 +1,15 @@
+#include "Interface/TableCellView.h"
+
+#include <QAccessible>
+
+#include "Interface/ImageView.h"
+#include "Interface/RowTextField.h"
+
+TableCellView::TableCellView(QWidget *parent)
+    : QWidget(parent), _textField(new RowTextField(this)), _imageView(new ImageView(this)) {
+  // Screen readers remember names, and this one is another partition's after each recycling.
+  connect(_textField, &RowTextField::stringValueChanged, this, [this] {
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+  });
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+// A label of one line that can change its text by fading. Plain text only, shortened at its end
+// when there is no room, the whole in the tooltip; its height never changes, so nothing around it
+// moves.
+
+#include <QEasingCurve>
+#include <QWidget>
+
+class QVariantAnimation;
+
+class TextField : public QWidget {
+  Q_OBJECT
+
+ public:
+  enum class TextColor { Normal, Red, Blue };
+
+  explicit TextField(QWidget *parent = nullptr);
+
+  QString stringValue() const { return _stringValue; }
+
+  /// Shows the text at once. A fade that is under way goes on.
+  void setStringValue(const QString &text);
+
+  /// Fades the present text out (0.3 s), changes it, and fades the new one in (1.0 s). Returns at
+  /// once; does nothing when the text is the one that is shown now. Calls in quick succession each
+  /// run their course, and the last to change the text decides what is shown.
+  void setAnimatedStringValue(const QString &text);
+
+  TextColor textColor() const { return _textColor; }
+  void setTextColor(TextColor color);
+
+  /// 0 invisible, 1 opaque.
+  qreal opacity() const { return _opacity; }
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool event(QEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+
+ private:
+  QVariantAnimation *fadeTo(qreal opacity, int milliseconds, QEasingCurve::Type easing);
+
+  QString _stringValue;
+  TextColor _textColor = TextColor::Normal;
+  qreal _opacity = 1.0;
+  const QVariantAnimation *_latestFade = nullptr;  // it alone decides the opacity
+};

@@ -1,0 +1,11 @@
+#include "Interface/WindowHints.h"
+
+bool windowsAreComposited() {
+  return true;
+}
+
+bool windowsCanFade() {
+  return true;
+}
+
+void keepOutOfTaskbar(const QWidget *) {}

@@ -1,0 +1,56 @@
+#include <xcb/xcb.h>
+
+#include <QGuiApplication>
+#include <QWidget>
+#include <array>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+#include "Interface/WindowHints.h"
+
+namespace {
+
+struct Free {
+  void operator()(void *memory) const { std::free(memory); }
+};
+
+// Null on every other window system. The offscreen one has the interface, but no connection behind
+// it.
+xcb_connection_t *connection() {
+  const auto *application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  return application ? application->connection() : nullptr;
+}
+
+xcb_atom_t atom(xcb_connection_t *server, std::string_view name) {
+  const auto cookie =
+      xcb_intern_atom(server, false, static_cast<uint16_t>(name.size()), name.data());
+  const std::unique_ptr<xcb_intern_atom_reply_t, Free> reply(
+      xcb_intern_atom_reply(server, cookie, nullptr));
+  return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+}  // namespace
+
+bool windowsAreComposited() {
+  xcb_connection_t *server = connection();
+  if (!server) return true;
+  const auto cookie = xcb_get_selection_owner(server, atom(server, "_NET_WM_CM_S0"));
+  const std::unique_ptr<xcb_get_selection_owner_reply_t, Free> reply(
+      xcb_get_selection_owner_reply(server, cookie, nullptr));
+  return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+bool windowsCanFade() {
+  return connection() && windowsAreComposited();
+}
+
+void keepOutOfTaskbar(const QWidget *window) {
+  xcb_connection_t *server = connection();
+  if (!server) return;
+  const std::array<xcb_atom_t, 2> states = {atom(server, "_NET_WM_STATE_SKIP_TASKBAR"),
+                                            atom(server, "_NET_WM_STATE_SKIP_PAGER")};
+  xcb_change_property(server, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window->winId()),
+                      atom(server, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32,
+                      static_cast<uint32_t>(states.size()), states.data());
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+// What the disk service knows of one disk or partition, as a record under the keys below.
+//
+//   const auto description = platform.diskService().descriptionOfMedia(u"disk0s1"_s);
+//   const QString name = description->value(kDADiskDescriptionMediaNameKey).toString();
+//
+// A key that is not in the record is a thing that the service does not know: an unmounted volume
+// has no volume path and no volume name, an unlabelled volume has no volume name. Copies share
+// their data.
+
+#include <QMetaType>
+#include <QString>
+#include <QVariantHash>
+#include <optional>
+
+using DiskDescription = QVariantHash;
+
+// The media: a whole disk or a partition, present whether it is mounted or not.
+inline const QString kDADiskDescriptionMediaBSDNameKey =
+    QStringLiteral("DAMediaBSDName");  // QString
+inline const QString kDADiskDescriptionMediaBSDUnitKey =
+    QStringLiteral("DAMediaBSDUnit");                                                 // qint64
+inline const QString kDADiskDescriptionMediaNameKey = QStringLiteral("DAMediaName");  // QString
+inline const QString kDADiskDescriptionMediaContentKey =
+    QStringLiteral("DAMediaContent");                                                 // QString
+inline const QString kDADiskDescriptionMediaUUIDKey = QStringLiteral("DAMediaUUID");  // DiskUUID
+inline const QString kDADiskDescriptionMediaWritableKey =
+    QStringLiteral("DAMediaWritable");  // bool
+inline const QString kDADiskDescriptionMediaEjectableKey =
+    QStringLiteral("DAMediaEjectable");  // bool
+
+// The volume on it. Kind and UUID are known from the file system's own header, name and path while
+// mounted.
+inline const QString kDADiskDescriptionVolumeNameKey = QStringLiteral("DAVolumeName");  // QString
+inline const QString kDADiskDescriptionVolumePathKey =
+    QStringLiteral("DAVolumePath");  // QUrl, a local file
+inline const QString kDADiskDescriptionVolumeKindKey = QStringLiteral("DAVolumeKind");  // QString
+inline const QString kDADiskDescriptionVolumeUUIDKey = QStringLiteral("DAVolumeUUID");  // DiskUUID
+
+// The device that carries the media.
+inline const QString kDADiskDescriptionDeviceProtocolKey =
+    QStringLiteral("DADeviceProtocol");  // QString
+inline const QString kDADiskDescriptionDeviceInternalKey =
+    QStringLiteral("DADeviceInternal");  // bool
+
+/// Our own: the node by which this system's other tools know the media, such as "/dev/nvme0n1p1".
+/// QString.
+inline const QString kDiskDescriptionDeviceNodeKey = QStringLiteral("KeldraDeviceNode");
+
+/// A universally unique identifier as the disk service hands it out.
+class DiskUUID {
+ public:
+  /// The nil UUID, which no disk has; a value in a record needs one to begin with.
+  DiskUUID() : DiskUUID(QStringLiteral("00000000-0000-0000-0000-000000000000")) {}
+
+  /// Absent unless the text is a canonical UUID of 36 characters: a FAT serial number is none.
+  static std::optional<DiskUUID> fromText(const QString &text);
+
+  /// How the service prints the value: an address-bearing prefix that ends in "> ", then the UUID
+  /// in capitals.
+  QString description() const;
+
+  bool operator==(const DiskUUID &) const = default;
+
+ private:
+  explicit DiskUUID(QString canonical);
+
+  QString _canonical;
+};
+
+Q_DECLARE_METATYPE(DiskUUID)

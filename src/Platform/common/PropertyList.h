@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QByteArray>
+#include <QVariantMap>
+
+/// The texts, numbers and booleans of the dictionary at the top of a property list, XML or binary.
+/// Empty when the bytes are no property list or its top is no dictionary.
+QVariantMap dictionaryFromPropertyList(const QByteArray &bytes);

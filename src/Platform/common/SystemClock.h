@@ -1,0 +1,13 @@
+#pragma once
+
+// The machine's own steady clock.
+
+#include "Platform/Platform.h"
+
+class SystemClock final : public Clock {
+ public:
+  std::chrono::milliseconds now() const override {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+  }
+};

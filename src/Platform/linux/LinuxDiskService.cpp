@@ -1,0 +1,170 @@
+#include "Platform/linux/LinuxDiskService.h"
+
+#include <QUrl>
+
+#include "Foundation/NotificationCenter.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString kMountTableFile = u"/proc/self/mountinfo"_s;
+
+// A disk and its partitions are announced, and a changed partition table read anew, in waves.
+constexpr auto kWave = 3ms;
+
+DiskDescription mountedAt(const Medium &medium, const QString &mountPoint) {
+  DiskDescription description = medium.description;
+  description.insert(kDADiskDescriptionVolumePathKey, QUrl::fromLocalFile(mountPoint));
+  if (!medium.label.isEmpty()) {
+    description.insert(kDADiskDescriptionVolumeNameKey, medium.label);
+  }
+  return description;
+}
+
+}  // namespace
+
+LinuxDiskService::LinuxDiskService(const QDBusConnection &connection, UnitNumbers units,
+                                   NotificationCenter &workspace)
+    : _workspace(workspace),
+      _tree(connection),
+      _requests(_tree),
+      _mounts(kMountTableFile),
+      _media(std::move(units)) {
+  refresh();
+  _events.accept(_mounts, _media);
+  _mounts.setChangeHandler([this] { postNews(); });
+  _soon.setSingleShot(true);
+  _soon.setInterval(kWave);
+  connect(&_soon, &QTimer::timeout, this, &LinuxDiskService::postChange);
+  connect(&_tree, &ServiceTree::objectsChanged, this, [this] {
+    if (!_soon.isActive()) _soon.start();
+  });
+  connect(&_tree, &ServiceTree::presenceChanged, this, &LinuxDiskService::changePresence);
+  connect(&_tree, &ServiceTree::labelChanged, this, &LinuxDiskService::postRename);
+  connect(&_tree, &ServiceTree::interfacesRemoved, this, &LinuxDiskService::removeInterfaces);
+  connect(&_tree, &ServiceTree::serviceLost, &_requests, &Requests::failAll);
+}
+
+void LinuxDiskService::refresh() const {
+  bool differs = _mounts.refresh();
+  if (_tree.hasChanges() && _media.update(_tree.objects(), _tree.takeChanges())) {
+    differs = true;
+    _isChangeUntold = true;
+  }
+  if (!differs) return;
+  _mounted.clear();
+  for (const Mount &mount : _mounts.mounts()) {
+    const Medium *medium = _media.onDevice(mount.device);
+    if (medium == nullptr) continue;
+    _mounted.insert(medium->bsdName(), mountedAt(*medium, *_mounts.mountPointOf(mount.device)));
+  }
+}
+
+std::optional<DiskDescription> LinuxDiskService::describe(const Medium *medium) const {
+  if (medium == nullptr) return std::nullopt;
+  return _mounted.value(medium->bsdName(), medium->description);
+}
+
+std::optional<DiskDescription> LinuxDiskService::descriptionOfMedia(const QString &bsdName) const {
+  refresh();
+  const auto mounted = _mounted.constFind(bsdName);
+  if (mounted != _mounted.constEnd()) return *mounted;
+  const Medium *medium = _media.named(bsdName);
+  return medium == nullptr ? std::nullopt : std::optional(medium->description);
+}
+
+std::optional<DiskDescription> LinuxDiskService::descriptionOfVolume(
+    const QString &mountPoint) const {
+  refresh();
+  return describe(_media.onDevice(_mounts.deviceAt(mountPoint)));
+}
+
+QStringList LinuxDiskService::mediaNames() const {
+  refresh();
+  return _media.names();
+}
+
+QStringList LinuxDiskService::mediaNamesOnDisk(const QString &wholeDisk) const {
+  refresh();
+  return _media.namesOnDisk(wholeDisk);
+}
+
+std::optional<Dissenter> LinuxDiskService::refusalOf(const Medium *medium) const {
+  if (presence() != Presence::Answering) return Dissenter{kDAReturnNotReady};
+  if (medium == nullptr) return Dissenter{kDAReturnNotFound};
+  return std::nullopt;
+}
+
+// Whoever waits for a mount finds it in the list when the wait is over.
+DiskService::Completion LinuxDiskService::afterTheNews(Completion completion) {
+  return [this, call = std::move(completion)](const std::optional<Dissenter> &dissenter) {
+    postNews();
+    call(dissenter);
+  };
+}
+
+void LinuxDiskService::mount(const QString &bsdName, const std::optional<QString> &path,
+                             Completion completion) {
+  refresh();
+  const Medium *medium = _media.named(bsdName);
+  if (const auto refusal = refusalOf(medium)) return completion(refusal);
+  // The service chooses the place itself.
+  if (path) return completion(Dissenter{kDAReturnUnsupported});
+  _requests.mount(*medium, afterTheNews(std::move(completion)));
+}
+
+void LinuxDiskService::unmount(const QString &bsdName, UnmountOption option,
+                               Completion completion) {
+  refresh();
+  const Medium *medium = _media.named(bsdName);
+  if (const auto refusal = refusalOf(medium)) return completion(refusal);
+  const auto mountPoint = _mounts.mountPointOf(medium->device);
+  if (option == UnmountOption::Force && mountPoint) {
+    _requests.forceUnmount(*medium, *mountPoint, afterTheNews(std::move(completion)));
+  } else {
+    _requests.unmount(*medium, afterTheNews(std::move(completion)));
+  }
+}
+
+void LinuxDiskService::post(const QList<VolumeEvent> &events) {
+  for (const VolumeEvent &event : events) {
+    _workspace.post({event.name, this, {{kNSDevicePathKey, event.mountPoint}}});
+  }
+}
+
+void LinuxDiskService::postNews() {
+  refresh();
+  post(_events.news(_mounts, _media));
+}
+
+void LinuxDiskService::postChange() {
+  postNews();
+  if (!std::exchange(_isChangeUntold, false)) return;
+  _workspace.post({kNSWorkspaceDidMountNotification, this});
+}
+
+void LinuxDiskService::postRename(quint64 device) {
+  postNews();
+  const auto mountPoint = _mounts.mountPointOf(device);
+  if (!mountPoint || _media.onDevice(device) == nullptr) return;
+  post({{kNSWorkspaceDidRenameVolumeNotification, *mountPoint}});
+}
+
+// What was mounted before the service could be asked is found in the list; it is no news.
+void LinuxDiskService::changePresence() {
+  refresh();
+  if (presence() == Presence::Answering) _events.accept(_mounts, _media);
+  _isChangeUntold = true;
+  _soon.start();
+}
+
+void LinuxDiskService::removeInterfaces(const QString &path, const QStringList &interfaces,
+                                        quint64 device) {
+  const bool isPulled = interfaces.contains(kBlockInterface);
+  if (!isPulled && !interfaces.contains(kFilesystemInterface)) return;
+  postNews();
+  if (isPulled) post(_events.pulled(device));
+  _requests.failVanished(path, _mounts.mountPointOf(device).has_value());
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+// Disks as the disk service and the kernel tell of them together: labels, tables and drives come
+// from the service's object tree, what is mounted where from the kernel's mount table.
+//
+// A question costs one system call and a look-up. What it finds changed it takes in at once; the
+// news of it are posted later, from the event loop.
+
+#include <QObject>
+#include <QTimer>
+
+#include "Platform/Platform.h"
+#include "Platform/linux/MediaCatalog.h"
+#include "Platform/linux/MountTable.h"
+#include "Platform/linux/Requests.h"
+#include "Platform/linux/ServiceTree.h"
+#include "Platform/linux/VolumeEvents.h"
+
+class LinuxDiskService final : public QObject, public DiskService, public MediaRegistry {
+ public:
+  /// News are posted to `workspace`, which must outlive this.
+  LinuxDiskService(const QDBusConnection &connection, UnitNumbers units,
+                   NotificationCenter &workspace);
+
+  Presence presence() const override { return _tree.presence(); }
+  std::optional<DiskDescription> descriptionOfMedia(const QString &bsdName) const override;
+  std::optional<DiskDescription> descriptionOfVolume(const QString &mountPoint) const override;
+  void mount(const QString &bsdName, const std::optional<QString> &path,
+             Completion completion) override;
+  void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
+
+  QStringList mediaNames() const override;
+  QStringList mediaNamesOnDisk(const QString &wholeDisk) const override;
+
+ private:
+  void refresh() const;
+  std::optional<DiskDescription> describe(const Medium *medium) const;
+  std::optional<Dissenter> refusalOf(const Medium *medium) const;
+  Completion afterTheNews(Completion completion);
+
+  void postNews();
+  void postChange();
+  void postRename(quint64 device);
+  void changePresence();
+  void removeInterfaces(const QString &path, const QStringList &interfaces, quint64 device);
+  void post(const QList<VolumeEvent> &events);
+
+  NotificationCenter &_workspace;
+  mutable ServiceTree _tree;
+  Requests _requests;
+  QTimer _soon;
+  VolumeEvents _events;
+
+  // What the last question, or the last event, found.
+  mutable MountTable _mounts;
+  mutable MediaCatalog _media;
+  mutable QHash<QString, DiskDescription> _mounted;  // the whole descriptions of what is mounted
+  mutable bool _isChangeUntold = false;
+};

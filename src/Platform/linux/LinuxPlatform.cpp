@@ -1,0 +1,82 @@
+#include "Platform/linux/LinuxPlatform.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <QDBusConnection>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include "Foundation/NotificationCenter.h"
+#include "Platform/common/FileSystemFiles.h"
+#include "Platform/common/QtRunLoop.h"
+#include "Platform/common/SettingsDefaults.h"
+#include "Platform/common/SystemClock.h"
+#include "Platform/common/SystemFilesRoot.h"
+#include "Platform/linux/LinuxDiskService.h"
+#include "Platform/linux/XdgLoginItems.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString bootId() {
+  QFile file(u"/proc/sys/kernel/random/boot_id"_s);
+  return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll().trimmed()) : QString();
+}
+
+UnitNumbers sharedUnitNumbers() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+  const QString file = folder.isEmpty() ? QString() : folder + u"/keldra/units"_s;
+  return {BlockDevices(u"/sys/block"_s), UnitFile(file, bootId())};
+}
+
+QString settingsFile() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+         u"/keldra/settings.ini"_s;
+}
+
+// The disk service mounts below the first of these on distributions that have it, else below the
+// second.
+QString mountFolderOfUser() {
+  const passwd *entry = getpwuid(getuid());
+  const QString user =
+      entry == nullptr ? QString::number(getuid()) : QString::fromLocal8Bit(entry->pw_name);
+  const QString folder = u"/run/media/"_s + user;
+  return QFileInfo(folder).isDir() ? folder : u"/media/"_s + user;
+}
+
+class LinuxPlatform final : public Platform {
+ public:
+  LinuxPlatform()
+      : _systemFiles(systemFilesRoot()),
+        _loginItems(XdgLoginItems::ofThisUser()),
+        _userDefaults(settingsFile()),
+        _disks(QDBusConnection::systemBus(), sharedUnitNumbers(), _workspace) {}
+
+  DiskService &diskService() override { return _disks; }
+  MediaRegistry &mediaRegistry() override { return _disks; }
+  RunLoop &runLoop() override { return _runLoop; }
+  Clock &clock() override { return _clock; }
+  SystemFiles &systemFiles() override { return _systemFiles; }
+  LoginItems &loginItems() override { return _loginItems; }
+  UserDefaults &userDefaults() override { return _userDefaults; }
+  QString volumesFolder() const override { return mountFolderOfUser(); }
+  NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
+
+ private:
+  NotificationCenter _workspace;
+  QtRunLoop _runLoop;
+  SystemClock _clock;
+  FileSystemFiles _systemFiles;
+  XdgLoginItems _loginItems;
+  SettingsDefaults _userDefaults;
+  LinuxDiskService _disks;
+};
+
+}  // namespace
+
+std::unique_ptr<Platform> makeLinuxPlatform() {
+  return std::make_unique<LinuxPlatform>();
+}

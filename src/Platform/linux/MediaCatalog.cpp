@@ -1,0 +1,113 @@
+#include "Platform/linux/MediaCatalog.h"
+
+#include <algorithm>
+#include <tuple>
+#include <vector>
+
+#include "Platform/linux/MediumNames.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString driveOf(const ServiceObject &block) {
+  return block.link(kBlockInterface, u"Drive"_s);
+}
+
+QString diskOf(const ServiceObject &partition) {
+  return partition.link(kPartitionInterface, u"Table"_s);
+}
+
+WholeDisk wholeDisk(const ServiceObject &block) {
+  return {kernelNameOf(block), block.number(kBlockInterface, u"DeviceNumber"_s).value_or(0)};
+}
+
+// A partition is called after its disk, and both tell of their drive.
+QSet<QString> withDependants(const ServiceObjects &objects, QSet<QString> changed) {
+  const bool onlyPartitions = std::ranges::all_of(
+      changed, [&](const QString &path) { return objects.value(path).has(kPartitionInterface); });
+  if (onlyPartitions) return changed;
+  const QSet<QString> causes = changed;
+  for (auto object = objects.begin(); object != objects.end(); ++object) {
+    if (causes.contains(driveOf(*object)) || causes.contains(diskOf(*object))) {
+      changed.insert(object.key());
+    }
+  }
+  return changed;
+}
+
+}  // namespace
+
+bool MediaCatalog::update(const ServiceObjects &objects, const QSet<QString> &changed) {
+  const QSet<QString> paths = withDependants(objects, changed);
+  const bool disksDiffer = updateDisks(objects, paths);
+  const bool partitionsDiffer = updatePartitions(objects, paths);
+  if (disksDiffer || partitionsDiffer) arrange();
+  return disksDiffer || partitionsDiffer;
+}
+
+bool MediaCatalog::updateDisks(const ServiceObjects &objects, const QSet<QString> &paths) {
+  bool differs = false;
+  QStringList found;
+  QList<WholeDisk> disks;
+  for (const QString &path : paths) {
+    const ServiceObject object = objects.value(path);
+    if (isWholeDisk(object)) {
+      found << path;
+      disks << wholeDisk(object);
+    } else if (!object.has(kPartitionInterface)) {
+      differs |= put(path, std::nullopt);
+    }
+  }
+  const QList<int> units = _units.unitsOf(disks);
+  for (qsizetype i = 0; i < found.size(); ++i) {
+    const ServiceObject block = objects.value(found[i]);
+    differs |=
+        put(found[i], describeDisk(found[i], block, objects.value(driveOf(block)), units[i]));
+  }
+  return differs;
+}
+
+bool MediaCatalog::updatePartitions(const ServiceObjects &objects, const QSet<QString> &paths) {
+  bool differs = false;
+  for (const QString &path : paths) {
+    const ServiceObject object = objects.value(path);
+    if (!object.has(kPartitionInterface)) continue;
+    const auto disk = _media.find(diskOf(object));
+    const bool hasDisk = disk != _media.end() && disk->second.slice == 0;
+    differs |=
+        put(path, hasDisk ? describePartition(path, object, objects.value(disk->first),
+                                              objects.value(driveOf(object)), disk->second.unit)
+                          : std::nullopt);
+  }
+  return differs;
+}
+
+bool MediaCatalog::put(const QString &path, const std::optional<Medium> &medium) {
+  if (!medium) return _media.erase(path) > 0;
+  const auto before = _media.find(path);
+  if (before != _media.end() && before->second == *medium) return false;
+  _media.insert_or_assign(path, *medium);
+  return true;
+}
+
+void MediaCatalog::arrange() {
+  std::vector<const Medium *> media;
+  for (const auto &[path, medium] : _media) media.push_back(&medium);
+  std::ranges::sort(media, {}, [](const Medium *medium) {
+    return std::tie(medium->unit, medium->slice, medium->objectPath);
+  });
+  _byName.clear();
+  _byDevice.clear();
+  _names.clear();
+  _namesOnDisk.clear();
+  for (const Medium *medium : media) {
+    const QString name = medium->bsdName();
+    if (_byName.contains(name))
+      continue;  // two objects for one thing, as in the middle of a change
+    _byName.insert(name, medium);
+    _byDevice.insert(medium->device, medium);
+    _names << name;
+    _namesOnDisk[medium->wholeDisk()] << name;
+  }
+}

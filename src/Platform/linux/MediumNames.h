@@ -1,0 +1,28 @@
+#pragma once
+
+// How a disk or partition is called, and what it holds, in the words of the disk descriptions.
+
+#include "Platform/linux/ServiceObject.h"
+
+/// The name in "/dev/", in the form that sysfs uses: "sda1". Empty when the object has no device.
+QString kernelNameOf(const ServiceObject &block);
+
+/// "EFI System Partition" for every partition of that type, whatever its label says; for others the
+/// name in the partition table, else what their type is for. Never empty.
+QString mediaNameOfPartition(const ServiceObject &partition);
+
+/// The file's name for a loop device, vendor and model for a drive (whose object may be empty), the
+/// mapped name for what has none. Never empty.
+QString mediaNameOfDisk(const ServiceObject &block, const ServiceObject &drive);
+
+/// The partition scheme. Absent for a disk without partitions, or with a scheme of another kind.
+std::optional<QString> contentOfDisk(const ServiceObject &block);
+
+/// The partition's type: a GUID in capitals, or "0x" and two digits. Absent when unknown.
+std::optional<QString> contentOfPartition(const ServiceObject &partition);
+
+/// How the drive is attached. Absent when there is nothing to tell.
+std::optional<QString> protocolOf(const ServiceObject &block, const ServiceObject &drive);
+
+/// "msdos" for all FAT file systems, else the file system's own name. Absent when there is none.
+std::optional<QString> volumeKindOf(const ServiceObject &block);

@@ -1,0 +1,98 @@
+#include "Platform/linux/MountTable.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QSocketNotifier>
+#include <array>
+#include <utility>
+
+namespace {
+
+int openTable(const QString &file) {
+  return open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
+}
+
+// A file system that may span several devices has no device number of its own: its source names
+// one.
+quint64 deviceBehind(const MountLine &line) {
+  if (major(line.device) != 0) return line.device;
+  if (line.fileSystem != "btrfs") return 0;
+  struct stat source {};
+  if (stat(line.source.constData(), &source) != 0 || !S_ISBLK(source.st_mode)) return 0;
+  return source.st_rdev;
+}
+
+bool isWholeVolume(const MountLine &line) {
+  return line.root == "/" || line.fileSystem == "btrfs";  // there it is a subvolume
+}
+
+}  // namespace
+
+MountTable::MountTable(const QString &file) : _table(openTable(file)), _wakeUp(openTable(file)) {}
+
+MountTable::~MountTable() {
+  _notifier.reset();
+  if (_table >= 0) close(_table);
+  if (_wakeUp >= 0) close(_wakeUp);
+}
+
+void MountTable::setChangeHandler(std::function<void()> handler) {
+  if (_wakeUp < 0) return;
+  _notifier = std::make_unique<QSocketNotifier>(_wakeUp, QSocketNotifier::Exception);
+  QObject::connect(_notifier.get(), &QSocketNotifier::activated, _notifier.get(),
+                   [call = std::move(handler)] { call(); });
+}
+
+bool MountTable::hasChanged() const {
+  pollfd question{_table, POLLPRI, 0};
+  return poll(&question, 1, 0) > 0 && (question.revents & (POLLPRI | POLLERR)) != 0;
+}
+
+bool MountTable::refresh() {
+  const bool isStale = hasChanged() || !_isRead;
+  if (_table < 0 || !isStale) return false;
+  _isRead = true;
+  // The kernel hands the table out in pieces: one that has changed meanwhile may not fit together.
+  constexpr int kTries = 10;
+  QByteArray text = readAll();
+  for (int i = 0; i < kTries && hasChanged(); ++i) text = readAll();
+  takeLines(parseMountTable(text));
+  return true;
+}
+
+QByteArray MountTable::readAll() const {
+  QByteArray text;
+  std::array<char, 16384> piece;
+  lseek(_table, 0, SEEK_SET);
+  for (ssize_t size = 1; size > 0;) {
+    size = read(_table, piece.data(), piece.size());
+    if (size > 0) text.append(piece.data(), size);
+  }
+  return text;
+}
+
+void MountTable::takeLines(const QList<MountLine> &lines) {
+  _mounts.clear();
+  _mountPointOf.clear();
+  _deviceAt.clear();
+  for (const MountLine &line : lines) {
+    const quint64 device = isWholeVolume(line) ? deviceBehind(line) : 0;
+    const QString mountPoint = QFile::decodeName(line.mountPoint);
+    _deviceAt.insert(mountPoint, device);
+    if (device == 0) continue;
+    _mounts.append({line.id, device, mountPoint});
+    QString &shown = _mountPointOf[device];
+    if (shown.isEmpty() || mountPoint == QLatin1StringView("/")) shown = mountPoint;
+  }
+}
+
+std::optional<QString> MountTable::mountPointOf(quint64 device) const {
+  const auto found = _mountPointOf.constFind(device);
+  if (found == _mountPointOf.constEnd()) return std::nullopt;
+  return *found;
+}

@@ -1,0 +1,74 @@
+#include "Platform/linux/Refusals.h"
+
+#include <QHash>
+#include <array>
+#include <cerrno>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kServicePrefix = "org.freedesktop.UDisks2.Error."_L1;
+constexpr auto kBusPrefix = "org.freedesktop.DBus.Error."_L1;
+
+const QHash<QString, DAReturn> &serviceStatuses() {
+  static const QHash<QString, DAReturn> statuses{
+      {u"AlreadyMounted"_s, kDAReturnBusy},
+      {u"DeviceBusy"_s, kDAReturnBusy},
+      {u"NotMounted"_s, kDAReturnNotMounted},
+      {u"NotAuthorizedCanObtain"_s, kDAReturnNotPrivileged},
+      {u"NotAuthorized"_s, kDAReturnNotPermitted},
+      {u"OptionNotPermitted"_s, kDAReturnNotPermitted},
+      {u"NotAuthorizedDismissed"_s, unixErrorStatus(ECANCELED)},
+      {u"Cancelled"_s, unixErrorStatus(ECANCELED)},
+      {u"NotSupported"_s, kDAReturnUnsupported},
+  };
+  return statuses;
+}
+
+const QHash<QString, DAReturn> &busStatuses() {
+  static const QHash<QString, DAReturn> statuses{
+      {u"ServiceUnknown"_s, kDAReturnNotReady}, {u"NameHasNoOwner"_s, kDAReturnNotReady},
+      {u"NoReply"_s, kDAReturnNotReady},        {u"Disconnected"_s, kDAReturnNotReady},
+      {u"NoServer"_s, kDAReturnNotReady},       {u"Timeout"_s, kDAReturnNotReady},
+      {u"TimedOut"_s, kDAReturnNotReady},       {u"AccessDenied"_s, kDAReturnNotPermitted},
+  };
+  return statuses;
+}
+
+// Some refusals have no name of their own: only the message tells them from the rest.
+DAReturn statusFromMessage(const QString &message) {
+  const std::array<std::pair<QLatin1StringView, DAReturn>, 3> fragments{{
+      {"No space left on device"_L1, unixErrorStatus(ENOSPC)},
+      {"Read-only file system"_L1, kDAReturnNotWritable},
+      {"write-protected"_L1, kDAReturnNotWritable},
+  }};
+  for (const auto &[fragment, status] : fragments) {
+    if (message.contains(fragment, Qt::CaseInsensitive)) return status;
+  }
+  return kDAReturnError;
+}
+
+bool isUnknown(const QString &error) {
+  return error == "UnknownMethod"_L1 || error == "UnknownObject"_L1 ||
+         error == "UnknownInterface"_L1;
+}
+
+DAReturn statusFromBus(const QString &error, bool objectIsThere) {
+  if (isUnknown(error)) return objectIsThere ? kDAReturnUnsupported : kDAReturnNotFound;
+  if (error.startsWith("Spawn."_L1)) return kDAReturnNotReady;  // the service could not be started
+  return busStatuses().value(error, kDAReturnError);
+}
+
+}  // namespace
+
+DAReturn refusalStatus(const QString &errorName, const QString &message, bool objectIsThere) {
+  if (errorName.startsWith(kBusPrefix)) {
+    return statusFromBus(errorName.sliced(kBusPrefix.size()), objectIsThere);
+  }
+  if (!errorName.startsWith(kServicePrefix)) return kDAReturnError;
+  const QString error = errorName.sliced(kServicePrefix.size());
+  if (error == "Failed"_L1) return statusFromMessage(message);
+  return serviceStatuses().value(error, kDAReturnError);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+#include "Platform/Dissenter.h"
+
+/// What an error of the disk service, or of the bus on the way to it, means as a dissenter's
+/// status. `objectIsThere`: whether the service still has the object that was asked; it answers
+/// with the same error for an object that is gone and for one that cannot do what was asked.
+DAReturn refusalStatus(const QString &errorName, const QString &message, bool objectIsThere);

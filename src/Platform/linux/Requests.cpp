@@ -1,0 +1,90 @@
+#include "Platform/linux/Requests.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QtConcurrent>
+#include <limits>
+
+#include "Foundation/SystemLog.h"
+#include "Platform/linux/Flush.h"
+#include "Platform/linux/Refusals.h"
+#include "Platform/linux/ServiceTree.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A person may be typing a password.
+constexpr int kNoTimeOut = std::numeric_limits<int>::max();
+
+const QString kMount = u"Mount"_s;
+const QString kUnmount = u"Unmount"_s;
+
+}  // namespace
+
+void Requests::mount(const Medium &medium, DiskService::Completion completion) {
+  send(enter(medium, kMount, {}, std::move(completion)));
+}
+
+void Requests::unmount(const Medium &medium, DiskService::Completion completion) {
+  send(enter(medium, kUnmount, {}, std::move(completion)));
+}
+
+// The service's forced unmount is a lazy one: it returns at once, with the data still on its way.
+void Requests::forceUnmount(const Medium &medium, const QString &mountPoint,
+                            DiskService::Completion completion) {
+  const Number number = enter(medium, kUnmount, {{u"force"_s, true}}, std::move(completion));
+  QtConcurrent::run(flushVolume, mountPoint).then(this, [this, number] { send(number); });
+}
+
+Requests::Number Requests::enter(const Medium &medium, const QString &method,
+                                 const QVariantMap &options, DiskService::Completion completion) {
+  const Number number = ++_last;
+  _pending.insert(number, {medium.bsdName(), medium.objectPath, method, options, completion});
+  return number;
+}
+
+void Requests::send(Number number) {
+  const auto request = _pending.constFind(number);
+  if (request == _pending.constEnd()) return;  // completed during the flush
+  auto call = QDBusMessage::createMethodCall(kDiskServiceName, request->objectPath,
+                                             kFilesystemInterface, request->method);
+  call.setArguments({request->options});
+  call.setInteractiveAuthorizationAllowed(true);
+  auto *watcher = new QDBusPendingCallWatcher(_tree.connection().asyncCall(call, kNoTimeOut), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, number, watcher] {
+    watcher->deleteLater();
+    takeAnswer(number, watcher->reply());
+  });
+}
+
+void Requests::takeAnswer(Number number, const QDBusMessage &answer) {
+  const auto request = _pending.constFind(number);
+  if (request == _pending.constEnd()) return;
+  if (answer.type() != QDBusMessage::ErrorMessage) return complete(number, std::nullopt);
+  systemLog(u"%1 of %2 refused: %3: %4"_s.arg(request->method, request->bsdName, answer.errorName(),
+                                              answer.errorMessage()));
+  const bool isThere = _tree.objects().contains(request->objectPath);
+  complete(number, Dissenter{refusalStatus(answer.errorName(), answer.errorMessage(), isThere)});
+}
+
+void Requests::failAll() {
+  const auto numbers = _pending.keys();
+  for (const Number number : numbers) complete(number, Dissenter{kDAReturnNotReady});
+}
+
+void Requests::failVanished(const QString &objectPath, bool isMounted) {
+  const auto numbers = _pending.keys();
+  for (const Number number : numbers) {
+    const auto request = _pending.constFind(number);
+    if (request == _pending.constEnd() || request->objectPath != objectPath) continue;
+    const bool isDone = request->method == kUnmount && !isMounted;
+    complete(number, isDone ? std::nullopt : std::optional(Dissenter{kDAReturnNotFound}));
+  }
+}
+
+// Taken out first: a completion may ask for more, or wait in the event loop.
+void Requests::complete(Number number, const std::optional<Dissenter> &dissenter) {
+  const Request request = _pending.take(number);
+  if (request.completion) request.completion(dissenter);
+}

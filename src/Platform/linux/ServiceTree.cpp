@@ -1,0 +1,190 @@
+#include "Platform/linux/ServiceTree.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <algorithm>
+#include <limits>
+
+#include "Foundation/SystemLog.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using ManagedObjects = QMap<QDBusObjectPath, InterfaceMap>;
+
+const QString kRootPath = u"/org/freedesktop/UDisks2"_s;
+const QString kObjectManager = u"org.freedesktop.DBus.ObjectManager"_s;
+const QString kProperties = u"org.freedesktop.DBus.Properties"_s;
+const QString kLocal = u"org.freedesktop.DBus.Local"_s;
+
+// Nobody waits for the tree, so that a slow answer is as good as a quick one.
+constexpr int kNoTimeOut = std::numeric_limits<int>::max();
+
+// A service that lives no longer than this is dying again and again.
+constexpr auto kShortLife = 10s;
+constexpr auto kFirstDelay = 50ms;
+constexpr auto kLongestDelay = 2000ms;
+
+// Jobs come and go with every operation and say nothing of disks.
+bool isJob(const QString &path) {
+  return path.startsWith(u"/org/freedesktop/UDisks2/jobs/"_s);
+}
+
+quint64 deviceOf(const ServiceObject &object) {
+  return object.number(kBlockInterface, u"DeviceNumber"_s).value_or(0);
+}
+
+}  // namespace
+
+ServiceTree::ServiceTree(const QDBusConnection &connection) : _connection(connection) {
+  qDBusRegisterMetaType<InterfaceMap>();
+  qDBusRegisterMetaType<ManagedObjects>();
+  if (!_connection.isConnected()) {
+    systemLog(u"there is no system bus: "_s + _connection.lastError().message());
+    _presence = DiskService::Presence::Absent;
+    return;
+  }
+  _again.setSingleShot(true);
+  connect(&_again, &QTimer::timeout, this, &ServiceTree::fetch);
+  followSignals();
+  fetch();
+}
+
+void ServiceTree::followSignals() {
+  _watcher.setConnection(_connection);
+  _watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
+  _watcher.addWatchedService(kDiskServiceName);
+  connect(&_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+          [this](const QString &, const QString &before, const QString &after) {
+            changeOwner(before, after);
+          });
+  _connection.connect(kDiskServiceName, kRootPath, kObjectManager, u"InterfacesAdded"_s, this,
+                      SLOT(addInterfaces(QDBusMessage)));
+  _connection.connect(kDiskServiceName, kRootPath, kObjectManager, u"InterfacesRemoved"_s, this,
+                      SLOT(removeInterfaces(QDBusMessage)));
+  _connection.connect(kDiskServiceName, {}, kProperties, u"PropertiesChanged"_s, this,
+                      SLOT(changeProperties(QDBusMessage)));
+  _connection.connect({}, {}, kLocal, u"Disconnected"_s, this, SLOT(loseBus()));
+}
+
+void ServiceTree::fetch() {
+  _sinceFetch.start();
+  const auto question = QDBusMessage::createMethodCall(kDiskServiceName, kRootPath, kObjectManager,
+                                                       u"GetManagedObjects"_s);
+  _fetching = new QDBusPendingCallWatcher(_connection.asyncCall(question, kNoTimeOut), this);
+  connect(_fetching, &QDBusPendingCallWatcher::finished, this, &ServiceTree::takeTree);
+}
+
+void ServiceTree::fetchAgain() {
+  _fetching = nullptr;
+  const bool diesAgain =
+      _sinceFetch.isValid() && std::chrono::milliseconds(_sinceFetch.elapsed()) < kShortLife;
+  _delay = diesAgain ? std::clamp<std::chrono::milliseconds>(_delay * 2, kFirstDelay, kLongestDelay)
+                     : 0ms;
+  _again.start(_delay);
+}
+
+void ServiceTree::takeTree(QDBusPendingCallWatcher *call) {
+  call->deleteLater();
+  if (call != _fetching) return;
+  _fetching = nullptr;
+  const QDBusPendingReply<ManagedObjects> reply = *call;
+  if (reply.isError()) return fetchFailed(reply.error());
+  const ManagedObjects tree = reply.value();
+  ServiceObjects objects;
+  objects.reserve(tree.size());
+  for (auto entry = tree.begin(); entry != tree.end(); ++entry) {
+    if (!isJob(entry.key().path())) objects[entry.key().path()].add(entry.value());
+  }
+  replaceTree(std::move(objects));
+  setPresence(DiskService::Presence::Answering);
+}
+
+void ServiceTree::fetchFailed(const QDBusError &error) {
+  // It died over the question; its successor may do better.
+  if (error.type() == QDBusError::NoReply) return fetchAgain();
+  systemLog(u"no disk service: %1: %2"_s.arg(error.name(), error.message()));
+  replaceTree({});
+  setPresence(DiskService::Presence::Absent);
+}
+
+void ServiceTree::changeOwner(const QString &before, const QString &after) {
+  if (!before.isEmpty()) {
+    fetchAgain();
+    emit serviceLost();
+  } else if (!after.isEmpty() && _fetching == nullptr && !_again.isActive()) {
+    fetch();
+  }
+}
+
+void ServiceTree::loseBus() {
+  _fetching = nullptr;
+  _again.stop();
+  systemLog(u"the system bus is gone"_s);
+  replaceTree({});
+  setPresence(DiskService::Presence::Absent);
+  emit serviceLost();
+}
+
+void ServiceTree::replaceTree(ServiceObjects objects) {
+  const ServiceObjects before = std::exchange(_objects, std::move(objects));
+  for (auto old = before.begin(); old != before.end(); ++old) {
+    if (!_objects.contains(old.key())) _changes.insert(old.key());
+  }
+  for (auto now = _objects.begin(); now != _objects.end(); ++now) {
+    const auto old = before.constFind(now.key());
+    if (old == before.constEnd() || *old != *now) _changes.insert(now.key());
+  }
+  if (hasChanges()) emit objectsChanged();
+}
+
+void ServiceTree::setPresence(DiskService::Presence presence) {
+  if (std::exchange(_presence, presence) != presence) emit presenceChanged();
+}
+
+void ServiceTree::noteChange(const QString &path) {
+  _changes.insert(path);
+  emit objectsChanged();
+}
+
+void ServiceTree::addInterfaces(const QDBusMessage &message) {
+  if (message.signature() != "oa{sa{sv}}"_L1) return;
+  const QString path = message.arguments().at(0).value<QDBusObjectPath>().path();
+  if (isJob(path)) return;
+  _objects[path].add(qdbus_cast<InterfaceMap>(message.arguments().at(1)));
+  noteChange(path);
+}
+
+void ServiceTree::removeInterfaces(const QDBusMessage &message) {
+  if (message.signature() != "oas"_L1) return;
+  const QString path = message.arguments().at(0).value<QDBusObjectPath>().path();
+  const QStringList interfaces = message.arguments().at(1).toStringList();
+  const auto object = _objects.find(path);
+  if (object == _objects.end()) return;
+  const quint64 device = deviceOf(*object);
+  object->remove(interfaces);
+  if (object->isEmpty()) _objects.erase(object);
+  noteChange(path);
+  emit interfacesRemoved(path, interfaces, device);
+}
+
+void ServiceTree::changeProperties(const QDBusMessage &message) {
+  if (message.signature() != "sa{sv}as"_L1) return;
+  const auto object = _objects.find(message.path());
+  if (object == _objects.end()) return;
+  const auto label = [&object] { return object->text(kBlockInterface, u"IdLabel"_s); };
+  const auto labelBefore = label();
+  object->change(message.arguments().at(0).toString(),
+                 qdbus_cast<QVariantMap>(message.arguments().at(1)),
+                 message.arguments().at(2).toStringList());
+  const quint64 device = deviceOf(*object);
+  const bool isRenamed = label() != labelBefore;
+  noteChange(message.path());
+  if (isRenamed) emit labelChanged(device);
+}

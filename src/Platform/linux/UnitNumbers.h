@@ -1,0 +1,32 @@
+#pragma once
+
+// Which disk is disk0, which disk1 and so on.
+//
+// A disk keeps its number until the machine is started anew, in every program of the session,
+// whatever order the disk service announces disks in. Where the numbers cannot be shared, this
+// program has its own.
+
+#include "Platform/linux/BlockDevices.h"
+#include "Platform/linux/UnitFile.h"
+
+class UnitNumbers {
+ public:
+  UnitNumbers(BlockDevices devices, UnitFile file);
+
+  /// The numbers of these disks, in the same order. May write the file, and wait for another
+  /// program that is writing it, but never for long.
+  QList<int> unitsOf(const QList<WholeDisk> &disks);
+
+ private:
+  struct Candidate {
+    WholeDisk disk;
+    QString identity;
+  };
+
+  void number(QList<Candidate> candidates);
+  void adopt(const Units &shared);
+
+  BlockDevices _devices;
+  UnitFile _file;
+  Units _units;
+};

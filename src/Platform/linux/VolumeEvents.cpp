@@ -1,0 +1,44 @@
+#include "Platform/linux/VolumeEvents.h"
+
+#include <QSet>
+
+#include "Platform/Platform.h"
+
+void VolumeEvents::noteKnownMedia(const MediaCatalog &media) {
+  for (auto mount = _told.begin(); mount != _told.end(); ++mount) {
+    if (media.onDevice(mount.key().device) != nullptr) *mount = true;
+  }
+}
+
+void VolumeEvents::accept(const MountTable &table, const MediaCatalog &media) {
+  for (const Mount &mount : table.mounts()) {
+    if (!_told.contains(mount)) _told.insert(mount, false);
+  }
+  noteKnownMedia(media);
+}
+
+QList<VolumeEvent> VolumeEvents::forget(const std::function<bool(const Mount &)> &isGone) {
+  QList<VolumeEvent> events;
+  _told.removeIf([&](const auto &mount) {
+    if (!isGone(mount.key())) return false;
+    if (*mount) events.append({kNSWorkspaceDidUnmountNotification, mount.key().mountPoint});
+    return true;
+  });
+  return events;
+}
+
+QList<VolumeEvent> VolumeEvents::news(const MountTable &table, const MediaCatalog &media) {
+  noteKnownMedia(media);
+  const QSet<Mount> current(table.mounts().begin(), table.mounts().end());
+  QList<VolumeEvent> events = forget([&](const Mount &mount) { return !current.contains(mount); });
+  for (const Mount &mount : table.mounts()) {
+    if (_told.contains(mount) || media.onDevice(mount.device) == nullptr) continue;
+    _told.insert(mount, true);
+    events.append({kNSWorkspaceDidMountNotification, mount.mountPoint});
+  }
+  return events;
+}
+
+QList<VolumeEvent> VolumeEvents::pulled(quint64 device) {
+  return forget([&](const Mount &mount) { return mount.device == device; });
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+// A machine as data: what a machine file says, and what a simulated platform changes as it runs.
+
+#include <QString>
+#include <QVector>
+#include <chrono>
+#include <optional>
+
+#include "Platform/Dissenter.h"
+#include "Platform/Platform.h"
+
+struct SimulatedPartition {
+  int slice = 1;
+  QString media;
+  QString content;
+  QString uuid;
+  QString deviceNode;
+  // The volume on it; one without a kind cannot be mounted.
+  QString volumeKind;
+  QString volumeName;
+  QString volumeUUID;
+  /// Absent while it is not mounted.
+  std::optional<QString> mountPoint;
+  // How the service answers: a refusal stands until it is taken away.
+  std::optional<DAReturn> mountRefusal;
+  std::optional<DAReturn> unmountRefusal;
+  std::chrono::milliseconds delay{0};
+};
+
+struct SimulatedDisk {
+  int unit = 0;
+  QString media;
+  QString scheme;
+  QString uuid;
+  QString protocol;
+  QString deviceNode;
+  bool isWritable = true;
+  bool isEjectable = false;
+  bool isInternal = false;
+  QVector<SimulatedPartition> partitions;
+
+  QString bsdName() const { return QStringLiteral("disk%1").arg(unit); }
+  QString bsdName(const SimulatedPartition &partition) const {
+    return QStringLiteral("disk%1s%2").arg(unit).arg(partition.slice);
+  }
+};
+
+struct Machine {
+  QString productVersion = QStringLiteral("10.15");
+  DiskService::Presence presence = DiskService::Presence::Answering;
+  QVector<SimulatedDisk> disks;
+};

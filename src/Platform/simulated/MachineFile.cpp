@@ -1,0 +1,201 @@
+#include "Platform/simulated/MachineFile.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonParseError>
+#include <QSet>
+#include <utility>
+
+#include "DiskArbitrator/daStatus.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLargestUnit = 99999;
+constexpr int kLargestDelay = 3'600'000;
+
+/// One JSON object, its place in the file, and which of its keys were asked for. Throws
+/// MachineFileError.
+class Reader {
+ public:
+  Reader(const QJsonValue &value, QString place) : _place(std::move(place)) {
+    if (!value.isObject()) throw MachineFileError{_place, u"an object in braces is needed"_s};
+    _object = value.toObject();
+  }
+
+  QString text(const QString &key, const QString &absent = {}) {
+    const QJsonValue value = take(key);
+    if (value.isUndefined()) return absent;
+    if (!value.isString()) fail(key, u"a text in quotes is needed"_s);
+    return value.toString();
+  }
+
+  bool flag(const QString &key, bool absent) {
+    const QJsonValue value = take(key);
+    if (value.isUndefined()) return absent;
+    if (!value.isBool()) fail(key, u"true or false is needed"_s);
+    return value.toBool();
+  }
+
+  int number(const QString &key, int smallest, int largest, std::optional<int> absent = {}) {
+    const QJsonValue value = take(key);
+    if (value.isUndefined() && absent.has_value()) return *absent;
+    const int number = value.toInt(smallest - 1);
+    if (number < smallest || number > largest) {
+      fail(key, u"a whole number from %1 to %2 is needed"_s.arg(smallest).arg(largest));
+    }
+    return number;
+  }
+
+  std::optional<Reader> object(const QString &key) {
+    const QJsonValue value = take(key);
+    if (value.isUndefined()) return std::nullopt;
+    return Reader(value, placeOf(key));
+  }
+
+  std::optional<DAReturn> status(const QString &key) {
+    const QJsonValue value = take(key);
+    if (value.isUndefined()) return std::nullopt;
+    if (value.isDouble()) return static_cast<DAReturn>(value.toInteger());
+    for (DAReturn status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
+      if (value.toString() == QLatin1StringView(daStatus(status))) return status;
+    }
+    fail(key, u"a status phrase such as \"busy\", or a number, is needed"_s);
+  }
+
+  template <typename Read>
+  void forEach(const QString &key, Read read) {
+    const QJsonValue value = take(key);
+    if (value.isUndefined()) return;
+    if (!value.isArray()) fail(key, u"a list in brackets is needed"_s);
+    const QJsonArray array = value.toArray();
+    for (qsizetype index = 0; index < array.size(); ++index) {
+      Reader each(array[index], u"%1[%2]"_s.arg(placeOf(key)).arg(index));
+      read(each);
+      each.expectNothingElse();
+    }
+  }
+
+  void expectNothingElse() const {
+    for (const QString &key : _object.keys()) {
+      if (!_known.contains(key)) fail(key, u"nothing by this name is known here"_s);
+    }
+  }
+
+  [[noreturn]] void fail(const QString &key, const QString &reason) const {
+    throw MachineFileError{placeOf(key), reason};
+  }
+
+ private:
+  QJsonValue take(const QString &key) {
+    _known.insert(key);
+    return _object.value(key);
+  }
+
+  QString placeOf(const QString &key) const { return _place.isEmpty() ? key : _place + u'.' + key; }
+
+  QString _place;
+  QJsonObject _object;
+  QSet<QString> _known;
+};
+
+void readVolume(Reader &reader, SimulatedPartition &partition) {
+  partition.volumeKind = reader.text(u"kind"_s);
+  partition.volumeName = reader.text(u"name"_s);
+  partition.volumeUUID = reader.text(u"uuid"_s);
+  const QString mountPoint = reader.text(u"mountPoint"_s);
+  if (!mountPoint.isEmpty()) partition.mountPoint = mountPoint;
+  reader.expectNothingElse();
+}
+
+SimulatedPartition readPartition(Reader &reader) {
+  SimulatedPartition partition;
+  partition.slice = reader.number(u"slice"_s, 1, kLargestUnit);
+  partition.media = reader.text(u"media"_s);
+  partition.content = reader.text(u"content"_s);
+  partition.uuid = reader.text(u"uuid"_s);
+  partition.deviceNode = reader.text(u"device"_s);
+  partition.delay = std::chrono::milliseconds(reader.number(u"delay"_s, 0, kLargestDelay, 0));
+  if (auto volume = reader.object(u"volume"_s)) readVolume(*volume, partition);
+  if (auto refuse = reader.object(u"refuse"_s)) {
+    partition.mountRefusal = refuse->status(u"mount"_s);
+    partition.unmountRefusal = refuse->status(u"unmount"_s);
+    refuse->expectNothingElse();
+  }
+  return partition;
+}
+
+SimulatedDisk readDisk(Reader &reader) {
+  SimulatedDisk disk;
+  disk.unit = reader.number(u"unit"_s, 0, kLargestUnit);
+  disk.media = reader.text(u"media"_s);
+  disk.scheme = reader.text(u"scheme"_s);
+  disk.uuid = reader.text(u"uuid"_s);
+  disk.protocol = reader.text(u"protocol"_s);
+  disk.deviceNode = reader.text(u"device"_s);
+  disk.isWritable = reader.flag(u"writable"_s, true);
+  disk.isEjectable = reader.flag(u"ejectable"_s, false);
+  disk.isInternal = reader.flag(u"internal"_s, false);
+  QSet<int> slices;
+  reader.forEach(u"partitions"_s, [&](Reader &each) {
+    disk.partitions.append(readPartition(each));
+    const int slice = disk.partitions.last().slice;
+    if (slices.contains(slice))
+      each.fail(u"slice"_s, u"the disk has a slice %1 already"_s.arg(slice));
+    slices.insert(slice);
+  });
+  return disk;
+}
+
+DiskService::Presence readPresence(Reader &reader) {
+  using enum DiskService::Presence;
+  const QString presence = reader.text(u"service"_s, u"answering"_s);
+  if (presence == "answering"_L1) return Answering;
+  if (presence == "asking"_L1) return Asking;
+  if (presence == "absent"_L1) return Absent;
+  reader.fail(u"service"_s, u"\"answering\", \"asking\" or \"absent\" is needed"_s);
+}
+
+Machine readMachine(const QJsonValue &root) {
+  Machine machine;
+  Reader reader(root, QString());
+  machine.productVersion = reader.text(u"productVersion"_s, machine.productVersion);
+  machine.presence = readPresence(reader);
+  QSet<int> units;
+  reader.forEach(u"disks"_s, [&](Reader &each) {
+    machine.disks.append(readDisk(each));
+    const int unit = machine.disks.last().unit;
+    if (units.contains(unit)) each.fail(u"unit"_s, u"the machine has a disk%1 already"_s.arg(unit));
+    units.insert(unit);
+  });
+  reader.expectNothingElse();
+  return machine;
+}
+
+/// The parser's offset is behind the character that it could not use.
+QString lineAndColumn(const QByteArray &json, qsizetype offset) {
+  const qsizetype before = qBound(qsizetype{0}, offset - 1, json.size());
+  const QByteArrayView text = QByteArrayView(json).first(before);
+  const qsizetype line = std::count(text.begin(), text.end(), '\n') + 1;
+  const qsizetype column = text.size() - text.lastIndexOf('\n');
+  return u"line %1, column %2"_s.arg(line).arg(column);
+}
+
+}  // namespace
+
+std::variant<Machine, MachineFileError> readMachineFile(const QByteArray &json) {
+  QJsonParseError error;
+  const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+  if (error.error != QJsonParseError::NoError) {
+    return MachineFileError{lineAndColumn(json, error.offset), error.errorString()};
+  }
+  try {
+    const QJsonValue root = document.isObject() ? QJsonValue(document.object()) : QJsonValue();
+    return readMachine(root);
+  } catch (const MachineFileError &problem) {
+    if (problem.place.isEmpty()) return MachineFileError{u"line 1, column 1"_s, problem.reason};
+    return problem;
+  }
+}

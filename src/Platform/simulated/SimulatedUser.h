@@ -1,0 +1,37 @@
+#pragma once
+
+// A user of a simulated machine: login items and settings that are gone with the program, so that
+// trying it out changes nothing of the real user's.
+
+#include <QVariantMap>
+
+#include "Platform/LoginItems.h"
+
+class SimulatedLoginItems final : public LoginItems {
+ public:
+  QString ownLocation() const override { return QStringLiteral("/opt/keldra"); }
+  std::optional<QVector<Item>> snapshot() const override { return _items; }
+  void insertOwnItem() override { insert(ownLocation()); }
+  void remove(const Item &item) override {
+    _items.removeIf([&](const Item &each) { return each.identifier == item.identifier; });
+  }
+
+  /// Somebody's item; absent for one that cannot be resolved.
+  void insert(const std::optional<QString> &location) {
+    _items.append({QString::number(++_lastNumber), location});
+  }
+
+ private:
+  QVector<Item> _items;
+  int _lastNumber = 0;
+};
+
+class SimulatedDefaults final : public UserDefaults {
+ public:
+  QVariant object(const QString &key) const override { return _objects.value(key); }
+  void setBool(const QString &key, bool value) override { _objects.insert(key, value); }
+  void synchronize() override {}
+
+ private:
+  QVariantMap _objects;
+};

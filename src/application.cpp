@@ -1,0 +1,80 @@
+#include "application.h"
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QPushButton>
+#include <QSocketNotifier>
+#include <csignal>
+
+#include "AppDelegate/AppDelegate.h"
+#include "Interface/Accessibility.h"
+#include "Interface/MainInterface.h"
+#include "Platform/Platform.h"
+
+namespace {
+
+int signalPipe[2] = {-1, -1};
+
+/// A signal asks for the same end as the Quit button: in the event loop, when no row action is
+/// under way.
+void quitOnSignals(AppDelegate &delegate) {
+  if (socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0) return;
+  auto *notifier = new QSocketNotifier(signalPipe[1], QSocketNotifier::Read, &delegate);
+  QObject::connect(notifier, &QSocketNotifier::activated, &delegate, [notifier, &delegate] {
+    notifier->setEnabled(false);
+    delegate.closeApp();
+  });
+  struct sigaction action {};
+  action.sa_handler = [](int) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = write(signalPipe[0], &byte, 1);
+  };
+  for (const int number : {SIGTERM, SIGINT, SIGHUP}) sigaction(number, &action, nullptr);
+}
+
+}  // namespace
+
+void configureApplication() {
+  QApplication::setApplicationName(QStringLiteral("keldra"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Keldra"));
+  QApplication::setDesktopFileName(QStringLiteral("keldra"));
+  // The popover is the only window, and closing it is not quitting.
+  QApplication::setQuitOnLastWindowClosed(false);
+  installAccessibility();
+}
+
+void connectOutlets(MainInterface &interface, AppDelegate &delegate) {
+  delegate.setMenu(interface.menu());
+  delegate.setPopover(interface.popover());
+  delegate.setTableView(interface.tableView());
+  delegate.setEmptyView(interface.emptyView());
+  delegate.setVersionLabel(interface.versionLabel());
+  delegate.setStatusTextField(interface.statusTextField());
+  delegate.setRunAtLoadCheck(interface.runAtLoadCheck());
+  delegate.setShowAllDisksCheck(interface.showAllDisksCheck());
+  delegate.setForceUmountCheck(interface.forceUmountCheck());
+
+  const auto quit = [&delegate] { delegate.closeApp(); };
+  QObject::connect(interface.showAllDisksCheck(), &CheckBox::acted, &delegate,
+                   [&] { delegate.showAllDisks(interface.showAllDisksCheck()); });
+  QObject::connect(interface.runAtLoadCheck(), &CheckBox::acted, &delegate,
+                   [&] { delegate.runAtLoad(interface.runAtLoadCheck()); });
+  QObject::connect(interface.quitButton(), &QPushButton::clicked, &delegate, quit);
+  QObject::connect(interface.quitAction(), &QAction::triggered, &delegate, quit);
+  QObject::connect(interface.openAction(), &QAction::triggered, &delegate,
+                   &AppDelegate::showPopover);
+}
+
+int runApplication(Platform &platform) {
+  configureApplication();
+  const CurrentPlatform current(platform);
+  MainInterface interface;
+  AppDelegate delegate(platform);
+  connectOutlets(interface, delegate);
+  quitOnSignals(delegate);
+  delegate.applicationDidFinishLaunching();
+  return QApplication::exec();
+}

@@ -1,0 +1,35 @@
+// The same program on a machine that a file describes: keldra-demo [MACHINE.json]
+
+#include <QApplication>
+#include <QFile>
+#include <cstdio>
+
+#include "Platform/common/SystemClock.h"
+#include "Platform/simulated/MachineFile.h"
+#include "Platform/simulated/SimulatedPlatform.h"
+#include "application.h"
+
+namespace {
+
+int refuse(const QString &fileName, const QString &reason) {
+  const QString line = QStringLiteral("keldra-demo: %1: %2").arg(fileName, reason);
+  std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+  return EXIT_FAILURE;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  QApplication application(argc, argv);
+  const QString fileName = QApplication::arguments().value(
+      1,
+      QApplication::applicationDirPath() + QStringLiteral("/../share/keldra/machines/laptop.json"));
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly)) return refuse(fileName, file.errorString());
+  auto result = readMachineFile(file.readAll());
+  if (const auto *error = std::get_if<MachineFileError>(&result))
+    return refuse(fileName, error->text());
+
+  SimulatedPlatform platform(std::get<Machine>(std::move(result)), std::make_unique<SystemClock>());
+  return runApplication(platform);
+}

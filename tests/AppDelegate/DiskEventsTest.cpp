@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include "Foundation/NotificationCenter.h"
+#include "support/TestMachine.h"
+
+namespace {
+using TextColor = TextField::TextColor;
+}
+
+TEST(DiskEvents, WhatOthersDoIsFollowedAndSaidInBlue) {
+  TestMachine machine(twoEspMachine());
+  machine.platform.mountFromOutside("disk1s1");
+  EXPECT_EQ(machine.status(), "disk1s1 mouted at " + machine.folder("EFI"));
+  EXPECT_EQ(machine.statusColor(), TextColor::Blue);
+  EXPECT_EQ(machine.mountButton(1)->title(), "umount disk1s1");
+
+  machine.platform.rename("disk1s1", "Boot");
+  EXPECT_EQ(machine.status(), machine.folder("EFI") + " renamed!");
+  EXPECT_TRUE(machine.text(1).endsWith("WDC Blue: Boot, Data"));
+
+  machine.platform.unmountFromOutside("disk1s2");  // not in the list, but on a disk that is
+  EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
+  EXPECT_TRUE(machine.text(1).endsWith("WDC Blue: Boot, Basic data"));
+}
+
+TEST(DiskEvents, PlugAndPullRebuildTheListAndSayNothing) {
+  TestMachine machine(twoEspMachine());
+  SimulatedDisk stick = machineOf(R"({ "disks": [ { "unit": 3, "media": "Stick", "partitions":
+      [ { "slice": 1, "media": "EFI System Partition" } ] } ] })")
+                            .disks.first();
+  machine.platform.plug(stick);
+  EXPECT_EQ(machine.status(), "");
+  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1", "disk3s1"}));
+  machine.platform.pull(3);
+  EXPECT_EQ(machine.status(), "");
+  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
+}
+
+TEST(DiskEvents, PullingAMountedDiskSaysWhatIsGone) {
+  TestMachine machine(twoEspMachine());
+  machine.platform.pull(1);
+  EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
+  EXPECT_EQ(machine.listed(), QStringList({"disk0s1"}));
+}
+
+TEST(DiskEvents, TheListIsRebuiltAtOnceAndTheMessageFollows) {
+  TestMachine machine(twoEspMachine());
+  TextField *field = machine.interface.statusTextField();
+  field->setStringValue("before");
+  machine.delegate.mounted(
+      {kNSWorkspaceDidMountNotification, nullptr, {{kNSDevicePathKey, "/nowhere"}}});
+  EXPECT_EQ(field->stringValue(), "before");
+  EXPECT_EQ(field->textColor(), TextColor::Normal);
+  EXPECT_EQ(machine.status(), "(null) mouted at /nowhere");
+}
+
+TEST(DiskEvents, ARefusalChangesTheColourAtOnceAndTheTextFollows) {
+  TestMachine machine(twoEspMachine());
+  TextField *field = machine.interface.statusTextField();
+  field->setStringValue("before");
+  NotificationCenter::defaultCenter().post({"arbitrator", nullptr, {}});
+  EXPECT_EQ(field->stringValue(), "before");
+  NotificationCenter::defaultCenter().post({"arbitrator", nullptr, {{"note", "no"}}});
+  EXPECT_EQ(field->stringValue(), "");
+  EXPECT_EQ(field->textColor(), TextColor::Red);
+  EXPECT_EQ(machine.status(), "no");
+}
+
+TEST(DiskEvents, OpeningThePopoverClearsTheStatusLine) {
+  TestMachine machine(twoEspMachine());
+  machine.interface.statusTextField()->setStringValue("old news");
+  machine.delegate.showPopover();
+  EXPECT_EQ(machine.status(), "");
+  EXPECT_EQ(machine.interface.versionLabel()->stringValue(), "Keldra v1.6");
+}

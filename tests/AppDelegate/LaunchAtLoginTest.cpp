@@ -1,0 +1,47 @@
+#include <gtest/gtest.h>
+
+#include "support/TestMachine.h"
+
+namespace {
+
+class LaunchAtLogin : public testing::Test {
+ protected:
+  bool stored() { return machine.platform.userDefaults().object("RunAtload").toBool(); }
+  qsizetype count() { return machine.platform.loginItems().snapshot()->size(); }
+  void set(int state) {
+    machine.interface.runAtLoadCheck()->setState(state);
+    machine.delegate.runAtLoad(machine.interface.runAtLoadCheck());
+  }
+
+  TestMachine machine{"{}"};
+};
+
+}  // namespace
+
+TEST_F(LaunchAtLogin, IsTurnedOnByTheFirstStart) {
+  EXPECT_EQ(machine.interface.runAtLoadCheck()->state(), CheckBox::kOn);
+  EXPECT_TRUE(machine.delegate.isLaunchAtStartup());
+  EXPECT_TRUE(stored());
+}
+
+TEST_F(LaunchAtLogin, ABoxThatIsClickedAddsAndRemovesTheItem) {
+  QTest::mouseClick(machine.interface.runAtLoadCheck(), Qt::LeftButton, {}, {8, 8});
+  EXPECT_FALSE(machine.delegate.isLaunchAtStartup());
+  EXPECT_FALSE(stored());
+  set(CheckBox::kOff);
+  EXPECT_EQ(count(), 0) << "off twice changes nothing more";
+  set(CheckBox::kOn);
+  set(CheckBox::kOn);
+  EXPECT_EQ(count(), 1) << "on twice adds one item";
+}
+
+TEST_F(LaunchAtLogin, LeavesItemsOfOthersAndTakesOneDuplicateAtATime) {
+  SimulatedLoginItems &items = machine.platform.loginItems();
+  items.insert(std::nullopt);
+  items.insert("/opt/moved/keldra");
+  items.insert(items.ownLocation());
+  set(CheckBox::kOff);
+  EXPECT_EQ(count(), 3);
+  EXPECT_TRUE(machine.delegate.isLaunchAtStartup()) << "the second one of ours";
+  EXPECT_FALSE(stored());
+}

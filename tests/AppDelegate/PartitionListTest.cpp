@@ -1,0 +1,61 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+
+#include "Interface/EmptyView.h"
+#include "support/TestMachine.h"
+
+TEST(PartitionList, ListsESPsInPlainTextOrderAndAllPartitionsOnDemand) {
+  TestMachine machine(twoEspMachine());
+  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
+
+  machine.tickShowAll();
+  EXPECT_EQ(machine.listed(),
+            QStringList({"disk0s1", "disk0s2", "disk0s3", "disk1s1", "disk1s2", "disk2s1"}));
+  EXPECT_NE(machine.cell(5), nullptr);
+
+  machine.tickShowAll();
+  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
+}
+
+TEST(PartitionList, SortsByCodeUnitsNotByNumber) {
+  const TestMachine machine(R"({ "disks": [
+    { "unit": 1, "partitions": [ { "slice": 1, "media": "EFI System Partition" } ] },
+    { "unit": 10, "partitions": [ { "slice": 1, "media": "EFI System Partition" } ] },
+    { "unit": 0, "partitions": [ { "slice": 2, "media": "EFI System Partition" },
+                                 { "slice": 10, "media": "EFI System Partition" } ] } ] })");
+  EXPECT_EQ(machine.listed(), QStringList({"disk0s10", "disk0s2", "disk10s1", "disk1s1"}));
+}
+
+TEST(PartitionList, KeepsWhatIsTrueOfEachPartition) {
+  TestMachine machine(twoEspMachine());
+  machine.tickShowAll();
+  const RowRecord mounted = machine.delegate.tableViewContents()[4];
+  EXPECT_EQ(mounted.ESP, "disk1s2");
+  EXPECT_EQ(mounted.parentOf, "disk1");
+  EXPECT_EQ(mounted.parentOfMedia, "WDC Blue: EFI System Partition, Data");
+  EXPECT_TRUE(mounted.isMounted);
+  EXPECT_EQ(mounted.mountPoint, machine.folder("Data"));
+  EXPECT_FALSE(mounted.img.isNull());
+
+  const RowRecord unmounted = machine.delegate.tableViewContents()[0];
+  EXPECT_FALSE(unmounted.isMounted);
+  EXPECT_EQ(unmounted.mountPoint, "(null)");
+  EXPECT_EQ(unmounted.parentOfMedia, "Samsung SSD: EFI System Partition, Recovery HD, System");
+}
+
+TEST(PartitionList, SaysWhyItIsEmpty) {
+  TestMachine machine(R"({ "service": "asking" })");
+  const auto sentence = [&] {
+    machine.settle();
+    return machine.interface.emptyView()->findChildren<QLabel *>().value(0)->text();
+  };
+  EXPECT_TRUE(machine.interface.emptyView()->isVisible());
+  EXPECT_EQ(sentence(), "Looking for disks");
+  machine.platform.setPresence(DiskService::Presence::Absent);
+  EXPECT_EQ(sentence(), "No disk service answers");
+  machine.platform.setPresence(DiskService::Presence::Answering);
+  EXPECT_EQ(sentence(), "No EFI System Partition here");
+  machine.tickShowAll();
+  EXPECT_EQ(sentence(), "No partition here");
+}

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include <QDesktopServices>
+#include <QTimer>
+
+#include "support/TestMachine.h"
+
+namespace {
+
+using TextColor = TextField::TextColor;
+
+/// Takes the place of the desktop's file manager.
+class OpenedFolders : public QObject {
+  Q_OBJECT
+
+ public:
+  OpenedFolders() { QDesktopServices::setUrlHandler("file", this, "open"); }
+  ~OpenedFolders() override { QDesktopServices::unsetUrlHandler("file"); }
+  Q_INVOKABLE void open(const QUrl &url) { paths += url.toLocalFile(); }
+
+  QStringList paths;
+};
+
+/// One ESP whose answers take their time, so that things can happen meanwhile.
+QByteArray slowMachine(const QByteArray &refusal = {}) {
+  return R"({ "disks": [ { "unit": 0, "media": "Disk", "partitions": [ { "slice": 1, "delay": 20,
+    "media": "EFI System Partition", "volume": { "kind": "msdos", "name": "EFI" }, "refuse": {)" +
+         refusal + "} } ] } ] }";
+}
+
+void later(std::function<void()> action) {
+  QTimer::singleShot(5, qApp, std::move(action));
+}
+
+}  // namespace
+
+TEST(RowActions, AClickMountsAndAnotherUnmounts) {
+  TestMachine machine(twoEspMachine());
+  machine.click(machine.mountButton(0));
+  const QString folder = machine.folder("EFI");
+  EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
+  EXPECT_TRUE(machine.cell(0)->openButton()->isVisible());
+  EXPECT_EQ(machine.status(), "disk0s1 mouted at " + folder);
+  EXPECT_EQ(machine.statusColor(), TextColor::Blue);
+
+  machine.click(machine.mountButton(0));
+  EXPECT_EQ(machine.mountButton(0)->title(), "mount disk0s1");
+  EXPECT_EQ(machine.status(), folder + " umounted!");
+}
+
+TEST(RowActions, ARefusalIsRedAndLeavesTheRowsAndTakesItsFiveSeconds) {
+  TestMachine machine(twoEspMachine());
+  machine.platform.setRefusals("disk0s1", kDAReturnNotPrivileged, std::nullopt);
+  const auto before = machine.clock->elapsed();
+  machine.click(machine.mountButton(0));
+  EXPECT_EQ(machine.status(), "mount failed for disk0s1, status not privileged");
+  EXPECT_EQ(machine.statusColor(), TextColor::Red);
+  EXPECT_EQ(machine.mountButton(0)->title(), "mount disk0s1");
+  EXPECT_GE(machine.clock->elapsed() - before, std::chrono::seconds(5));
+}
+
+TEST(RowActions, ForceIsTakenFromItsBoxAtTheClickAndMixedForcesToo) {
+  TestMachine machine(twoEspMachine());
+  machine.tickShowAll();
+  machine.platform.setRefusals("disk1s2", std::nullopt, kDAReturnBusy);
+  machine.click(machine.mountButton(4));
+  EXPECT_EQ(machine.status(), "umount failed for disk1s2, reason: busy");
+  EXPECT_EQ(machine.mountButton(4)->title(), "umount disk1s2");
+
+  machine.interface.forceUmountCheck()->setTristate(true);
+  machine.interface.forceUmountCheck()->setState(CheckBox::kMixed);
+  machine.click(machine.mountButton(4));
+  EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
+  EXPECT_EQ(machine.mountButton(4)->title(), "mount disk1s2");
+}
+
+TEST(RowActions, WhileTheServiceWorksTheRowIsBusyAndInputIsLost) {
+  TestMachine machine(slowMachine());
+  bool wasBusy = false;
+  later([&] {
+    wasBusy = machine.mountButton(0)->isBusy();
+    machine.tickShowAll();
+    QTest::mouseClick(machine.mountButton(0), Qt::LeftButton);
+    machine.mountButton(0)->click();  // as a screen reader does
+    EXPECT_TRUE(machine.interface.popover()->isShown());
+  });
+  machine.click(machine.mountButton(0));
+  EXPECT_TRUE(wasBusy);
+  EXPECT_FALSE(machine.mountButton(0)->isBusy());
+  EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
+  machine.settle();
+  EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
+  EXPECT_EQ(machine.interface.showAllDisksCheck()->state(), CheckBox::kOff);
+}
+
+TEST(RowActions, ADiskPulledWhileTheServiceWorksEndsTheWait) {
+  TestMachine machine(slowMachine());
+  later([&] { machine.platform.pull(0); });
+  machine.click(machine.mountButton(0));
+  EXPECT_TRUE(machine.listed().isEmpty());
+  EXPECT_EQ(machine.status(), "mount failed for disk0s1, status not found");
+}
+
+TEST(RowActions, MessagesWaitUntilTheActionIsOver) {
+  TestMachine machine(slowMachine(R"("mount": 49165)"));
+  later([&] {
+    machine.platform.rename("disk0s1", "Other");
+    machine.delegate.showPopover();  // queues the clearing of the status line
+  });
+  machine.click(machine.mountButton(0));
+  EXPECT_EQ(machine.statusColor(), TextColor::Red);
+  EXPECT_EQ(machine.status(), "mount failed for disk0s1, status Permission denied");
+}
+
+TEST(RowActions, QuittingWaitsForTheService) {
+  TestMachine machine(slowMachine());
+  QTimer::singleShot(0, qApp, [&] {
+    later([&] { machine.delegate.closeApp(); });
+    machine.click(machine.mountButton(0));
+    EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
+  });
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+}
+
+TEST(RowActions, TitlesAreReadBackWordByWord) {
+  TestMachine machine(twoEspMachine());
+  RowButton button;
+  button.setTitle("whatever disk1s2 more");
+  machine.delegate.mountOrUmount(&button);
+  EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
+  machine.delegate.mountOrUmount(nullptr);
+  machine.delegate.openEsp(nullptr);
+}
+
+TEST(RowActions, OpensAbsolutePathsOnlyAndCutsThemAtTheWordOpen) {
+  TestMachine machine(twoEspMachine());
+  OpenedFolders opened;
+  machine.tickShowAll();
+  machine.click(machine.cell(4)->openButton());
+  RowButton button;
+  for (const char *title :
+       {"open (null)", "open N/A", "open relative", "open ", "open /a/open data"}) {
+    button.setTitle(QString::fromUtf8(title));
+    machine.delegate.openEsp(&button);
+  }
+  EXPECT_EQ(opened.paths, QStringList({machine.folder("Data"), "/a/"}));
+}
+
+#include "RowActionsTest.moc"

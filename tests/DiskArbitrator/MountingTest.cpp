@@ -1,0 +1,72 @@
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "Foundation/NotificationCenter.h"
+#include "support/TestMachine.h"
+
+namespace {
+
+class Mounting : public testing::Test {
+ protected:
+  Mounting() {
+    NotificationCenter::defaultCenter().addObserver(
+        &_observer, kArbitratorNotification, [this](const Notification &notification) {
+          EXPECT_EQ(notification.object, DiskArbitrator::sender());
+          notes += notification.userInfo.value("note").toString();
+        });
+  }
+
+  TestPlatform machine{twoEspMachine()};
+  QStringList notes;
+
+ private:
+  QObject _observer;
+};
+
+}  // namespace
+
+TEST_F(Mounting, SaysYesWithoutAskingWhenThereIsNothingToDo) {
+  machine.platform.setRefusals("disk1s2", kDAReturnError, kDAReturnError);
+  EXPECT_TRUE(DiskArbitrator::mountPartition("disk1s2", std::nullopt));
+  machine.platform.setRefusals("disk1s1", kDAReturnError, kDAReturnError);
+  EXPECT_TRUE(DiskArbitrator::umountPartition("disk1s1", false));
+  EXPECT_TRUE(notes.isEmpty());
+}
+
+TEST_F(Mounting, MountsWhereTheServiceLikesOrAtAFolderThatItMakes) {
+  EXPECT_TRUE(DiskArbitrator::mountPartition("disk1s1", QString("")));
+  EXPECT_EQ(DiskArbitrator::findMountPoint("disk1s1"), machine.folder("EFI"));
+
+  const QString deep = machine.folder("new/inner");
+  EXPECT_TRUE(DiskArbitrator::mountPartition("disk0s1", deep));
+  EXPECT_TRUE(QFileInfo(deep).isDir());
+  EXPECT_EQ(DiskArbitrator::findBSDName(deep), "disk0s1");
+}
+
+TEST_F(Mounting, AnOccupiedFolderIsNotMountedOver) {
+  EXPECT_FALSE(DiskArbitrator::mountPartition("disk1s1", machine.folder("Data")));
+  EXPECT_FALSE(DiskArbitrator::isMountPointValid("disk1s1"));
+  EXPECT_TRUE(notes.isEmpty());
+}
+
+TEST_F(Mounting, ARefusalIsAnnouncedOnce) {
+  machine.platform.setRefusals("disk1s1", unixErrorStatus(ECANCELED), std::nullopt);
+  EXPECT_FALSE(DiskArbitrator::mountPartition("disk1s1", std::nullopt));
+  machine.platform.setRefusals("disk1s2", std::nullopt, kDAReturnBusy);
+  EXPECT_TRUE(DiskArbitrator::umountPartition("disk1s2", false));
+  EXPECT_EQ(notes, QStringList({"mount failed for disk1s1, status Operation canceled",
+                                "umount failed for disk1s2, reason: busy"}));
+}
+
+TEST_F(Mounting, AServiceThatIsGoneIsNotReady) {
+  machine.platform.setPresence(DiskService::Presence::Absent);
+  EXPECT_FALSE(DiskArbitrator::mountPartition("disk1s1", std::nullopt));
+  EXPECT_EQ(notes, QStringList({"mount failed for (null), status not ready"}));
+}
+
+TEST_F(Mounting, AnEmptyMessageAnnouncesNothing) {
+  DiskArbitrator::sendNotificationWithMessage(QString());
+  EXPECT_TRUE(notes.isEmpty());
+}

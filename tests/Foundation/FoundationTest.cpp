@@ -1,0 +1,73 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <memory>
+
+#include "Foundation/MainQueue.h"
+#include "Foundation/NotificationCenter.h"
+#include "Foundation/Text.h"
+
+TEST(Text, ReadsTheNumberThatATextBeginsWith) {
+  EXPECT_EQ(leadingInteger(" \t12abc"), 12);
+  EXPECT_EQ(leadingInteger("-7.5"), -7);
+  EXPECT_EQ(leadingInteger("+3"), 3);
+  EXPECT_EQ(leadingInteger("x1"), 0);
+  EXPECT_EQ(leadingInteger(""), 0);
+  EXPECT_EQ(leadingInteger("99999999999999999999"), 2147483647);
+  EXPECT_EQ(leadingInteger("-99999999999999999999"), -2147483647 - 1);
+}
+
+TEST(Text, TakesTheLastComponentOfAPath) {
+  EXPECT_EQ(lastPathComponent("/Volumes/Data"), "Data");
+  EXPECT_EQ(lastPathComponent("/Volumes/Data//"), "Data");
+  EXPECT_EQ(lastPathComponent("/"), "/");
+  EXPECT_EQ(lastPathComponent("///"), "/");
+  EXPECT_EQ(lastPathComponent("N/A"), "N/A");
+  EXPECT_EQ(lastPathComponent("EFI"), "EFI");
+  EXPECT_EQ(lastPathComponent(""), "");
+}
+
+TEST(Text, AbsentTextsAreNeverTheSame) {
+  EXPECT_FALSE(areEqualTexts(std::nullopt, std::nullopt));
+  EXPECT_FALSE(areEqualTexts(QString(), std::nullopt));
+  EXPECT_TRUE(areEqualTexts(QString("a"), QString("a")));
+  EXPECT_FALSE(fileExistsAtPath(std::nullopt));
+}
+
+TEST(MainQueue, RunsJobsInOrderAfterTheirCallerAndNeverWhileHeld) {
+  MainQueue queue;
+  QString order;
+  {
+    const MainQueue::Hold outer(queue);
+    queue.async([&] {
+      order += "1";
+      queue.async([&] { order += "3"; });
+    });
+    queue.async([&] { order += "2"; });
+    { const MainQueue::Hold inner(queue); }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(order, "");
+  }
+  EXPECT_EQ(order, "");
+  for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
+  EXPECT_EQ(order, "123");
+}
+
+TEST(NotificationCenter, DeliversAtOnceByNameAndForgetsTheDead) {
+  NotificationCenter center;
+  QString heard;
+  auto first = std::make_unique<QObject>();
+  QObject second;
+  center.addObserver(first.get(), "a", [&](const Notification &) { heard += "1"; });
+  center.addObserver(&second, "a", [&](const Notification &) {
+    heard += "2";
+    center.addObserver(&second, "b", [&](const Notification &) { heard += "b"; });
+  });
+  center.post({"a"});
+  EXPECT_EQ(heard, "12");
+  first.reset();
+  center.post({"a"});
+  EXPECT_EQ(heard, "122");
+  center.post({"b"});
+  EXPECT_EQ(heard, "122bb");
+}

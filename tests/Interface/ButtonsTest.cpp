@@ -1,0 +1,167 @@
+// Buttons, check boxes and the gate that shuts a person's input out.
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QAction>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "Interface/CheckBox.h"
+#include "Interface/InputGate.h"
+#include "Interface/RowButton.h"
+
+namespace {
+
+class ButtonsTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    auto *layout = new QVBoxLayout(&window);
+    for (QWidget *widget : {static_cast<QWidget *>(button), static_cast<QWidget *>(box),
+                            static_cast<QWidget *>(plain)}) {
+      layout->addWidget(widget);
+    }
+    button->setTitle("mount disk0s1");
+    button->setAction([this](RowButton *) { ++clicks; });
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  static void doAction(QWidget *widget, const QString &name) {
+    QAccessible::queryAccessibleInterface(widget)->actionInterface()->doAction(name);
+  }
+
+  QWidget window;
+  RowButton *button = new RowButton;
+  CheckBox *box = new CheckBox("Show all");
+  QPushButton *plain = new QPushButton("Quit");
+  int clicks = 0;
+};
+
+TEST_F(ButtonsTest, MouseAndKeysClickOnce) {
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+    QTest::keyClick(button, key);
+  EXPECT_EQ(clicks, 4);
+  for (const int key : {Qt::Key_Space, Qt::Key_Return}) {
+    QKeyEvent repeated(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(button, &repeated);
+  }
+  EXPECT_EQ(clicks, 4);
+}
+
+TEST_F(ButtonsTest, SecondPressOfADoubleClickIsNone) {
+  QTest::mouseClick(button, Qt::LeftButton);
+  QTest::mouseDClick(button, Qt::LeftButton);
+  QTest::mouseRelease(button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ButtonsTest, ScreenReadersPressReachesOnlyTheTitleItWasMeantFor) {
+  doAction(button, QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return clicks == 1; }));
+
+  doAction(button, QAccessibleActionInterface::pressAction());
+  button->setTitle("mount disk1s1");
+  doAction(plain, QAccessibleActionInterface::pressAction());
+  QSignalSpy later(plain, &QPushButton::clicked);
+  EXPECT_TRUE(later.wait());
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ButtonsTest, ActionMayReplaceItself) {
+  int second = 0;
+  button->setAction([&](RowButton *sender) {
+    EXPECT_TRUE(sender->isActing());
+    sender->setAction([&second](RowButton *) { ++second; });
+    ++clicks;
+  });
+  QTest::mouseClick(button, Qt::LeftButton);
+  button->click();
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(second, 1);
+  EXPECT_FALSE(button->isActing());
+}
+
+TEST_F(ButtonsTest, TitleIsTheNameWhateverIsPainted) {
+  const QString title = "open /media/a & b \u202Egnp\n<b>" + QString(300, 'x');
+  button->setTitle(title);
+  button->setBusy(true);
+  EXPECT_EQ(button->title(), title);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name), title);
+  EXPECT_TRUE(button->isEnabled());
+  EXPECT_FALSE(button->grab().isNull());
+}
+
+TEST_F(ButtonsTest, CheckBoxTellsAPersonFromTheProgram) {
+  QSignalSpy acted(box, &CheckBox::acted);
+  for (const int state : {1, 0, -1}) {
+    box->setState(state);
+    EXPECT_EQ(box->state(), state);
+  }
+  EXPECT_EQ(acted.size(), 0);
+
+  QTest::mouseClick(box,
+                    Qt::LeftButton);  // mixed is left for on, and only the program goes back to it
+  EXPECT_EQ(box->state(), 1);
+  QTest::keyClick(box, Qt::Key_Space);
+  EXPECT_EQ(box->state(), 0);
+  EXPECT_EQ(acted.size(), 2);
+  doAction(box, QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(box->state(), 1);
+  EXPECT_EQ(acted.size(), 3);
+}
+
+TEST_F(ButtonsTest, GateSwallowsInputButNotPainting) {
+  QAction shortcut;
+  shortcut.setShortcut(QKeySequence("Ctrl+K"));
+  window.addAction(&shortcut);
+  QSignalSpy triggered(&shortcut, &QAction::triggered);
+  QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
+  EXPECT_EQ(triggered.size(), 1);
+  {
+    const InputGate outer;
+    { const InputGate inner; }
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTest::keyClick(button, Qt::Key_Space);
+    QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
+    QTest::mouseClick(box, Qt::LeftButton);
+    EXPECT_EQ(box->state(), 0);
+    EXPECT_FALSE(window.grab().isNull());
+  }
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(triggered.size(), 1);
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ButtonsTest, GateLeavesNoHalfPressBehind) {
+  QSignalSpy quit(plain, &QPushButton::clicked);
+  QTest::mousePress(plain, Qt::LeftButton);
+  QTest::keyPress(button, Qt::Key_Space);
+  {
+    const InputGate gate;
+    QTest::mouseMove(plain, {4, 4});
+    QTest::keyRelease(button, Qt::Key_Space);
+  }
+  EXPECT_FALSE(plain->isDown());
+  EXPECT_FALSE(button->isDown());
+  QTest::mouseMove(plain, {6, 6});
+  QTest::mouseRelease(plain, Qt::LeftButton);
+  EXPECT_EQ(quit.size(), 0);
+
+  {
+    const InputGate gate;
+    QTest::mousePress(button, Qt::LeftButton);
+  }
+  QTest::mouseRelease(button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 0);
+}
+
+}  // namespace

@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QSystemTrayIcon>
+#include <QTest>
+
+#include "Interface/Popover.h"
+#include "Interface/StatusItem.h"
+#include "Platform/Platform.h"
+
+namespace {
+
+constexpr PopoverMetrics kMetrics{9, 22, 6};
+const QSize kPanel(470, 400);
+const QRect kScreen(0, 26, 1280, 742);  // a panel along the top
+
+PopoverPlacement at(const QRect &anchor, Qt::Edge edge = Qt::BottomEdge,
+                    const QRect &screen = kScreen) {
+  return placePopover(kPanel, anchor, edge, screen, kMetrics);
+}
+
+TEST(PopoverPlacementTest, HangsBelowItsAnchor) {
+  const PopoverPlacement place = at({600, 1, 24, 24});
+  EXPECT_EQ(place.panel, QRect(611 - 235, 34, 470, 400));
+  EXPECT_EQ(place.arrowEdge, Qt::TopEdge);
+  EXPECT_EQ(place.panel.left() + place.arrowX, 611);
+}
+
+TEST(PopoverPlacementTest, StaysOnTheScreenInEveryCorner) {
+  for (const QRect &screen :
+       {kScreen, kScreen.translated(1280, 300), kScreen.translated(-1280, -768)}) {
+    const int left = screen.left();
+    const int top = screen.top();
+    for (const QPoint &corner : {QPoint(left, top - 25), QPoint(left + 1256, top - 25),
+                                 QPoint(left, top + 718), QPoint(left + 1256, top + 718)}) {
+      const PopoverPlacement place = at({corner, QSize(24, 24)}, Qt::BottomEdge, screen);
+      EXPECT_TRUE(screen.contains(place.panel));
+      EXPECT_EQ(place.arrowEdge, corner.y() < top ? Qt::TopEdge : Qt::BottomEdge);
+      EXPECT_GE(place.arrowX, kMetrics.arrowInset);
+      EXPECT_LE(place.arrowX, kPanel.width() - kMetrics.arrowInset);
+    }
+  }
+}
+
+TEST(PopoverPlacementTest, WithoutAnAnchorInTheMiddle) {
+  const PopoverPlacement place = at({});
+  EXPECT_EQ(place.arrowEdge, std::nullopt);
+  EXPECT_EQ(place.panel.center(), kScreen.center());
+}
+
+TEST(PopoverPlacementTest, TooSmallAScreenShowsTheTop) {
+  const QRect small(0, 0, 320, 200);
+  const PopoverPlacement place = at({300, 0, 20, 20}, Qt::BottomEdge, small);
+  EXPECT_EQ(place.panel.topLeft(), QPoint(6, 6));
+}
+
+struct Content : QWidget {
+  QSize sizeHint() const override { return size_; }
+  void grow(const QSize &size) {
+    size_ = size;
+    updateGeometry();
+  }
+  QSize size_{300, 100};
+};
+
+class PopoverTest : public testing::Test, public PopoverDelegate {
+ protected:
+  PopoverTest() {
+    popover.setContentView(content);
+    popover.setDelegate(this);
+    popover.setBehavior(Popover::Behavior::Transient);
+    popover.showRelativeTo({400, 0, 24, 24}, Qt::BottomEdge);
+  }
+
+  bool popoverShouldDetach(Popover *) override { return false; }
+  void popoverDidShow() override { ++shown; }
+  void popoverWillClose() override { ++closing; }
+
+  int shown = 0;
+  int closing = 0;
+  Popover popover;
+  Content *content = new Content;
+};
+
+TEST_F(PopoverTest, TellsOfEachOpeningAndClosingOnce) {
+  popover.showRelativeTo({500, 0, 24, 24}, Qt::BottomEdge);
+  EXPECT_EQ(shown, 1);
+  QTest::keyClick(&popover, Qt::Key_Escape);
+  EXPECT_FALSE(popover.isShown());
+  popover.close();
+  EXPECT_EQ(closing, 1);
+}
+
+TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
+  const QRect before = popover.placement().panel;
+  EXPECT_EQ(before.size(), QSize(300, 100));
+  content->grow({300, 260});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return content->height() == 260; }));
+  EXPECT_EQ(popover.placement().panel.topLeft(), before.topLeft());
+  content->grow({300, 100000});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return content->height() > 260; }));
+  EXPECT_LE(popover.placement().panel.bottom(), popover.screen()->availableGeometry().bottom());
+}
+
+TEST_F(PopoverTest, ClosesWhenAnotherProgramIsActiveUnlessHeld) {
+  popover.setHeldOpen(true);
+  emit qApp->applicationStateChanged(Qt::ApplicationInactive);
+  EXPECT_TRUE(popover.isShown());
+  popover.setHeldOpen(false);
+  emit qApp->applicationStateChanged(Qt::ApplicationActive);
+  EXPECT_TRUE(popover.isShown());
+  emit qApp->applicationStateChanged(Qt::ApplicationInactive);
+  EXPECT_FALSE(popover.isShown());
+}
+
+struct HandClock : Clock {
+  std::chrono::milliseconds now() const override { return time; }
+  std::chrono::milliseconds time{1000};
+};
+
+TEST(StatusItemTest, ClickThatClosedThePopoverDoesNotOpenItAgain) {
+  HandClock clock;
+  StatusItem item(clock);
+  int actions = 0;
+  QObject::connect(&item, &StatusItem::action, [&] { ++actions; });
+  auto *tray = item.findChild<QSystemTrayIcon *>();
+  emit tray->activated(QSystemTrayIcon::Trigger);
+  EXPECT_EQ(actions, 1);
+  item.noteClosed();
+  clock.time += std::chrono::milliseconds(249);
+  emit tray->activated(QSystemTrayIcon::Trigger);
+  EXPECT_EQ(actions, 1);
+  clock.time += std::chrono::milliseconds(1);
+  emit tray->activated(QSystemTrayIcon::Context);
+  emit tray->activated(QSystemTrayIcon::Trigger);
+  EXPECT_EQ(actions, 2);
+  EXPECT_FALSE(item.anchor().isNull());
+}
+
+}  // namespace

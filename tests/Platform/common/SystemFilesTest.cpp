@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "Platform/common/FileSystemFiles.h"
+#include "Platform/common/PropertyList.h"
+#include "Platform/common/SystemFilesRoot.h"
+
+namespace {
+
+QByteArray xmlWithVersion(const QByteArray &version) {
+  return R"(<?xml version="1.0"?><plist version="1.0"><dict><key>ProductVersion</key><string>)" +
+         version + "</string><key>Build</key><integer>7</integer></dict></plist>";
+}
+
+void write(const QString &name, const QByteArray &bytes) {
+  QFile file(name);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(bytes);
+}
+
+}  // namespace
+
+TEST(PropertyLists, AreReadInBothForms) {
+  const QVariantMap fromXml = dictionaryFromPropertyList(xmlWithVersion("10.11.6"));
+  EXPECT_EQ(fromXml.value("ProductVersion"), "10.11.6");
+  EXPECT_EQ(fromXml.value("Build").toInt(), 7);
+
+  // The smallest binary one: {"a": "b"}.
+  const QByteArray binary = QByteArray::fromHex(
+      "62706c6973743030"
+      "d10102"
+      "5161"
+      "5162"
+      "080b0d"
+      "0000000000000101"
+      "0000000000000003"
+      "0000000000000000"
+      "000000000000000f");
+  EXPECT_EQ(dictionaryFromPropertyList(binary).value("a"), "b");
+}
+
+TEST(PropertyLists, ThatAreNoneAreEmpty) {
+  for (const QByteArray &bytes :
+       {QByteArray(), QByteArray("bplist00"), QByteArray("<plist><dict><key>a"),
+        QByteArray(100, '\0'), QByteArray("<plist><array><string>a</string></array></plist>"),
+        QByteArray(R"({"a": 1})")}) {
+    EXPECT_TRUE(dictionaryFromPropertyList(bytes).isEmpty()) << bytes.constData();
+  }
+}
+
+TEST(SystemFiles, AnswerForTheFileAsItIsNow) {
+  const QTemporaryDir root;
+  const QString name = root.filePath("v.plist");
+  const FileSystemFiles files(root.path());
+  EXPECT_TRUE(files.propertyList("/v.plist").isEmpty());
+  write(name, xmlWithVersion("10.8"));
+  EXPECT_EQ(files.propertyList("/v.plist").value("ProductVersion"), "10.8");
+  write(name, xmlWithVersion("10.9"));
+  EXPECT_EQ(files.propertyList("/v.plist").value("ProductVersion"), "10.9");
+  QFile::remove(name);
+  EXPECT_TRUE(files.propertyList("/v.plist").isEmpty());
+}
+
+TEST(SystemFiles, APipeInAFilesPlaceIsNotWaitedFor) {
+  const QTemporaryDir root;
+  ASSERT_EQ(mkfifo(QFile::encodeName(root.filePath("pipe")).constData(), 0600), 0);
+  const FileSystemFiles files(root.path());
+  EXPECT_TRUE(files.propertyList("/pipe").isEmpty());
+  EXPECT_TRUE(files.image("/pipe").isNull());
+}
+
+TEST(SystemFiles, ShipWithAVersionAndAPicture) {
+  const FileSystemFiles files(systemFilesRoot());
+  const QString services = "/System/Library/CoreServices/";
+  EXPECT_EQ(files.propertyList(services + "SystemVersion.plist").value("ProductVersion"), "10.15");
+  const QImage icon =
+      files.image(services + "CoreTypes.bundle/Contents/Resources/AlertCautionIcon.icns");
+  EXPECT_GE(icon.width(), 256) << "the largest picture of several";
+}

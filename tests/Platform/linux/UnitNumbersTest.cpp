@@ -1,0 +1,124 @@
+#include "Platform/linux/UnitNumbers.h"
+
+#include <gtest/gtest.h>
+#include <sys/sysmacros.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLockFile>
+#include <QTemporaryDir>
+
+namespace {
+
+void writeFile(const QString &path, const QByteArray &text) {
+  QDir().mkpath(QFileInfo(path).path());
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(text);
+}
+
+class UnitNumbersTest : public testing::Test {
+ public:
+  WholeDisk attach(const QString &name, uint minorNumber, int sequence, int size = 8) {
+    const QString folder = _folder.filePath("block/" + name);
+    writeFile(folder + "/dev", "8:" + QByteArray::number(minorNumber) + "\n");
+    writeFile(folder + "/diskseq", QByteArray::number(sequence) + "\n");
+    writeFile(folder + "/size", QByteArray::number(size) + "\n");
+    return {name, makedev(8, minorNumber)};
+  }
+
+  QString file() const { return _folder.filePath("runtime/units"); }
+
+  UnitNumbers program(const QString &boot = "boot-1") const {
+    return {BlockDevices(_folder.filePath("block")), UnitFile(file(), boot)};
+  }
+
+ private:
+  QTemporaryDir _folder;
+};
+
+}  // namespace
+
+TEST_F(UnitNumbersTest, PutDrivesBeforeMappedDevicesBeforeLoops) {
+  const auto loop10 = attach("loop10", 1, 1);
+  const auto loop2 = attach("loop2", 2, 2);
+  const auto mapped = attach("dm-0", 3, 3);
+  const auto raid = attach("md127", 4, 4);
+  const auto sdaa = attach("sdaa", 5, 5);
+  const auto sdb = attach("sdb", 6, 6);
+  const auto nvme = attach("nvme0n1", 7, 7);
+  attach("loop0", 8, 8, 0);
+  attach("zram0", 9, 9);
+  auto units = program();
+  EXPECT_EQ(units.unitsOf({loop10, sdb, mapped, nvme, raid, sdaa, loop2}),
+            (QList{6, 1, 3, 0, 4, 2, 5}));
+}
+
+TEST_F(UnitNumbersTest, DoNotDependOnTheOrderOfAnnouncements) {
+  const auto sda = attach("sda", 1, 1);
+  const auto sdb = attach("sdb", 2, 2);
+  auto units = program();
+  EXPECT_EQ(units.unitsOf({sdb}), QList{1});
+  EXPECT_EQ(units.unitsOf({sda}), QList{0});
+}
+
+TEST_F(UnitNumbersTest, AreSharedAndNeverUsedTwice) {
+  const auto sda = attach("sda", 1, 1);
+  const auto loop = attach("loop0", 2, 2);
+  auto first = program();
+  EXPECT_EQ(first.unitsOf({sda, loop}), (QList{0, 1}));
+  const auto reused = attach("loop0", 2, 3);
+  auto second = program();
+  EXPECT_EQ(second.unitsOf({reused}), QList{2}) << "another file behind it is another disk";
+  const auto sdb = attach("sdb", 3, 4);
+  EXPECT_EQ(first.unitsOf({sdb, reused, sda}), (QList{3, 2, 0}));
+  EXPECT_EQ(second.unitsOf({sdb}), QList{3});
+}
+
+TEST_F(UnitNumbersTest, GoByDeviceNumberForDisksThatTheKernelDoesNotKnow) {
+  attach("sda", 1, 1);
+  auto units = program();
+  const WholeDisk unknown{"sdx", makedev(8, 160)};
+  const WholeDisk impostor{"sda", makedev(9, 9)};
+  EXPECT_EQ(units.unitsOf({unknown, impostor}), (QList{2, 1}));
+  EXPECT_EQ(units.unitsOf({unknown}), QList{2});
+}
+
+TEST_F(UnitNumbersTest, StartAnewWithTheMachine) {
+  const auto sda = attach("sda", 1, 5);
+  const auto sdb = attach("sdb", 2, 6);
+  program("boot-1").unitsOf({sda});
+  attach("sda", 1, 7);
+  EXPECT_EQ(program("boot-2").unitsOf({sda, sdb}), (QList{0, 1}));
+}
+
+TEST_F(UnitNumbersTest, SurviveAFileThatMakesNoSense) {
+  const auto sda = attach("sda", 1, 1);
+  for (const char *text :
+       {"", "{", "[]", "\0\1\2", R"({"boot": "boot-1"})", R"({"boot": "boot-1", "next": -4})",
+        R"({"boot": "boot-1", "next": 1e300, "units": {}})",
+        R"({"boot": "boot-1", "next": 9, "units": {"diskseq 1": 9}})",
+        R"({"boot": "boot-1", "next": 9, "units": {"diskseq 1": "x"}})",
+        R"({"boot": "boot-1", "next": 9, "units": {"diskseq 1": 3, "diskseq 2": 3}})"}) {
+    writeFile(file(), text);
+    EXPECT_EQ(program().unitsOf({sda}), QList{0}) << text;
+  }
+}
+
+TEST_F(UnitNumbersTest, AreThisProgramsOwnWhereTheyCannotBeShared) {
+  const auto sda = attach("sda", 1, 1);
+  const auto sdb = attach("sdb", 2, 2);
+  writeFile(QFileInfo(file()).path(), "a file where the folder should be");
+  auto units = program();
+  EXPECT_EQ(units.unitsOf({sda, sdb}), (QList{0, 1}));
+  EXPECT_EQ(units.unitsOf({sdb}), QList{1});
+}
+
+TEST_F(UnitNumbersTest, DoNotWaitLongForAProgramThatHoldsTheFile) {
+  const auto sda = attach("sda", 1, 1);
+  QDir().mkpath(QFileInfo(file()).path());
+  QLockFile lock(file() + ".lock");
+  ASSERT_TRUE(lock.lock());
+  EXPECT_EQ(program().unitsOf({sda}), QList{0});
+  EXPECT_FALSE(QFile::exists(file())) << "only the holder of the lock writes";
+}

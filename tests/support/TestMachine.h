@@ -1,0 +1,69 @@
+#pragma once
+
+// The whole program, real widgets and all, on a simulated machine whose time is in the test's hand.
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include "AppDelegate/AppDelegate.h"
+#include "ESPTableCellView.h"
+#include "Interface/MainInterface.h"
+#include "Interface/RowButton.h"
+#include "Interface/RowTextField.h"
+#include "Interface/TextField.h"
+#include "Platform/simulated/SimulatedPlatform.h"
+
+/// Time that goes on by one step at every look at it, so that no wait takes any.
+class SteppingClock final : public Clock {
+ public:
+  std::chrono::milliseconds now() const override { return _now += std::chrono::milliseconds(100); }
+  std::chrono::milliseconds elapsed() const { return _now; }
+
+ private:
+  mutable std::chrono::milliseconds _now{0};
+};
+
+/// The machine of a machine file. Fails the test when it is refused.
+Machine machineOf(const QByteArray &json);
+
+/// A dual-boot disk0 (ESP, data, root), disk1 with an ESP and a data partition mounted at "Data",
+/// and disk2, an MBR stick without any.
+QByteArray twoEspMachine();
+
+/// A simulated platform that is the current one.
+class TestPlatform {
+ public:
+  explicit TestPlatform(const QByteArray &json)
+      : clock(new SteppingClock),
+        platform(machineOf(json), std::unique_ptr<Clock>(clock)),
+        current(platform) {}
+
+  QString folder(const QString &name) const { return platform.volumesFolder() + u'/' + name; }
+
+  SteppingClock *clock;  // owned by the platform
+  SimulatedPlatform platform;
+  CurrentPlatform current;
+};
+
+class TestMachine : public TestPlatform {
+ public:
+  explicit TestMachine(const QByteArray &json);
+
+  /// Serves whatever is waiting in the event loop, until there is nothing more.
+  void settle();
+  /// The status line's text once its fading is over.
+  QString status();
+  TextField::TextColor statusColor() const { return interface.statusTextField()->textColor(); }
+
+  QStringList listed() const;
+  ESPTableCellView *cell(qint64 row) const;
+  QString text(qint64 row) const { return cell(row)->textField()->stringValue(); }
+  RowButton *mountButton(qint64 row) const { return cell(row)->mountButton(); }
+  void click(RowButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
+  void tickShowAll() {
+    QTest::mouseClick(interface.showAllDisksCheck(), Qt::LeftButton, {}, {8, 8});
+  }
+
+  MainInterface interface;
+  AppDelegate delegate;
+};
