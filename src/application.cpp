@@ -1,5 +1,6 @@
 #include "application.h"
 
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QSocketNotifier>
+#include <cerrno>
 #include <csignal>
 
 #include "AppDelegate/AppDelegate.h"
@@ -22,6 +24,7 @@ int signalPipe[2] = {-1, -1};
 /// under way.
 void quitOnSignals(AppDelegate &delegate) {
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0) return;
+  for (const int end : signalPipe) fcntl(end, F_SETFD, FD_CLOEXEC);
   auto *notifier = new QSocketNotifier(signalPipe[1], QSocketNotifier::Read, &delegate);
   QObject::connect(notifier, &QSocketNotifier::activated, &delegate, [notifier, &delegate] {
     notifier->setEnabled(false);
@@ -29,8 +32,10 @@ void quitOnSignals(AppDelegate &delegate) {
   });
   struct sigaction action {};
   action.sa_handler = [](int) {
+    const int interrupted = errno;
     const char byte = 0;
     [[maybe_unused]] const auto written = write(signalPipe[0], &byte, 1);
+    errno = interrupted;
   };
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) sigaction(number, &action, nullptr);
 }
@@ -71,8 +76,8 @@ void connectOutlets(MainInterface &interface, AppDelegate &delegate) {
 int runApplication(Platform &platform) {
   configureApplication();
   const CurrentPlatform current(platform);
-  MainInterface interface;
   AppDelegate delegate(platform);
+  MainInterface interface;
   connectOutlets(interface, delegate);
   quitOnSignals(delegate);
   delegate.applicationDidFinishLaunching();

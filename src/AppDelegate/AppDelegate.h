@@ -11,6 +11,7 @@
 // disk service has answered; meanwhile input is swallowed, the main queue rests and the popover
 // stays open.
 
+#include <QHash>
 #include <QObject>
 #include <QVector>
 #include <memory>
@@ -42,8 +43,8 @@ class AppDelegate : public QObject,
   explicit AppDelegate(Platform &platform);
   ~AppDelegate() override;
 
-  // The outlets: objects of the interface, which owns them. They are connected before start-up and
-  // outlive it; one that is not connected is left alone.
+  // The outlets: objects of the interface, which owns them. All are connected before start-up, and the
+  // delegate does not touch them as it ends.
   QMenu *menu() const { return _menu; }
   void setMenu(QMenu *menu) { _menu = menu; }
   Popover *popover() const { return _popover; }
@@ -120,7 +121,8 @@ class AppDelegate : public QObject,
  private:
   class RowAction;
 
-  RowRecord recordOf(const QString &bsdName, const QString &siblingLine) const;
+  /// `siblingLines` holds the lines of the disks that had one before, by their names.
+  static RowRecord recordOf(const QString &bsdName, QHash<QString, QString> &siblingLines);
   void restoreRunAtLoad();
   void refreshListsOrLog();
   void explainEmptyList();

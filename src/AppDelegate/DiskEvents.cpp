@@ -2,6 +2,8 @@
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "Foundation/NotificationCenter.h"
 #include "Foundation/Text.h"
+#include "Interface/Popover.h"
+#include "Interface/StatusItem.h"
 #include "Interface/TextField.h"
 
 using namespace Qt::StringLiterals;
@@ -62,8 +64,12 @@ void AppDelegate::arbitrator(const Notification &notification) {
   // Unlike for a disk event, the colour changes at once and only the text waits its turn.
   _statusTextField->setStringValue(QString());
   _statusTextField->setTextColor(TextField::TextColor::Red);
-  _mainQueue.async(
-      [this, text = note.toString()] { _statusTextField->setAnimatedStringValue(text); });
+  _mainQueue.async([this, text = note.toString()] {
+    // The job of an event that came in between may have changed the colour.
+    _statusTextField->setTextColor(TextField::TextColor::Red);
+    _statusTextField->setAnimatedStringValue(text);
+    if (!_popover->isShown()) topBarItem->notify(text);
+  });
 }
 
 void AppDelegate::stopRunning() {}

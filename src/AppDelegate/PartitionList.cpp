@@ -27,27 +27,25 @@ void AppDelegate::refreshLists() {
   names.sort(Qt::CaseSensitive);
   if (_showAll) names.removeIf([](const QString &name) { return !isPartitionName(name); });
 
-  // The partitions of a disk share one line about it. Made once for each disk, it costs a walk over
-  // the disk's partitions; made once for each row, it would cost the square of that.
-  QHash<QString, QString> siblingLines;
-  for (const QString &name : names) {
-    const QString parent = DiskArbitrator::findBSDdiskParent(name);
-    if (!siblingLines.contains(parent)) {
-      siblingLines[parent] = DiskArbitrator::findAllPartitionNameParentSeparatedByComma(name);
-    }
-    _tableViewContents.append(recordOf(name, siblingLines[parent]));
-  }
   explainEmptyList();
+
+  // The partitions of a disk share one line about it. Made once for each disk, it costs a walk over the
+  // disk's partitions; made once for each row, it would cost the square of that.
+  QHash<QString, QString> siblingLines;
+  for (const QString &name : names) _tableViewContents.append(recordOf(name, siblingLines));
   _tableView->reloadData();
 }
 
-RowRecord AppDelegate::recordOf(const QString &bsdName, const QString &siblingLine) const {
+RowRecord AppDelegate::recordOf(const QString &bsdName, QHash<QString, QString> &siblingLines) {
   RowRecord record;
   record.img = DiskArbitrator::findVolumeIcon(bsdName);
-  if (record.img.isNull())
-    throw std::invalid_argument("there is no picture for " + bsdName.toStdString());
+  if (record.img.isNull()) throw std::invalid_argument("no picture for " + bsdName.toStdString());
   record.parentOf = DiskArbitrator::findBSDdiskParent(bsdName);
-  record.parentOfMedia = siblingLine;
+  if (!siblingLines.contains(record.parentOf)) {
+    siblingLines[record.parentOf] =
+        DiskArbitrator::findAllPartitionNameParentSeparatedByComma(bsdName);
+  }
+  record.parentOfMedia = siblingLines[record.parentOf];
   record.isMounted = DiskArbitrator::isMountPointValid(bsdName);
   record.mountPoint =
       printed(record.isMounted ? DiskArbitrator::findMountPoint(bsdName) : std::nullopt);

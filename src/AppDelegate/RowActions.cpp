@@ -3,6 +3,8 @@
 
 #include "AppDelegate/AppDelegate.h"
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "ESPTableCellView.h"
+#include "Foundation/SystemLog.h"
 #include "Interface/CheckBox.h"
 #include "Interface/InputGate.h"
 #include "Interface/RowButton.h"
@@ -48,7 +50,7 @@ void AppDelegate::mountOrUmount(RowButton *sender) {
     DiskArbitrator::mountPartition(partition, std::nullopt);
   } else {
     // Mixed counts as on here, though not for the show-all box.
-    DiskArbitrator::umountPartition(partition, _forceUmountCheck->state() != 0);
+    DiskArbitrator::umountPartition(partition, _forceUmountCheck->state() != CheckBox::kOff);
   }
 }
 
@@ -56,18 +58,20 @@ void AppDelegate::openEsp(RowButton *sender) {
   if (sender == nullptr || _busyPartition.has_value()) return;
   const QString path = sender->title().split("open "_L1).value(1);
   if (path == "(null)"_L1 || path == "N/A"_L1 || !path.startsWith(u'/')) return;
-  QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
+    systemLog(u"No file manager could be started for "_s + path);
+  }
 }
 
 void AppDelegate::showAllDisks(CheckBox *sender) {
-  _showAll = sender->state() == 1;
+  _showAll = sender->state() == CheckBox::kOn;
   refreshListsOrLog();
 }
 
 void AppDelegate::showBusyButtons() {
-  for (RowButton *button : _tableView->findChildren<RowButton *>()) {
-    const bool isMountButton = !button->title().startsWith("open "_L1);
-    const QString partition = button->title().section(u' ', 1, 1);
-    button->setBusy(isMountButton && partition == _busyPartition);
+  for (TableCellView *cell : _tableView->visibleCells()) {
+    if (auto *row = qobject_cast<ESPTableCellView *>(cell)) {
+      row->mountButton()->setBusy(row->rowKey() == _busyPartition);
+    }
   }
 }

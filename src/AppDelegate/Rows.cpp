@@ -1,5 +1,4 @@
 #include "AppDelegate/AppDelegate.h"
-#include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "ESPTableCellView.h"
 #include "Foundation/Text.h"
@@ -49,8 +48,7 @@ TableCellView *AppDelegate::tableView(TableView *tableView, const TableColumn &v
   if (cell == nullptr) return nullptr;
   cell->textField()->setStringValue(textOf(record));
   cell->imageView()->setImage(record.img);
-  cell->setDeviceNode(
-      descriptionText(record.ESP, kDiskDescriptionDeviceNodeKey).value_or(QString()));
+  cell->setDeviceNode(DiskArbitrator::findDeviceNode(record.ESP).value_or(QString()));
 
   RowButton *mountButton = cell->mountButton();
   mountButton->setTitle((record.isMounted ? u"umount "_s : u"mount "_s) + record.ESP);

@@ -2,9 +2,9 @@
 
 // Everything that is asked of disks or done to them, as class-level operations.
 //
-//   for (const QString &esp : DiskArbitrator::findAllEFIdisk())
-//     if (!DiskArbitrator::isMountPointValid(esp)) DiskArbitrator::mountPartition(esp,
-//     std::nullopt);
+//   for (const QString &esp : DiskArbitrator::findAllEFIdisk()) {
+//     DiskArbitrator::mountPartition(esp, std::nullopt);
+//   }
 //
 // No operation keeps anything between calls: each asks the current platform afresh. A reference is
 // a BSD name, a device path or the path of a mounted volume. Failures are answers: an absent text,
@@ -38,6 +38,8 @@ class DiskArbitrator {
   static std::optional<QString> findVolumeUUID(const QString &reference);
   static std::optional<QString> findDiskUUID(const QString &reference);
   static std::optional<QString> findVolumeMediaContent(const QString &reference);
+  /// The node by which the system's other tools know it, such as "/dev/nvme0n1p1".
+  static std::optional<QString> findDeviceNode(const QString &reference);
 
   // These answer for the whole disk that holds the reference. NO where nothing is known.
 

@@ -54,6 +54,10 @@ std::optional<QString> DiskArbitrator::findVolumeMediaContent(const QString &ref
   return descriptionText(reference, kDADiskDescriptionMediaContentKey);
 }
 
+std::optional<QString> DiskArbitrator::findDeviceNode(const QString &reference) {
+  return descriptionText(reference, kDiskDescriptionDeviceNodeKey);
+}
+
 bool DiskArbitrator::isGPT(const QString &reference) {
   return findPartitionSchemeMap(reference) == u"GUID_partition_scheme"_s;
 }

@@ -10,6 +10,5 @@ std::optional<QString> DiskArbitrator::findMountPoint(const QString &reference) 
 }
 
 bool DiskArbitrator::isMountPointValid(const QString &reference) {
-  const QString mountPoint = findMountPoint(reference).value_or(QString());
-  return !mountPoint.isEmpty() && mountPoint != QLatin1StringView("(null)");
+  return !findMountPoint(reference).value_or(QString()).isEmpty();
 }

@@ -2,8 +2,8 @@
 
 // Publish and subscribe by name within the process.
 //
-//   center.addObserver(this, u"arbitrator"_s, [this](const Notification &note) { arbitrator(note);
-//   }); center.post({u"arbitrator"_s, sender, {{u"note"_s, text}}});
+//   center.addObserver(this, u"arbitrator"_s, [this](const Notification &note) { show(note); });
+//   center.post({u"arbitrator"_s, sender, {{u"note"_s, text}}});
 //
 // Delivery is synchronous, in the order of registration, on the posting thread (the main thread).
 

@@ -39,7 +39,7 @@ bool fileExistsAtPath(const OptionalText &path) {
   if (!path.has_value() || path->isEmpty()) return false;
   struct stat status {};
   if (stat(QFile::encodeName(*path).constData(), &status) == 0) return true;
-  // Volumes of other users are mounted below folders that are closed to us, and they are mounted
-  // all the same.
-  return errno == EACCES;
+  // Volumes of other users lie below folders that are closed to us, and a volume whose disk has failed
+  // may answer with an error: they are mounted all the same.
+  return errno == EACCES || errno == EIO || errno == ENOTCONN || errno == ESTALE;
 }

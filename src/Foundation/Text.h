@@ -23,6 +23,6 @@ qint32 leadingInteger(const QString &text);
 /// no path.
 QString lastPathComponent(const QString &path);
 
-/// Whether anything is at this path, links followed. A path that this user may not look at counts
-/// as there. Blocks for as long as the file system takes to answer.
+/// Whether anything is at this path, links followed. What is there but may not or cannot be looked at
+/// counts. Blocks for as long as the file system takes to answer.
 bool fileExistsAtPath(const OptionalText &path);

@@ -51,7 +51,7 @@ QSize CheckBox::sizeHint() const {
   const Look look(this);
   const QFontMetrics metrics(font());
   const int side = look.scaled(kBoxSide);
-  return {side + look.scaled(kGap) + metrics.horizontalAdvance(text()) + 1,
+  return {side + look.scaled(kGap) + metrics.horizontalAdvance(accessibleName()) + 1,
           std::max(side, metrics.height()) + look.scaled(4)};
 }
 
@@ -62,7 +62,8 @@ bool CheckBox::hitButton(const QPoint &position) const {
 void CheckBox::paintEvent(QPaintEvent *) {
   const Look look(this);
   const int side = look.scaled(kBoxSide);
-  const QRectF box(0.5, (height() - side) / 2 + 0.5, side - 1, side - 1);
+  const int top = (height() - side) / 2;
+  const QRectF box(0.5, top + 0.5, side - 1, side - 1);
   const qreal radius = look.scaled(4);
   const bool filled = checkState() != Qt::Unchecked;
   const bool ringed = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
@@ -82,13 +83,13 @@ void CheckBox::paintEvent(QPaintEvent *) {
   painter.setPen(isEnabled() ? look.text() : look.disabledText());
   painter.setFont(font());
   const QRect label = rect().adjusted(side + look.scaled(kGap), 0, 0, 0);
-  painter.drawText(label, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+  painter.drawText(label, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, accessibleName());
   if (ringed) {
     const QFontMetrics metrics(font());
     painter.setPen(QPen(look.accent(), 1));
     const int underline = label.center().y() + metrics.height() / 2;
-    painter.drawLine(label.left(), underline, label.left() + metrics.horizontalAdvance(text()),
-                     underline);
+    painter.drawLine(label.left(), underline,
+                     label.left() + metrics.horizontalAdvance(accessibleName()), underline);
   }
 }
 

@@ -13,7 +13,7 @@ QuietButton::QuietButton(const QString &title, QWidget *parent) : QPushButton(ti
 QSize QuietButton::sizeHint() const {
   const Look look(this);
   const QFontMetrics metrics(look.detailFont());
-  return {metrics.horizontalAdvance(text()) + 2 * look.scaled(10),
+  return {metrics.horizontalAdvance(accessibleName()) + 2 * look.scaled(10),
           metrics.height() + look.scaled(10)};
 }
 
@@ -43,5 +43,5 @@ void QuietButton::paintEvent(QPaintEvent *) {
   }
   painter.setFont(look.detailFont());
   painter.setPen(isEnabled() ? look.text() : look.disabledText());
-  painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+  painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, accessibleName());
 }

@@ -46,6 +46,8 @@ void RowButton::setAction(Action action) {
 void RowButton::setBusy(bool busy) {
   if (busy == _busy) return;
   _busy = busy;
+  // The spinner's words, for those who do not see it.
+  setAccessibleDescription(busy ? tr("Working") : QString());
   updateSpinner();
   update();
 }

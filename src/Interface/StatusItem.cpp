@@ -5,7 +5,7 @@
 #include <QMenu>
 #include <QPainter>
 
-#include "Platform/Platform.h"
+#include "Foundation/Clock.h"
 
 namespace {
 
@@ -52,6 +52,10 @@ void StatusItem::setMenu(QMenu *menu) {
 
 void StatusItem::noteClosed() {
   _closedAt = _clock.now();
+}
+
+void StatusItem::notify(const QString &text) {
+  _trayIcon.showMessage(QGuiApplication::applicationDisplayName(), text, _image);
 }
 
 QRect StatusItem::anchor() const {

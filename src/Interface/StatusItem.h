@@ -34,6 +34,9 @@ class StatusItem : public QObject {
   /// action.
   void noteClosed();
 
+  /// Tells a person who is not looking, in the desktop's own way.
+  void notify(const QString &text);
+
   /// The item's place on the screen; where the desktop does not tell, the pointer's.
   QRect anchor() const;
 

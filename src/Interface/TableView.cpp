@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -42,6 +43,7 @@ void TableView::reloadData() {
   _numberOfRows = _dataSource ? std::max<qint64>(0, _dataSource->numberOfRowsInTableView(this)) : 0;
   if (_selectedRow >= _numberOfRows) _selectedRow = -1;
   setFocusPolicy(_numberOfRows > 0 ? Qt::StrongFocus : Qt::NoFocus);
+  const QScopedValueRollback<bool> reloading(_isReloading, true);
   _formerCells = std::exchange(_cells, {});
   updateScrollBar();
   showRowsInView();
@@ -130,6 +132,7 @@ void TableView::showRowsInView() {
   for (qint64 row = first; row <= last; ++row) {
     if (!_cells.contains(row)) fillRow(row);
   }
+  dropRetired();
   update();
 }
 
@@ -259,5 +262,12 @@ void TableView::paintEvent(QPaintEvent *) {
     if (row > 0) {
       painter.fillRect(QRectF(margin, top, place.width() - 2 * margin, hairline), look.hairline());
     }
+  }
+  const bool byKeyboard = window()->testAttribute(Qt::WA_KeyboardFocusChange);
+  if (hasFocus() && byKeyboard && _selectedRow < 0) {
+    painter.setPen(QPen(look.accent(), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), look.scaled(8),
+                            look.scaled(8));
   }
 }

@@ -4,8 +4,9 @@
 // there are and its delegate for the cell of each row that is in view; rows out of view have no
 // cell.
 //
-//   table.registerPrototype(u"MainCell"_s, [](QWidget *parent) { return new
-//   ESPTableCellView(parent); }); table.setDelegate(&delegate); table.setDataSource(&source);
+//   table.registerPrototype(u"MainCell"_s, [](QWidget *parent) { return new Cell(parent); });
+//   table.setDelegate(&delegate);
+//   table.setDataSource(&source);
 //   table.reloadData();
 //
 // The delegate and the data source are not owned and must live as long as they are set.
@@ -140,6 +141,7 @@ class TableView : public QWidget {
   std::vector<TableCellView *> _handedOut;  // made for the row that is being asked for
   qint64 _rowBeingFilled = -1;
   Cells _formerCells;  // during a reload: what each row showed before it
+  bool _isReloading = false;
   qint64 _numberOfRows = 0;
   qint64 _selectedRow = -1;
   bool _floatsGroupRows = true;

@@ -88,6 +88,11 @@ TableView::Stop TableView::focusedStop() const {
 }
 
 bool TableView::focusNextPrevChild(bool next) {
+  if (_isReloading) {
+    // A button with the focus was disabled or hidden. Its neighbours are not in place yet.
+    setFocus(Qt::OtherFocusReason);
+    return true;
+  }
   const Stop from = focusedStop();
   if (from.row < 0) {
     if (!next) return leave(false);

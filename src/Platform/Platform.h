@@ -12,10 +12,10 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
-#include <chrono>
 #include <functional>
 #include <optional>
 
+#include "Foundation/Clock.h"
 #include "Platform/DiskDescription.h"
 #include "Platform/Dissenter.h"
 #include "Platform/LoginItems.h"
@@ -85,13 +85,6 @@ class RunLoop {
 
   /// Serves what is waiting to be served now, and does not wait for more.
   virtual void servePending() = 0;
-};
-
-/// Time that only goes forward.
-class Clock {
- public:
-  virtual ~Clock() = default;
-  virtual std::chrono::milliseconds now() const = 0;
 };
 
 /// Files that belong to the operating system, named by the absolute paths that they have on the

@@ -129,6 +129,37 @@ TEST_F(TableViewTest, FocusFollowsThePartition) {
   EXPECT_TRUE(table->hasFocus());
 }
 
+TEST_F(TableViewTest, AButtonThatGoesWithItsFocusLeavesTheRowsInOrder) {
+  QList<Row> list = manyRows(12);
+  for (int row = 0; row < 12; ++row) {
+    list[row].mounted = true;
+    show(list);
+    table->scrollRowToVisible(11 - row);
+    QTest::mouseClick(cell(11 - row), Qt::LeftButton, {}, {100, 20});
+    table->scrollRowToVisible(row);
+    cell(row)->openButton()->setFocus();
+    list[row].mounted = false;
+    reload(list);
+    for (const TableCellView *each : table->visibleCells()) {
+      EXPECT_TRUE(each->isVisible());
+      EXPECT_EQ(each->rowKey(), list[table->rowOfCell(each)].name);
+    }
+    EXPECT_EQ(focusedTitle(), "mount " + list[row].name);
+  }
+}
+
+TEST_F(TableViewTest, CellsThatCannotBeUsedAgainDoNotPileUp) {
+  QList<Row> list = manyRows(40);
+  list[0] = {"disk0s1", true, true};
+  show(list);
+  for (int turn = 0; turn < 50; ++turn) {
+    table->scrollRowToVisible(39);
+    table->scrollRowToVisible(0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  EXPECT_LE(cellsAlive(), 2 * 9 + 1);
+}
+
 TEST_F(TableViewTest, TabWalksThroughEveryRowAndLeaves) {
   QList<Row> list = manyRows(20);
   list[0].mounted = true;

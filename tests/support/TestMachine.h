@@ -64,6 +64,6 @@ class TestMachine : public TestPlatform {
     QTest::mouseClick(interface.showAllDisksCheck(), Qt::LeftButton, {}, {8, 8});
   }
 
-  MainInterface interface;
   AppDelegate delegate;
+  MainInterface interface;
 };

@@ -1,9 +1,8 @@
 #pragma once
 
-// The machine's own steady clock.
+#include "Foundation/Clock.h"
 
-#include "Platform/Platform.h"
-
+/// The machine's own steady clock.
 class SystemClock final : public Clock {
  public:
   std::chrono::milliseconds now() const override {

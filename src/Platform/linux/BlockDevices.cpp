@@ -4,16 +4,28 @@
 
 #include <QDir>
 #include <QFile>
+#include <optional>
 #include <tuple>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-int rank(const QString &kernelName) {
-  if (kernelName.startsWith("loop"_L1)) return 2;
-  if (kernelName.startsWith("dm-"_L1) || kernelName.startsWith("md"_L1)) return 1;
-  return 0;
+enum class Rank { Drive, OtherHardware, Virtual, Loop, Reader };
+
+Rank rank(const QString &kernelName) {
+  static constexpr std::pair<QLatin1StringView, Rank> kinds[] = {
+      {"sd"_L1, Rank::Drive},     {"nvme"_L1, Rank::Drive},   {"vd"_L1, Rank::Drive},
+      {"mmcblk"_L1, Rank::Drive}, {"hd"_L1, Rank::Drive},     {"xvd"_L1, Rank::Drive},
+      {"dm-"_L1, Rank::Virtual},  {"md"_L1, Rank::Virtual},   {"bcache"_L1, Rank::Virtual},
+      {"nbd"_L1, Rank::Virtual},  {"drbd"_L1, Rank::Virtual}, {"loop"_L1, Rank::Loop},
+      {"sr"_L1, Rank::Reader},    {"fd"_L1, Rank::Reader},
+  };
+  for (const auto &[prefix, rank] : kinds) {
+    if (kernelName.startsWith(prefix)) return rank;
+  }
+  return Rank::OtherHardware;
 }
 
 // Of one kind of device, the longer name has the higher number or the later letter.

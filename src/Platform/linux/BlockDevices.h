@@ -33,7 +33,8 @@ class BlockDevices {
 /// Memory that looks like a disk.
 bool isMemoryDevice(const QString &kernelName);
 
-/// Drives before mapped and RAID devices before loop devices, so that the file of some package
-/// never takes the first place from the machine's own drive; "sda" before "sdb" before "sdaa",
-/// "loop2" before "loop10".
+/// Drives before other hardware, then mapped, RAID and network devices, then loop devices, so that
+/// the file of some package never takes the first place from the machine's own drive. Last come CD
+/// and floppy drives, which the kernel gives a size also while they are empty. Of one kind, "sda"
+/// before "sdb" before "sdaa", "loop2" before "loop10".
 bool comesBefore(const WholeDisk &one, const WholeDisk &other);

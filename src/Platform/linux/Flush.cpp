@@ -1,14 +1,50 @@
 #include "Platform/linux/Flush.h"
 
 #include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/stat.h>
+#include <sys/statfs.h>
 #include <unistd.h>
 
 #include <QFile>
+#include <QPromise>
+#include <cerrno>
+#include <thread>
 
-void flushVolume(const QString &mountPoint) {
-  const int folder =
-      open(QFile::encodeName(mountPoint).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  const bool isFlushed = folder >= 0 && syncfs(folder) == 0;
-  if (folder >= 0) close(folder);
-  if (!isFlushed) sync();
+namespace {
+
+// Another volume may be mounted on top. Btrfs has a device number for each subvolume, and none of
+// them is that of its disk.
+bool isOnDevice(int folder, quint64 device) {
+  struct stat status {};
+  struct statfs system {};
+  if (fstat(folder, &status) != 0 || fstatfs(folder, &system) != 0) return false;
+  return status.st_dev == device || system.f_type == BTRFS_SUPER_MAGIC;
+}
+
+int flush(const QByteArray &mountPoint, quint64 device) {
+  const int folder = open(mountPoint.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (folder < 0 && errno != EACCES && errno != EPERM) return errno;
+  if (folder < 0) {
+    sync();
+    return 0;
+  }
+  int error = ENODEV;
+  if (isOnDevice(folder, device)) error = syncfs(folder) == 0 ? 0 : errno;
+  close(folder);
+  return error;
+}
+
+}  // namespace
+
+QFuture<int> flushVolume(const QString &mountPoint, quint64 device) {
+  QPromise<int> promise;
+  auto future = promise.future();
+  promise.start();
+  std::thread([promise = std::move(promise), path = QFile::encodeName(mountPoint),
+               device]() mutable {
+    promise.addResult(flush(path, device));
+    promise.finish();
+  }).detach();
+  return future;
 }

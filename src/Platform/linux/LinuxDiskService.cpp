@@ -58,21 +58,18 @@ void LinuxDiskService::refresh() const {
   for (const Mount &mount : _mounts.mounts()) {
     const Medium *medium = _media.onDevice(mount.device);
     if (medium == nullptr) continue;
-    _mounted.insert(medium->bsdName(), mountedAt(*medium, *_mounts.mountPointOf(mount.device)));
+    _mounted.insert(medium->device, mountedAt(*medium, *_mounts.mountPointOf(mount.device)));
   }
 }
 
 std::optional<DiskDescription> LinuxDiskService::describe(const Medium *medium) const {
   if (medium == nullptr) return std::nullopt;
-  return _mounted.value(medium->bsdName(), medium->description);
+  return _mounted.value(medium->device, medium->description);
 }
 
 std::optional<DiskDescription> LinuxDiskService::descriptionOfMedia(const QString &bsdName) const {
   refresh();
-  const auto mounted = _mounted.constFind(bsdName);
-  if (mounted != _mounted.constEnd()) return *mounted;
-  const Medium *medium = _media.named(bsdName);
-  return medium == nullptr ? std::nullopt : std::optional(medium->description);
+  return describe(_media.named(bsdName));
 }
 
 std::optional<DiskDescription> LinuxDiskService::descriptionOfVolume(
@@ -92,7 +89,8 @@ QStringList LinuxDiskService::mediaNamesOnDisk(const QString &wholeDisk) const {
 }
 
 std::optional<Dissenter> LinuxDiskService::refusalOf(const Medium *medium) const {
-  if (presence() != Presence::Answering) return Dissenter{kDAReturnNotReady};
+  const bool isReady = presence() == Presence::Answering && !_tree.owner().isEmpty();
+  if (!isReady) return Dissenter{kDAReturnNotReady};
   if (medium == nullptr) return Dissenter{kDAReturnNotFound};
   return std::nullopt;
 }
@@ -160,11 +158,14 @@ void LinuxDiskService::changePresence() {
   _soon.start();
 }
 
+// A disk may have a thousand partitions, and most of them go without anybody's notice: those are
+// left to the change that is told of all of them together.
 void LinuxDiskService::removeInterfaces(const QString &path, const QStringList &interfaces,
                                         quint64 device) {
   const bool isPulled = interfaces.contains(kBlockInterface);
   if (!isPulled && !interfaces.contains(kFilesystemInterface)) return;
+  if (!_requests.concern(path) && !_events.concern(device)) return;
   postNews();
   if (isPulled) post(_events.pulled(device));
-  _requests.failVanished(path, _mounts.mountPointOf(device).has_value());
+  _requests.failVanished(path, isPulled, _mounts.mountPointOf(device).has_value());
 }

@@ -54,6 +54,6 @@ class LinuxDiskService final : public QObject, public DiskService, public MediaR
   // What the last question, or the last event, found.
   mutable MountTable _mounts;
   mutable MediaCatalog _media;
-  mutable QHash<QString, DiskDescription> _mounted;  // the whole descriptions of what is mounted
+  mutable QHash<quint64, DiskDescription> _mounted;  // by device, of what is mounted, in full
   mutable bool _isChangeUntold = false;
 };

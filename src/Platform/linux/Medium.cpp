@@ -9,8 +9,12 @@ namespace {
 
 constexpr int kLargestSlice = 1'000'000;
 
+quint64 deviceOf(const ServiceObject &block) {
+  return block.number(kBlockInterface, u"DeviceNumber"_s).value_or(0);
+}
+
 bool holdsSomething(const ServiceObject &block) {
-  return block.number(kBlockInterface, u"Size"_s).value_or(0) > 0;
+  return deviceOf(block) != 0 && block.number(kBlockInterface, u"Size"_s).value_or(0) > 0;
 }
 
 template <typename Value>
@@ -40,7 +44,7 @@ Medium describeBlock(const QString &path, const ServiceObject &block, int unit, 
   Medium medium{path,
                 unit,
                 slice,
-                block.number(kBlockInterface, u"DeviceNumber"_s).value_or(0),
+                deviceOf(block),
                 block.text(kBlockInterface, u"IdLabel"_s).value_or(QString()),
                 {}};
   DiskDescription &description = medium.description;

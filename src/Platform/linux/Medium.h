@@ -28,6 +28,6 @@ std::optional<Medium> describePartition(const QString &path, const ServiceObject
                                         const ServiceObject &disk, const ServiceObject &drive,
                                         int unit);
 
-/// Whether the object stands for a whole disk: one with a size, and with a file if it is a loop
-/// device.
+/// Whether the object stands for a whole disk: one with a device number and a size, and with a file
+/// if it is a loop device.
 bool isWholeDisk(const ServiceObject &object);

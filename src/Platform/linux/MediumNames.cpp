@@ -71,7 +71,7 @@ std::optional<QString> protocolOf(const ServiceObject &block, const ServiceObjec
 }
 
 std::optional<QString> volumeKindOf(const ServiceObject &block) {
-  if (block.text(kBlockInterface, u"IdUsage"_s) != "filesystem"_L1) return std::nullopt;
+  if (!block.has(kFilesystemInterface)) return std::nullopt;
   const auto type = block.text(kBlockInterface, u"IdType"_s);
   if (!type || type->isEmpty()) return std::nullopt;
   return type == "vfat"_L1 ? u"msdos"_s : *type;

@@ -11,8 +11,8 @@ QString kernelNameOf(const ServiceObject &block);
 /// name in the partition table, else what their type is for. Never empty.
 QString mediaNameOfPartition(const ServiceObject &partition);
 
-/// The file's name for a loop device, vendor and model for a drive (whose object may be empty), the
-/// mapped name for what has none. Never empty.
+/// The file's name for a loop device, else vendor and model of the drive (whose object may be
+/// empty), else the name of the mapping or, last, of the device. Never empty.
 QString mediaNameOfDisk(const ServiceObject &block, const ServiceObject &drive);
 
 /// The partition scheme. Absent for a disk without partitions, or with a scheme of another kind.
@@ -24,5 +24,6 @@ std::optional<QString> contentOfPartition(const ServiceObject &partition);
 /// How the drive is attached. Absent when there is nothing to tell.
 std::optional<QString> protocolOf(const ServiceObject &block, const ServiceObject &drive);
 
-/// "msdos" for all FAT file systems, else the file system's own name. Absent when there is none.
+/// "msdos" for all FAT file systems, else the file system's own name. Absent when there is none
+/// that the service offers to mount.
 std::optional<QString> volumeKindOf(const ServiceObject &block);

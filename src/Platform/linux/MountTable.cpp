@@ -27,8 +27,17 @@ quint64 deviceBehind(const MountLine &line) {
   return source.st_rdev;
 }
 
+// The name stands at the end of the options and may have commas of its own.
+QByteArray subvolumeOf(const MountLine &line) {
+  const QByteArray key = ",subvol=";
+  const qsizetype index = line.options.indexOf(key);
+  return index < 0 ? QByteArray() : line.options.sliced(index + key.size());
+}
+
+// Some systems keep their "/" in a folder of its volume.
 bool isWholeVolume(const MountLine &line) {
-  return line.root == "/" || line.fileSystem == "btrfs";  // there it is a subvolume
+  if (line.root == "/" || line.mountPoint == "/") return true;
+  return line.fileSystem == "btrfs" && line.root == subvolumeOf(line);
 }
 
 }  // namespace

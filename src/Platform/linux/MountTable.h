@@ -24,6 +24,7 @@ struct MountLine {
   QByteArray mountPoint;
   QByteArray fileSystem;
   QByteArray source;
+  QByteArray options;  // of the file system
 };
 
 /// The lines of a table in the form of /proc/self/mountinfo, in their order. Malformed ones are
@@ -57,7 +58,8 @@ class MountTable {
   /// Brings the answers below up to date. True if they may be others than before.
   bool refresh();
 
-  /// Mounts of whole volumes in the kernel's order. A mount of a mere folder of one is none.
+  /// Mounts of whole volumes in the kernel's order; a subvolume of btrfs is one. A mount of a mere
+  /// folder of one is none, but at "/".
   const QList<Mount> &mounts() const { return _mounts; }
 
   /// "/" if the device is mounted there among others, else where it was mounted first.

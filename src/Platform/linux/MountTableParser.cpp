@@ -45,8 +45,13 @@ std::optional<MountLine> parseLine(const QByteArray &line) {
   const auto device = deviceNumber(fields[2]);
   const QByteArray mountPoint = unescaped(fields[4]);
   if (!idIsNumber || !device || !mountPoint.startsWith('/')) return std::nullopt;
-  return MountLine{id,         *device,          unescaped(fields[3]),
-                   mountPoint, fields[dash + 1], unescaped(fields[dash + 2])};
+  return MountLine{id,
+                   *device,
+                   unescaped(fields[3]),
+                   mountPoint,
+                   fields[dash + 1],
+                   unescaped(fields[dash + 2]),
+                   unescaped(fields.value(dash + 3))};
 }
 
 }  // namespace

@@ -37,26 +37,27 @@ const QHash<QString, DAReturn> &busStatuses() {
   return statuses;
 }
 
-// Some refusals have no name of their own: only the message tells them from the rest.
+// Some refusals have no name of their own: only the message tells them from the rest. The reason
+// stands at its end; before it come names that people have chosen.
 DAReturn statusFromMessage(const QString &message) {
   const std::array<std::pair<QLatin1StringView, DAReturn>, 3> fragments{{
       {"No space left on device"_L1, unixErrorStatus(ENOSPC)},
       {"Read-only file system"_L1, kDAReturnNotWritable},
       {"write-protected"_L1, kDAReturnNotWritable},
   }};
+  const QString reason = message.section(u": "_s, -1);
   for (const auto &[fragment, status] : fragments) {
-    if (message.contains(fragment, Qt::CaseInsensitive)) return status;
+    if (reason.contains(fragment, Qt::CaseInsensitive)) return status;
   }
   return kDAReturnError;
 }
 
-bool isUnknown(const QString &error) {
-  return error == "UnknownMethod"_L1 || error == "UnknownObject"_L1 ||
-         error == "UnknownInterface"_L1;
-}
-
-DAReturn statusFromBus(const QString &error, bool objectIsThere) {
-  if (isUnknown(error)) return objectIsThere ? kDAReturnUnsupported : kDAReturnNotFound;
+DAReturn statusFromBus(const QString &error, const QString &message, bool objectIsThere) {
+  if (error == "UnknownObject"_L1) return kDAReturnNotFound;
+  if (error == "UnknownMethod"_L1 || error == "UnknownInterface"_L1) {
+    const bool isGone = !objectIsThere || message.startsWith("Object does not exist"_L1);
+    return isGone ? kDAReturnNotFound : kDAReturnUnsupported;
+  }
   if (error.startsWith("Spawn."_L1)) return kDAReturnNotReady;  // the service could not be started
   return busStatuses().value(error, kDAReturnError);
 }
@@ -65,7 +66,7 @@ DAReturn statusFromBus(const QString &error, bool objectIsThere) {
 
 DAReturn refusalStatus(const QString &errorName, const QString &message, bool objectIsThere) {
   if (errorName.startsWith(kBusPrefix)) {
-    return statusFromBus(errorName.sliced(kBusPrefix.size()), objectIsThere);
+    return statusFromBus(errorName.sliced(kBusPrefix.size()), message, objectIsThere);
   }
   if (!errorName.startsWith(kServicePrefix)) return kDAReturnError;
   const QString error = errorName.sliced(kServicePrefix.size());

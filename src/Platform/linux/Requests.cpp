@@ -2,7 +2,8 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QtConcurrent>
+#include <QFutureWatcher>
+#include <algorithm>
 #include <limits>
 
 #include "Foundation/SystemLog.h"
@@ -34,20 +35,29 @@ void Requests::unmount(const Medium &medium, DiskService::Completion completion)
 void Requests::forceUnmount(const Medium &medium, const QString &mountPoint,
                             DiskService::Completion completion) {
   const Number number = enter(medium, kUnmount, {{u"force"_s, true}}, std::move(completion));
-  QtConcurrent::run(flushVolume, mountPoint).then(this, [this, number] { send(number); });
+  auto *flush = new QFutureWatcher<int>(this);
+  connect(flush, &QFutureWatcherBase::finished, this, [this, number, mountPoint, flush] {
+    flush->deleteLater();
+    if (const int error = flush->result()) {
+      systemLog(u"%1 was not flushed: %2"_s.arg(mountPoint, qt_error_string(error)));
+    }
+    send(number);
+  });
+  flush->setFuture(flushVolume(mountPoint, medium.device));
 }
 
 Requests::Number Requests::enter(const Medium &medium, const QString &method,
                                  const QVariantMap &options, DiskService::Completion completion) {
   const Number number = ++_last;
-  _pending.insert(number, {medium.bsdName(), medium.objectPath, method, options, completion});
+  _pending.insert(number,
+                  {medium.bsdName(), medium.objectPath, method, options, std::move(completion)});
   return number;
 }
 
 void Requests::send(Number number) {
   const auto request = _pending.constFind(number);
   if (request == _pending.constEnd()) return;  // completed during the flush
-  auto call = QDBusMessage::createMethodCall(kDiskServiceName, request->objectPath,
+  auto call = QDBusMessage::createMethodCall(_tree.owner(), request->objectPath,
                                              kFilesystemInterface, request->method);
   call.setArguments({request->options});
   call.setInteractiveAuthorizationAllowed(true);
@@ -73,12 +83,19 @@ void Requests::failAll() {
   for (const Number number : numbers) complete(number, Dissenter{kDAReturnNotReady});
 }
 
-void Requests::failVanished(const QString &objectPath, bool isMounted) {
+bool Requests::concern(const QString &objectPath) const {
+  return std::ranges::any_of(
+      _pending, [&](const Request &request) { return request.objectPath == objectPath; });
+}
+
+void Requests::failVanished(const QString &objectPath, bool isPulled, bool isMounted) {
   const auto numbers = _pending.keys();
   for (const Number number : numbers) {
     const auto request = _pending.constFind(number);
     if (request == _pending.constEnd() || request->objectPath != objectPath) continue;
-    const bool isDone = request->method == kUnmount && !isMounted;
+    const bool isMount = request->method == kMount;
+    if (isMount && !isPulled) continue;
+    const bool isDone = !isMount && !isMounted;
     complete(number, isDone ? std::nullopt : std::optional(Dissenter{kDAReturnNotFound}));
   }
 }

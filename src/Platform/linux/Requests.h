@@ -27,12 +27,16 @@ class Requests : public QObject {
   void forceUnmount(const Medium &medium, const QString &mountPoint,
                     DiskService::Completion completion);
 
-  /// Completes everything: the service is gone.
+  /// Completes everything: the service that was asked is gone.
   void failAll();
 
-  /// Completes what was asked of an object that is gone or has no file system any more.
-  /// `isMounted`: whether the kernel still has it mounted; an unmount has what it wanted if not.
-  void failVanished(const QString &objectPath, bool isMounted);
+  /// Whether anything that was asked of this object is not answered yet.
+  bool concern(const QString &objectPath) const;
+
+  /// Completes what was asked of an object that is gone (`isPulled`) or has no file system any more.
+  /// In the second case a mount waits on: the service may be looking at the disk anew. `isMounted`:
+  /// whether the kernel still has it mounted; an unmount has what it wanted if not.
+  void failVanished(const QString &objectPath, bool isPulled, bool isMounted);
 
  private:
   struct Request {

@@ -46,8 +46,7 @@ bool ServiceObject::flag(const QString &interface, const QString &property) cons
 QString ServiceObject::fileName(const QString &interface, const QString &property) const {
   const QVariant found = value(interface, property);
   if (found.typeId() != QMetaType::QByteArray) return {};
-  const QByteArray bytes = found.toByteArray();
-  return QFile::decodeName(bytes.left(bytes.indexOf('\0')));
+  return QFile::decodeName(found.toByteArray().constData());  // to the first NUL, or all of it
 }
 
 QString ServiceObject::link(const QString &interface, const QString &property) const {

@@ -74,6 +74,7 @@ void ServiceTree::followSignals() {
 }
 
 void ServiceTree::fetch() {
+  _again.stop();
   _sinceFetch.start();
   const auto question = QDBusMessage::createMethodCall(kDiskServiceName, kRootPath, kObjectManager,
                                                        u"GetManagedObjects"_s);
@@ -82,9 +83,10 @@ void ServiceTree::fetch() {
 }
 
 void ServiceTree::fetchAgain() {
-  _fetching = nullptr;
-  const bool diesAgain =
-      _sinceFetch.isValid() && std::chrono::milliseconds(_sinceFetch.elapsed()) < kShortLife;
+  const bool isUnanswered = std::exchange(_fetching, nullptr) != nullptr;
+  // Nobody but us starts it, and all that it does is die: what it said last is not worth showing.
+  if (isUnanswered && _delay == kLongestDelay) becomeAbsent();
+  const bool diesAgain = std::chrono::milliseconds(_sinceFetch.elapsed()) < kShortLife;
   _delay = diesAgain ? std::clamp<std::chrono::milliseconds>(_delay * 2, kFirstDelay, kLongestDelay)
                      : 0ms;
   _again.start(_delay);
@@ -93,9 +95,10 @@ void ServiceTree::fetchAgain() {
 void ServiceTree::takeTree(QDBusPendingCallWatcher *call) {
   call->deleteLater();
   if (call != _fetching) return;
-  _fetching = nullptr;
   const QDBusPendingReply<ManagedObjects> reply = *call;
   if (reply.isError()) return fetchFailed(reply.error());
+  _fetching = nullptr;
+  _owner = reply.reply().service();
   const ManagedObjects tree = reply.value();
   ServiceObjects objects;
   objects.reserve(tree.size());
@@ -109,26 +112,27 @@ void ServiceTree::takeTree(QDBusPendingCallWatcher *call) {
 void ServiceTree::fetchFailed(const QDBusError &error) {
   // It died over the question; its successor may do better.
   if (error.type() == QDBusError::NoReply) return fetchAgain();
+  _fetching = nullptr;
   systemLog(u"no disk service: %1: %2"_s.arg(error.name(), error.message()));
-  replaceTree({});
-  setPresence(DiskService::Presence::Absent);
+  becomeAbsent();
 }
 
 void ServiceTree::changeOwner(const QString &before, const QString &after) {
-  if (!before.isEmpty()) {
-    fetchAgain();
-    emit serviceLost();
-  } else if (!after.isEmpty() && _fetching == nullptr && !_again.isActive()) {
+  _owner = after;
+  if (!before.isEmpty()) fetchAgain();
+  if (!after.isEmpty() && _fetching == nullptr) {  // started by another than us
+    _delay = 0ms;
     fetch();
   }
+  if (!before.isEmpty()) emit serviceLost();
 }
 
 void ServiceTree::loseBus() {
   _fetching = nullptr;
   _again.stop();
+  _owner.clear();
   systemLog(u"the system bus is gone"_s);
-  replaceTree({});
-  setPresence(DiskService::Presence::Absent);
+  becomeAbsent();
   emit serviceLost();
 }
 
@@ -146,6 +150,11 @@ void ServiceTree::replaceTree(ServiceObjects objects) {
 
 void ServiceTree::setPresence(DiskService::Presence presence) {
   if (std::exchange(_presence, presence) != presence) emit presenceChanged();
+}
+
+void ServiceTree::becomeAbsent() {
+  replaceTree({});
+  setPresence(DiskService::Presence::Absent);
 }
 
 void ServiceTree::noteChange(const QString &path) {

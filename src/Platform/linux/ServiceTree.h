@@ -5,8 +5,8 @@
 // The tree is fetched once, asynchronously, and then follows the service's signals. When the
 // service goes away it is asked for anew, which also starts it where the bus can; until the answer
 // comes the last tree stands, so that a restart of the service changes nothing that anyone can see.
-// A service that dies again and again is asked ever more slowly, and one that appears later is
-// fetched when it does.
+// A service that dies over the question again and again is asked ever more slowly and soon counts
+// as absent; one that appears is fetched when it does.
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
@@ -33,6 +33,9 @@ class ServiceTree : public QObject {
   DiskService::Presence presence() const { return _presence; }
   const ServiceObjects &objects() const { return _objects; }
   const QDBusConnection &connection() const { return _connection; }
+  /// The service's own address, which no successor has: what is asked of it is answered by it or,
+  /// when `serviceLost` is sent, by nobody. Empty while there is none.
+  const QString &owner() const { return _owner; }
 
   bool hasChanges() const { return !_changes.isEmpty(); }
   /// The paths of the objects that came, went or changed since the last call.
@@ -65,11 +68,13 @@ class ServiceTree : public QObject {
   void changeOwner(const QString &before, const QString &after);
   void replaceTree(ServiceObjects objects);
   void setPresence(DiskService::Presence presence);
+  void becomeAbsent();
   void noteChange(const QString &path);
 
   QDBusConnection _connection;
   QDBusServiceWatcher _watcher;
   DiskService::Presence _presence = DiskService::Presence::Asking;
+  QString _owner;
   ServiceObjects _objects;
   QSet<QString> _changes;
   QDBusPendingCallWatcher *_fetching = nullptr;  // answers of earlier fetches are void

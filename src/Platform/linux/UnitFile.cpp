@@ -1,8 +1,6 @@
 #include "Platform/linux/UnitFile.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
@@ -25,7 +23,7 @@ UnitFile::UnitFile(QString path, QString boot) : _path(std::move(path)), _boot(s
 
 Units UnitFile::read() const {
   QFile file(_path);
-  if (_path.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
+  if (!file.open(QIODevice::ReadOnly)) return {};
   const QJsonObject content = QJsonDocument::fromJson(file.read(kLargestFile)).object();
   if (content["boot"_L1].toString() != _boot || !isNumber(content["next"_L1])) return {};
   Units units{{}, content["next"_L1].toInt()};
@@ -46,7 +44,7 @@ bool UnitFile::write(const Units &units) const {
     numbers.insert(unit.key(), unit.value());
   }
   const QJsonObject content{{u"boot"_s, _boot}, {u"next"_s, units.next}, {u"units"_s, numbers}};
+  const QByteArray text = QJsonDocument(content).toJson(QJsonDocument::Compact);
   QSaveFile file(_path);
-  return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(content).toJson()) > 0 &&
-         file.commit();
+  return file.open(QIODevice::WriteOnly) && file.write(text) > 0 && file.commit();
 }

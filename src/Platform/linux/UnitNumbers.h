@@ -24,6 +24,8 @@ class UnitNumbers {
   };
 
   void number(QList<Candidate> candidates);
+  void numberOnwards(const QList<Candidate> &candidates);
+  void keepOnly(const QList<Candidate> &candidates);
   void adopt(const Units &shared);
 
   BlockDevices _devices;

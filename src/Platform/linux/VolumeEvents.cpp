@@ -1,6 +1,7 @@
 #include "Platform/linux/VolumeEvents.h"
 
 #include <QSet>
+#include <algorithm>
 
 #include "Platform/Platform.h"
 
@@ -18,12 +19,17 @@ void VolumeEvents::accept(const MountTable &table, const MediaCatalog &media) {
 }
 
 QList<VolumeEvent> VolumeEvents::forget(const std::function<bool(const Mount &)> &isGone) {
-  QList<VolumeEvent> events;
+  QList<Mount> gone;
   _told.removeIf([&](const auto &mount) {
     if (!isGone(mount.key())) return false;
-    if (*mount) events.append({kNSWorkspaceDidUnmountNotification, mount.key().mountPoint});
+    if (*mount) gone.append(mount.key());
     return true;
   });
+  std::ranges::sort(gone, {}, &Mount::id);
+  QList<VolumeEvent> events;
+  for (const Mount &mount : gone) {
+    events.append({kNSWorkspaceDidUnmountNotification, mount.mountPoint});
+  }
   return events;
 }
 
@@ -37,6 +43,11 @@ QList<VolumeEvent> VolumeEvents::news(const MountTable &table, const MediaCatalo
     events.append({kNSWorkspaceDidMountNotification, mount.mountPoint});
   }
   return events;
+}
+
+bool VolumeEvents::concern(quint64 device) const {
+  return std::any_of(_told.keyBegin(), _told.keyEnd(),
+                     [&](const Mount &mount) { return mount.device == device; });
 }
 
 QList<VolumeEvent> VolumeEvents::pulled(quint64 device) {

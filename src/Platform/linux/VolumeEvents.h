@@ -26,7 +26,10 @@ class VolumeEvents {
   /// The news since the last call, in the order in which they happened as far as that is known.
   QList<VolumeEvent> news(const MountTable &table, const MediaCatalog &media);
 
-  /// The news that a medium's removal is.
+  /// Whether a mount of this device was told of, or accepted, and its end was not.
+  bool concern(quint64 device) const;
+
+  /// The news that a medium's removal is, in the order in which the volumes were mounted.
   QList<VolumeEvent> pulled(quint64 device);
 
  private:

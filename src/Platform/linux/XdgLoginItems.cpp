@@ -34,7 +34,7 @@ QHash<QString, QString> readEntry(const QString &fileName) {
 
 /// The program that an "Exec" line starts: its first word, which may stand in double quotes.
 QString firstWord(QString exec) {
-  exec.replace("\\\\"_L1, "\\"_L1);  // the escape of every value in such a file
+  exec.replace("\\\\"_L1, "\\"_L1);  // as `escaped` left it
   if (!exec.startsWith(u'"')) return exec.section(u' ', 0, 0);
   QString word;
   for (qsizetype index = 1; index < exec.size() && exec[index] != u'"'; ++index) {
@@ -44,18 +44,25 @@ QString firstWord(QString exec) {
   return word;
 }
 
+/// The escape of every value in such a file.
+QString escaped(QString value) {
+  return value.replace(u'\\', "\\\\"_L1);
+}
+
 /// `firstWord` the other way round. A "%" stands for itself only when it is doubled.
 QString quotedForExec(QString program) {
   for (const char character : {'\\', '"', '`', '$'}) {
     program.replace(QLatin1Char(character), QString(u'\\') + QLatin1Char(character));
   }
-  program.replace(u'%', "%%"_L1);
-  return u'"' + program.replace(u'\\', "\\\\"_L1) + u'"';
+  return u'"' + escaped(program.replace(u'%', "%%"_L1)) + u'"';
 }
 
-std::optional<QString> locationOf(const QString &fileName) {
-  const QHash<QString, QString> keys = readEntry(fileName);
-  if (keys.value(u"Hidden"_s) == "true"_L1) return std::nullopt;
+bool isSwitchedOff(const QHash<QString, QString> &keys) {
+  return keys.value(u"Hidden"_s) == "true"_L1 ||
+         keys.value(u"X-GNOME-Autostart-enabled"_s) == "false"_L1;
+}
+
+std::optional<QString> programOf(const QHash<QString, QString> &keys) {
   const QString word = firstWord(keys.value(u"Exec"_s)).replace("%%"_L1, "%"_L1);
   const QString program = word.startsWith(u'/') ? word : QStandardPaths::findExecutable(word);
   const QString canonical = word.isEmpty() ? QString() : QFileInfo(program).canonicalFilePath();
@@ -83,25 +90,34 @@ std::optional<QVector<LoginItems::Item>> XdgLoginItems::snapshot() const {
   QVector<Item> items;
   for (const QString &name :
        folder.entryList({u"*.desktop"_s}, QDir::Files | QDir::Readable, QDir::Name)) {
-    items.append({name, locationOf(folder.filePath(name))});
+    const auto keys = readEntry(folder.filePath(name));
+    items.append({name, isSwitchedOff(keys) ? std::nullopt : programOf(keys)});
   }
   return items;
 }
 
+// An entry of that name may be somebody else's, or one of ours for a program that has moved since.
+// One that starts this program may be switched off, and is written anew.
+QString XdgLoginItems::fileNameForOwnItem() const {
+  const QDir folder(_folder);
+  QString name = folder.filePath(u"keldra.desktop"_s);
+  for (int number = 1; QFile::exists(name) && programOf(readEntry(name)) != _program; ++number) {
+    name = folder.filePath(u"keldra-%1.desktop"_s.arg(number));
+  }
+  return name;
+}
+
 void XdgLoginItems::insertOwnItem() {
   const QDir folder(_folder);
-  if (!folder.mkpath(u"."_s)) return;
-  // An entry of that name may be somebody else's, or one of ours for a program that has moved
-  // since.
-  QString name = u"keldra.desktop"_s;
-  for (int number = 1; folder.exists(name); ++number) name = u"keldra-%1.desktop"_s.arg(number);
-
-  QSaveFile file(folder.filePath(name));
+  const bool fitsInALine = !_program.contains(u'\n') && !_program.contains(u'\r');
+  if (_program.isEmpty() || !fitsInALine || !folder.mkpath(u"."_s)) return;
+  QSaveFile file(fileNameForOwnItem());
   if (!file.open(QIODevice::WriteOnly)) return;
   const QString entry =
       u"[Desktop Entry]\nType=Application\nName=Keldra\n"
-      u"Comment=EFI System Partitions one click away\nExec=%1\nIcon=keldra\n"
-      u"X-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(_program));
+      u"Comment=EFI System Partitions one click away\nExec=%1\nTryExec=%2\n"
+      u"Icon=keldra\nX-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(_program),
+                                                             escaped(_program));
   file.write(entry.toUtf8());
   file.commit();
 }

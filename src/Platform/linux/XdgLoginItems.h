@@ -17,13 +17,18 @@ class XdgLoginItems final : public LoginItems {
   QString ownLocation() const override;
 
   /// An item's location is the program that its entry starts: absolute, or found on the search
-  /// path, links resolved. Absent for an entry that is hidden, broken or names no program that is
-  /// there.
+  /// path, links resolved. Absent for an entry that is switched off or broken, or names no program
+  /// that is there.
   std::optional<QVector<Item>> snapshot() const override;
+
+  /// Also switches an own item on again that the user, or the desktop, has switched off. Entries of
+  /// others are left alone.
   void insertOwnItem() override;
   void remove(const Item &item) override;
 
  private:
+  QString fileNameForOwnItem() const;
+
   QString _folder;
   QString _program;
 };

@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QJsonParseError>
 #include <QSet>
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "DiskArbitrator/daStatus.h"
@@ -30,6 +32,12 @@ class Reader {
     if (value.isUndefined()) return absent;
     if (!value.isString()) fail(key, u"a text in quotes is needed"_s);
     return value.toString();
+  }
+
+  QString uuid(const QString &key) {
+    const QString text = this->text(key);
+    if (!text.isEmpty() && !DiskUUID::fromText(text)) fail(key, u"a UUID is needed"_s);
+    return text;
   }
 
   bool flag(const QString &key, bool absent) {
@@ -58,7 +66,10 @@ class Reader {
   std::optional<DAReturn> status(const QString &key) {
     const QJsonValue value = take(key);
     if (value.isUndefined()) return std::nullopt;
-    if (value.isDouble()) return static_cast<DAReturn>(value.toInteger());
+    const qint64 number = value.toInteger(-1);
+    if (number > 0 && number <= std::numeric_limits<DAReturn>::max()) {
+      return static_cast<DAReturn>(number);
+    }
     for (DAReturn status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
       if (value.toString() == QLatin1StringView(daStatus(status))) return status;
     }
@@ -106,6 +117,9 @@ void readVolume(Reader &reader, SimulatedPartition &partition) {
   partition.volumeName = reader.text(u"name"_s);
   partition.volumeUUID = reader.text(u"uuid"_s);
   const QString mountPoint = reader.text(u"mountPoint"_s);
+  if (mountPoint.contains(u'/') && !mountPoint.startsWith(u'/')) {
+    reader.fail(u"mountPoint"_s, u"an absolute path or a name without \"/\" is needed"_s);
+  }
   if (!mountPoint.isEmpty()) partition.mountPoint = mountPoint;
   reader.expectNothingElse();
 }
@@ -115,7 +129,7 @@ SimulatedPartition readPartition(Reader &reader) {
   partition.slice = reader.number(u"slice"_s, 1, kLargestUnit);
   partition.media = reader.text(u"media"_s);
   partition.content = reader.text(u"content"_s);
-  partition.uuid = reader.text(u"uuid"_s);
+  partition.uuid = reader.uuid(u"uuid"_s);
   partition.deviceNode = reader.text(u"device"_s);
   partition.delay = std::chrono::milliseconds(reader.number(u"delay"_s, 0, kLargestDelay, 0));
   if (auto volume = reader.object(u"volume"_s)) readVolume(*volume, partition);
@@ -132,7 +146,7 @@ SimulatedDisk readDisk(Reader &reader) {
   disk.unit = reader.number(u"unit"_s, 0, kLargestUnit);
   disk.media = reader.text(u"media"_s);
   disk.scheme = reader.text(u"scheme"_s);
-  disk.uuid = reader.text(u"uuid"_s);
+  disk.uuid = reader.uuid(u"uuid"_s);
   disk.protocol = reader.text(u"protocol"_s);
   disk.deviceNode = reader.text(u"device"_s);
   disk.isWritable = reader.flag(u"writable"_s, true);

@@ -2,12 +2,12 @@
 
 // Machine files: JSON that describes a machine for the simulated platform.
 //
-//   { "disks": [ { "unit": 0, "media": "Samsung SSD 990 PRO 2TB", "scheme":
-//   "GUID_partition_scheme",
-//                  "partitions": [ { "slice": 1, "media": "EFI System Partition",
-//                                    "volume": { "kind": "msdos", "name": "EFI", "mountPoint":
-//                                    "EFI" }, "refuse": { "unmount": "busy" }, "delay": 500 } ] } ]
-//                                    }
+//   { "disks": [
+//       { "unit": 0, "media": "Samsung SSD 990 PRO 2TB", "scheme": "GUID_partition_scheme",
+//         "partitions": [
+//           { "slice": 1, "media": "EFI System Partition", "delay": 500,
+//             "volume": { "kind": "msdos", "name": "EFI", "mountPoint": "EFI" },
+//             "refuse": { "unmount": "busy" } } ] } ] }
 //
 // A mount point without a "/" is a folder in the machine's volumes folder. A refusal is one of the
 // phrases of `daStatus` or a number; a delay is in milliseconds and holds for both requests.

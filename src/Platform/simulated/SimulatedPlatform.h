@@ -3,9 +3,8 @@
 // A machine that exists only as data, and behaves: it mounts and unmounts, refuses, is slow, loses
 // disks.
 //
-//   SimulatedPlatform platform(std::get<Machine>(readMachineFile(json)),
-//   std::make_unique<SystemClock>()); platform.pull(2);  // disk2 is gone, and whatever was mounted
-//   from it
+//   SimulatedPlatform platform(machine, std::make_unique<SystemClock>());
+//   platform.pull(2);  // disk2 is gone, and whatever was mounted from it
 //
 // Mount points are real folders below a temporary one, so that the program can look into them.
 // Everything that the machine does is announced from the event loop, in order, before the request

@@ -116,16 +116,15 @@ TEST_F(MediaCatalogTest, DescribesTheVolume) {
   const auto fat = machine.addPartition(disk, 1, kEspType, "");
   const auto ext4 = machine.addPartition(disk, 2, "0x83", "");
   const auto swap = machine.addPartition(disk, 3, "0x82", "");
-  const auto volume = [&](const QString &path, const QString &usage, const QString &type,
-                          const QString &uuid) {
-    machine.set(path, kBlockInterface, "IdUsage", usage);
+  const auto volume = [&](const QString &path, const QString &type, const QString &uuid) {
     machine.set(path, kBlockInterface, "IdType", type);
     machine.set(path, kBlockInterface, "IdUUID", uuid);
   };
   const QString uuid = "6f9619ff-8b86-d011-b42d-00cf4fc964ff";
-  volume(fat, "filesystem", "vfat", "1234-ABCD");
-  volume(ext4, "filesystem", "ext4", uuid);
-  volume(swap, "other", "swap", uuid);
+  volume(fat, "vfat", "1234-ABCD");
+  volume(ext4, "ext4", uuid);
+  volume(swap, "swap", uuid);
+  for (const QString &path : {fat, ext4}) machine.objects[path].add({{kFilesystemInterface, {}}});
   machine.set(disk, kPartitionTableInterface, "Type", "gpt");
   update();
   EXPECT_EQ(value("disk0", kDADiskDescriptionMediaContentKey), "GUID_partition_scheme");
@@ -142,6 +141,7 @@ TEST_F(MediaCatalogTest, LeavesOutWhatHoldsNothing) {
   machine.addLoop("loop0", 1, "");
   machine.addDisk("zram0", 2);
   machine.set(machine.addDisk("sr0", 3), kBlockInterface, "Size", 0ULL);
+  machine.set(machine.addDisk("sdb", 5), kBlockInterface, "DeviceNumber", "8:5");
   const auto ignored = machine.addDisk("sda", 4);
   machine.set(ignored, kBlockInterface, "HintIgnore", true);
   update();
@@ -169,8 +169,8 @@ TEST_F(MediaCatalogTest, SurvivesPropertiesOfWrongTypesAndMissingOnes) {
   machine.addPartition("/nowhere", 4, kEspType, "");
   machine.addPartition(partition, 5, kEspType, "");
   machine.addPartition(disk, 1, kEspType, "");
-  for (const char *property : {"IdLabel", "IdType", "IdUsage", "IdUUID", "ReadOnly", "Drive",
-                               "PreferredDevice", "DeviceNumber"}) {
+  for (const char *property :
+       {"IdLabel", "IdType", "IdUsage", "IdUUID", "ReadOnly", "Drive", "PreferredDevice"}) {
     machine.set(partition, kBlockInterface, property, 12.5);
   }
   for (const char *property : {"Type", "Name", "UUID"}) {
@@ -178,6 +178,9 @@ TEST_F(MediaCatalogTest, SurvivesPropertiesOfWrongTypesAndMissingOnes) {
   }
   update();
   EXPECT_EQ(catalog.names(), (QStringList{"disk0", "disk0s1"}));
+  machine.set(partition, kBlockInterface, "PreferredDevice", QByteArray("/dev/without-nul"));
+  update(partition);
+  EXPECT_EQ(value("disk0s1", kDiskDescriptionDeviceNodeKey), "/dev/without-nul");
   machine.set(partition, kPartitionInterface, "Number", "one");
   update(partition);
   machine.set(disk, kBlockInterface, "Size", "big");

@@ -78,6 +78,20 @@ TEST(MountTable, TellsWhereAVolumeIsMounted) {
   EXPECT_EQ(table.deviceAt("/none"), 0U);
 }
 
+TEST(MountTable, KnowsSubvolumesAndSystemsInAFolderOfTheirVolume) {
+  const TableFile file(
+      "20 1 8:1 /ostree/deploy/7 / rw - ext4 /dev/sda1 rw\n"
+      "21 1 8:2 /@,a\\040b /sub rw - btrfs /dev/sda2 rw,subvolid=256,subvol=/@,a\\040b\n"
+      "22 1 8:3 /@/folder /bind rw - btrfs /dev/sda3 rw,subvolid=257,subvol=/@\n"
+      "23 1 8:4 /folder /bare rw - btrfs /dev/sda4\n"
+      "24 1 8:5 /@ /other rw - ext4 /dev/sda5 rw,subvol=/@\n");
+  MountTable table(file.path());
+  table.refresh();
+  EXPECT_EQ(table.mountPointOf(makedev(8, 1)), "/");
+  EXPECT_EQ(table.mountPointOf(makedev(8, 2)), "/sub");
+  EXPECT_EQ(table.mounts().size(), 2) << "the others are folders";
+}
+
 TEST(MountTable, IsEmptyWithoutAFile) {
   MountTable table("/nowhere/mountinfo");
   table.setChangeHandler([] {});

@@ -39,7 +39,7 @@ class UnitNumbersTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(UnitNumbersTest, PutDrivesBeforeMappedDevicesBeforeLoops) {
+TEST_F(UnitNumbersTest, PutDrivesFirstAndReadersLast) {
   const auto loop10 = attach("loop10", 1, 1);
   const auto loop2 = attach("loop2", 2, 2);
   const auto mapped = attach("dm-0", 3, 3);
@@ -49,9 +49,14 @@ TEST_F(UnitNumbersTest, PutDrivesBeforeMappedDevicesBeforeLoops) {
   const auto nvme = attach("nvme0n1", 7, 7);
   attach("loop0", 8, 8, 0);
   attach("zram0", 9, 9);
+  const auto reader = attach("sr0", 10, 10);
+  const auto memory = attach("pmem0", 11, 11);
+  const auto network = attach("nbd0", 12, 12);
+  const auto card = attach("mmcblk0", 13, 13);
   auto units = program();
-  EXPECT_EQ(units.unitsOf({loop10, sdb, mapped, nvme, raid, sdaa, loop2}),
-            (QList{6, 1, 3, 0, 4, 2, 5}));
+  EXPECT_EQ(
+      units.unitsOf({card, nvme, sdb, sdaa, memory, mapped, raid, network, loop2, loop10, reader}),
+      (QList{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
 }
 
 TEST_F(UnitNumbersTest, DoNotDependOnTheOrderOfAnnouncements) {
@@ -80,8 +85,22 @@ TEST_F(UnitNumbersTest, GoByDeviceNumberForDisksThatTheKernelDoesNotKnow) {
   auto units = program();
   const WholeDisk unknown{"sdx", makedev(8, 160)};
   const WholeDisk impostor{"sda", makedev(9, 9)};
-  EXPECT_EQ(units.unitsOf({unknown, impostor}), (QList{2, 1}));
+  EXPECT_EQ(units.unitsOf({unknown, impostor}), (QList{2, 0}));
   EXPECT_EQ(units.unitsOf({unknown}), QList{2});
+}
+
+TEST_F(UnitNumbersTest, OfDisksThatAreGoneAreForgottenWhenThereAreTooMany) {
+  const auto sda = attach("sda", 1, 1);
+  QByteArrayList entries;
+  for (int i = 0; i < 6000; ++i) {
+    entries << "\"diskseq " + QByteArray::number(i) + "\":" + QByteArray::number(i);
+  }
+  writeFile(file(), R"({"boot": "boot-1", "next": 6000, "units": {)" + entries.join(',') + "}}");
+  const WholeDisk other{"sdx", makedev(8, 160)};
+  EXPECT_EQ(program().unitsOf({sda, other}), (QList{1, 6000}));
+  EXPECT_LT(QFileInfo(file()).size(), 200);
+  EXPECT_EQ(program().unitsOf({sda, other}), (QList{1, 6000}));
+  EXPECT_EQ(program().unitsOf({{"sdy", makedev(8, 176)}}), QList{6001}) << "never used twice";
 }
 
 TEST_F(UnitNumbersTest, StartAnewWithTheMachine) {

@@ -41,6 +41,17 @@ TEST(MachineFile, IsRefusedWithItsPlaceAndTheReason) {
   EXPECT_EQ(refusalOfPartition(R"({ "slice": 1, "refuse": { "mount": "bussy" } })"),
             "disks[0].partitions[0].refuse.mount: a status phrase such as \"busy\", or a number, "
             "is needed");
+  for (const char *status : {"1.5", "1e30", "0", "-1", "true"}) {
+    EXPECT_NE(
+        refusalOfPartition(R"({ "slice": 1, "refuse": { "mount": )" + QByteArray(status) + " } }"),
+        "accepted")
+        << status;
+  }
+  EXPECT_EQ(refusalOfPartition(R"({ "slice": 1, "uuid": "12AB" })"),
+            "disks[0].partitions[0].uuid: a UUID is needed");
+  EXPECT_EQ(refusalOfPartition(R"({ "slice": 1, "volume": { "mountPoint": "../up" } })"),
+            "disks[0].partitions[0].volume.mountPoint: an absolute path or a name without \"/\" is "
+            "needed");
 }
 
 TEST(MachineFile, GivesTheMachineThatItDescribes) {

@@ -1,0 +1,125 @@
+#include "Platform/linux/XdgLoginItems.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+class XdgLoginItemsTest : public testing::Test {
+ public:
+  QString makeProgram(const QString &name) {
+    QFile file(root.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return file.fileName();
+  }
+  void writeEntry(const QString &name, const QString &lines) const {
+    QDir().mkpath(folder);
+    QFile file(folder + '/' + name);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[Desktop Entry]\nType=Application\n" + lines.toUtf8());
+  }
+  QString entry(const QString &name) const {
+    QFile file(folder + '/' + name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+  }
+  QStringList entries() const { return QDir(folder).entryList(QDir::Files, QDir::Name); }
+
+  static std::optional<QString> location(const XdgLoginItems &items, const QString &name) {
+    const auto all = items.snapshot().value_or(QVector<LoginItems::Item>());
+    for (const auto &item : all) {
+      if (item.identifier == name) return item.location;
+    }
+    ADD_FAILURE() << "no item " << name.toStdString();
+    return std::nullopt;
+  }
+
+  QTemporaryDir root;
+  QString folder = root.filePath("configuration/autostart");
+  QString program = makeProgram("program");
+  XdgLoginItems items{folder, program};
+};
+
+const QString kOwn = "keldra.desktop";
+
+}  // namespace
+
+TEST_F(XdgLoginItemsTest, ComeBackAsTheyWereWrittenWhateverTheProgramIsCalled) {
+  for (const char *name : {"plain", "a blank ", "a\"quote", "$HOME", "100%f", "back\\slash",
+                           "\\\\ \\n \\s", "`id`", "it's", "ünï", "tab\tbed", "a;b=c#d"}) {
+    XdgLoginItems odd(folder, makeProgram(name));
+    odd.insertOwnItem();
+    EXPECT_EQ(location(odd, kOwn), odd.ownLocation()) << name;
+    const auto all = *odd.snapshot();
+    ASSERT_EQ(all.size(), 1);
+    odd.remove(all.first());
+    EXPECT_EQ(entries(), QStringList{});
+  }
+}
+
+TEST_F(XdgLoginItemsTest, AreQuotedAsTheDesktopsReadThem) {
+  XdgLoginItems(folder, makeProgram("a $b%c\\d")).insertOwnItem();
+  const QString path = root.path() + "/a ";
+  EXPECT_TRUE(entry(kOwn).contains("\nExec=\"" + path + R"(\\$b%%c\\\\d")" + "\n"));
+  EXPECT_TRUE(entry(kOwn).contains("\nTryExec=" + path + R"($b%c\\d)" + "\n"));
+}
+
+TEST_F(XdgLoginItemsTest, AreNotWrittenForAProgramThatFitsInNoLine) {
+  for (const char *name : {"two\nExec=lines", "two\rlines"}) {
+    XdgLoginItems(folder, makeProgram(name)).insertOwnItem();
+  }
+  XdgLoginItems(folder, "/nowhere/program").insertOwnItem();
+  EXPECT_EQ(entries(), QStringList{});
+}
+
+TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
+  const QString other = makeProgram("other");
+  writeEntry(kOwn, "Exec=" + other + "\n");
+  writeEntry("keldra-1.desktop", "Exec=" + root.filePath("moved") + "\n");
+  writeEntry("second.desktop", "Exec=\"" + program + "\" --twice\n");
+  writeEntry("third.txt", "Exec=" + program + "\n");
+  const QString before = entry(kOwn);
+  items.insertOwnItem();
+  EXPECT_EQ(entry(kOwn), before);
+  EXPECT_EQ(location(items, kOwn), other);
+  EXPECT_EQ(location(items, "keldra-1.desktop"), std::nullopt) << "its program is not there";
+  EXPECT_EQ(location(items, "keldra-2.desktop"), items.ownLocation());
+  EXPECT_EQ(location(items, "second.desktop"), items.ownLocation()) << "a duplicate";
+  EXPECT_EQ(items.snapshot()->size(), 4);
+}
+
+TEST_F(XdgLoginItemsTest, ThatAreSwitchedOffAreNoneUntilTheyAreWrittenAnew) {
+  for (const char *line : {"Hidden=true", "X-GNOME-Autostart-enabled=false"}) {
+    writeEntry(kOwn, QStringLiteral("Exec=%1\n%2\n").arg(program, line));
+    EXPECT_EQ(location(items, kOwn), std::nullopt);
+    items.insertOwnItem();
+    EXPECT_EQ(location(items, kOwn), items.ownLocation());
+    EXPECT_EQ(entries(), QStringList{kOwn});
+  }
+}
+
+TEST_F(XdgLoginItemsTest, ThatAreBrokenHaveNoLocation) {
+  writeEntry("empty.desktop", "");
+  writeEntry("no-program.desktop", "Exec=\n");
+  writeEntry("unfinished.desktop", "Exec=\"" + program.chopped(1) + "\\");
+  writeEntry("unknown.desktop", "Exec=no-such-program-anywhere %u\n");
+  writeEntry("other-group.desktop", "[Desktop Action new]\nExec=" + program + "\n");
+  writeEntry("bytes.desktop", QString(100'000, QChar(0xfffd)));
+  QDir(folder).mkdir("folder.desktop");
+  const auto all = *items.snapshot();
+  EXPECT_EQ(all.size(), 6);
+  for (const auto &item : all) {
+    EXPECT_EQ(item.location, std::nullopt) << item.identifier.toStdString();
+  }
+}
+
+TEST_F(XdgLoginItemsTest, StayAsTheyAreWhereNothingCanBeWritten) {
+  XdgLoginItems stuck(program + "/autostart", program);
+  stuck.insertOwnItem();
+  EXPECT_EQ(stuck.snapshot()->size(), 0);
+  stuck.remove({kOwn, program});
+  EXPECT_TRUE(QFile::exists(program));
+}

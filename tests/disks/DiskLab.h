@@ -1,0 +1,38 @@
+#pragma once
+
+// The disk laboratory that the tests run in: real disks out of files, and the disk service to be
+// taken away. Everything here blocks without serving the event loop.
+
+#include <QStringList>
+
+namespace DiskLab {
+
+/// Whether the tests run in one.
+bool isHere();
+
+/// Runs a program and fails the test, with what it said, unless it succeeds. Gives its standard
+/// output.
+QByteArray run(const QString &program, const QStringList &arguments, const QByteArray &input = {});
+
+/// Makes a disk with this table (a script for sfdisk, or none). Gives its device, "/dev/loop3".
+QString createDisk(const QString &name, int megabytes, const QByteArray &table = {});
+void format(const QString &device, const QString &kind, const QString &label = {});
+/// As a hand would take it away, mounted or not.
+void pull(const QString &disk);
+/// In good order.
+void remove(const QString &disk);
+
+/// The file behind a disk of this name.
+QString imageFile(const QString &name);
+
+/// A new folder to mount on.
+QString makeFolder(const QString &name);
+
+void startService();
+void stopService();
+void killService();
+/// Makes it deaf until it is killed.
+void freezeService();
+bool isServiceRunning();
+
+}  // namespace DiskLab

@@ -1,0 +1,127 @@
+#include "disks/DiskTest.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QUrl>
+
+#include "Platform/linux/LinuxPlatform.h"
+
+void DiskTest::SetUp() {
+  if (!DiskLab::isHere()) GTEST_SKIP() << "not in a disk laboratory";
+  startPlatform();
+  ASSERT_TRUE(waitForPresence(DiskService::Presence::Answering));
+}
+
+void DiskTest::TearDown() {
+  platform.reset();
+  if (!DiskLab::isHere()) return;
+  if (!DiskLab::isServiceRunning()) DiskLab::startService();
+  for (const QString &disk : _disks) {
+    for (int slice = 1; QFile::exists(QStringLiteral("%1p%2").arg(disk).arg(slice)); ++slice) {
+      QProcess::execute(
+          "sh",
+          {"-c",
+           QStringLiteral("while umount --lazy %1p%2; do :; done 2>&-").arg(disk).arg(slice)});
+    }
+    DiskLab::pull(disk);
+  }
+}
+
+void DiskTest::startPlatform() {
+  platform = makeLinuxPlatform();
+  events.clear();
+  observe(kNSWorkspaceDidMountNotification, "+");
+  observe(kNSWorkspaceDidUnmountNotification, "-");
+  observe(kNSWorkspaceDidRenameVolumeNotification, "~");
+}
+
+void DiskTest::observe(const QString &name, const QString &sign) {
+  platform->workspaceNotificationCenter().addObserver(
+      &_observer, name, [this, sign](const Notification &note) {
+        const QVariant path = note.userInfo.value(kNSDevicePathKey);
+        events << (path.isValid() ? sign + path.toString() : QStringLiteral("changed"));
+      });
+}
+
+QStringList DiskTest::volumeEvents() const {
+  QStringList list = events;
+  list.removeAll("changed");
+  return list;
+}
+
+bool DiskTest::waitForPresence(DiskService::Presence presence) {
+  return waitFor([&] { return platform->diskService().presence() == presence; });
+}
+
+QString DiskTest::addDisk(const QString &name, const QByteArray &table, int partitions) {
+  const QString disk = DiskLab::createDisk(name, 64, table);
+  _disks << disk;
+  EXPECT_TRUE(waitFor([&] {
+    return platform->mediaRegistry().mediaNamesOnDisk(nameOf(disk)).size() == partitions + 1;
+  })) << "not all partitions of "
+      << disk.toStdString() << " became known";
+  return disk;
+}
+
+void DiskTest::pullDisk(const QString &disk) {
+  _disks.removeOne(disk);
+  DiskLab::pull(disk);
+}
+
+void DiskTest::removeDisk(const QString &disk) {
+  _disks.removeOne(disk);
+  DiskLab::remove(disk);
+}
+
+void DiskTest::format(const QString &device, const QString &label) {
+  DiskLab::format(device, "ext4", label);
+  EXPECT_TRUE(
+      waitFor([&] { return value(nameOf(device), kDADiskDescriptionVolumeKindKey) == "ext4"; }));
+}
+
+QString DiskTest::addSystemPartition(const QString &label) {
+  const QString device = addDisk("disk", "label: gpt\ntype=U, size=32M\n", 1) + "p1";
+  format(device, label);
+  return device;
+}
+
+QString DiskTest::nameOf(const QString &device) const {
+  const QStringList names = platform->mediaRegistry().mediaNames();
+  for (const QString &name : names) {
+    if (value(name, kDiskDescriptionDeviceNodeKey) == device) return name;
+  }
+  return {};
+}
+
+QVariant DiskTest::value(const QString &name, const QString &key) const {
+  return platform->diskService().descriptionOfMedia(name).value_or(DiskDescription()).value(key);
+}
+
+QString DiskTest::mountPointOf(const QString &name) const {
+  return value(name, kDADiskDescriptionVolumePathKey).toUrl().toLocalFile();
+}
+
+DAReturn DiskTest::answerTo(const std::function<void(DiskService::Completion)> &request) {
+  int answers = 0;
+  DAReturn status = kDAReturnSuccess;
+  request([&](const std::optional<Dissenter> &dissenter) {
+    ++answers;
+    if (dissenter) status = dissenter->status;
+  });
+  EXPECT_TRUE(waitFor([&] { return answers > 0; })) << "no answer";
+  QCoreApplication::processEvents();
+  EXPECT_EQ(answers, 1);
+  return status;
+}
+
+DAReturn DiskTest::mount(const QString &name) {
+  return answerTo([&](const DiskService::Completion &completion) {
+    platform->diskService().mount(name, std::nullopt, completion);
+  });
+}
+
+DAReturn DiskTest::unmount(const QString &name, DiskService::UnmountOption option) {
+  return answerTo([&](const DiskService::Completion &completion) {
+    platform->diskService().unmount(name, option, completion);
+  });
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+// A test with this machine's real platform and real disks.
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+#include <QTest>
+#include <functional>
+#include <memory>
+
+#include "Foundation/NotificationCenter.h"
+#include "Platform/Platform.h"
+#include "disks/DiskLab.h"
+
+class DiskTest : public testing::Test {
+ public:
+  void SetUp() override;
+  void TearDown() override;
+
+  /// Serves the event loop until the condition holds; false if it takes too long.
+  static bool waitFor(const std::function<bool()> &condition) {
+    return QTest::qWaitFor(condition, 10000);
+  }
+
+  /// A new platform, whose events go to `events` from now on.
+  void startPlatform();
+  bool waitForPresence(DiskService::Presence presence);
+
+  /// A disk with this table, which is removed after the test. Waits until all its partitions are
+  /// known.
+  QString addDisk(const QString &name, const QByteArray &table, int partitions);
+  // Before the test's end: as a hand would, mounted or not, and in good order.
+  void pullDisk(const QString &disk);
+  void removeDisk(const QString &disk);
+  /// Formats a partition and waits until that is known.
+  void format(const QString &device, const QString &label);
+  /// Both for the usual case: a disk with one ESP. Gives the partition's device.
+  QString addSystemPartition(const QString &label);
+
+  /// The BSD name of a device such as "/dev/loop0p1"; empty when it is unknown.
+  QString nameOf(const QString &device) const;
+  QVariant value(const QString &name, const QString &key) const;
+  /// Empty when not mounted.
+  QString mountPointOf(const QString &name) const;
+
+  // Waits for the answer. Success is kDAReturnSuccess.
+  DAReturn mount(const QString &name);
+  DAReturn unmount(const QString &name,
+                   DiskService::UnmountOption option = DiskService::UnmountOption::Default);
+
+  /// "+PATH", "-PATH" or "~PATH" for a mount, an unmount or a rename; "changed" for an event
+  /// without a path.
+  QStringList events;
+  /// Those with a path.
+  QStringList volumeEvents() const;
+
+  std::unique_ptr<Platform> platform;
+
+ private:
+  DAReturn answerTo(const std::function<void(DiskService::Completion)> &request);
+  void observe(const QString &name, const QString &sign);
+
+  QObject _observer;
+  QStringList _disks;
+};

@@ -1,0 +1,116 @@
+// The whole program, real widgets and all, on real disks.
+
+#include <QFile>
+#include <QTimer>
+#include <QVariantAnimation>
+
+#include "AppDelegate/AppDelegate.h"
+#include "ESPTableCellView.h"
+#include "Interface/MainInterface.h"
+#include "Interface/RowTextField.h"
+#include "application.h"
+#include "disks/DiskTest.h"
+
+namespace {
+
+class Program {
+ public:
+  explicit Program(Platform &platform) : _current(platform), delegate(platform) {
+    connectOutlets(interface, delegate);
+    delegate.applicationDidFinishLaunching();
+    delegate.showPopover();
+    QCoreApplication::processEvents();
+  }
+
+  ESPTableCellView *rowOf(const QString &name) const {
+    TableView *table = interface.tableView();
+    for (qint64 row = 0; row < table->numberOfRows(); ++row) {
+      if (delegate.tableViewContents()[row].ESP != name) continue;
+      table->scrollRowToVisible(row);
+      return qobject_cast<ESPTableCellView *>(table->cellAtRow(row));
+    }
+    return nullptr;
+  }
+  void click(const QString &name) { QTest::mouseClick(rowOf(name)->mountButton(), Qt::LeftButton); }
+  QString title(const QString &name) const { return rowOf(name)->mountButton()->title(); }
+
+  /// Waits for the status line, without its fading.
+  bool says(const QString &text) {
+    return DiskTest::waitFor([&] {
+      const auto fades = interface.statusTextField()->findChildren<QVariantAnimation *>();
+      for (QVariantAnimation *fade : fades) fade->setCurrentTime(fade->duration());
+      return interface.statusTextField()->stringValue() == text;
+    });
+  }
+
+ private:
+  const CurrentPlatform _current;
+
+ public:
+  AppDelegate delegate;
+  MainInterface interface;
+};
+
+class ProgramOnRealDisks : public DiskTest {};
+
+}  // namespace
+
+TEST_F(ProgramOnRealDisks, MountsAndUnmountsWithOneClickEach) {
+  const QString device = addSystemPartition("EFI Ä");
+  const QString name = nameOf(device);
+  Program program(*platform);
+  ASSERT_NE(program.rowOf(name), nullptr);
+  EXPECT_TRUE(program.rowOf(name)->textField()->stringValue().startsWith("ESP on " + name));
+
+  program.click(name);
+  const QString path = mountPointOf(name);
+  EXPECT_EQ(program.title(name), "umount " + name);
+  EXPECT_EQ(program.rowOf(name)->openButton()->title(), "open " + path);
+  EXPECT_TRUE(program.says(name + " mouted at " + path));
+
+  QFile busy(path + "/file");
+  ASSERT_TRUE(busy.open(QIODevice::WriteOnly));
+  program.click(name);
+  EXPECT_EQ(program.title(name), "umount " + name);
+  EXPECT_TRUE(program.says("umount failed for " + name + ", reason: busy"));
+  EXPECT_EQ(program.interface.statusTextField()->textColor(), TextField::TextColor::Red);
+
+  program.interface.forceUmountCheck()->setState(CheckBox::kOn);
+  program.click(name);
+  EXPECT_EQ(program.title(name), "mount " + name);
+  EXPECT_TRUE(program.says(path + " umounted!"));
+}
+
+TEST_F(ProgramOnRealDisks, FollowsWhatOthersDo) {
+  const QString device = addSystemPartition("OUTSIDE");
+  const QString name = nameOf(device);
+  Program program(*platform);
+  const QString folder = DiskLab::makeFolder("mounted by another");
+  DiskLab::run("mount", {device, folder});
+  EXPECT_TRUE(program.says(name + " mouted at " + folder));
+  EXPECT_EQ(program.title(name), "umount " + name);
+  DiskLab::run("umount", {folder});
+  EXPECT_TRUE(program.says(folder + " umounted!"));
+  EXPECT_EQ(program.title(name), "mount " + name);
+
+  pullDisk(device.section('p', 0, -2));
+  EXPECT_TRUE(waitFor([&] { return program.rowOf(name) == nullptr; }));
+}
+
+TEST_F(ProgramOnRealDisks, AServiceThatDiesOverAClickIsNotWaitedForForEver) {
+  const QString name = nameOf(addSystemPartition("DIES"));
+  Program program(*platform);
+  ASSERT_EQ(mount(name), kDAReturnSuccess);
+  DiskLab::freezeService();
+  QTimer::singleShot(50, [] { DiskLab::killService(); });
+  program.click(name);
+  EXPECT_TRUE(program.says("umount failed for " + name + ", reason: not ready"));
+
+  ASSERT_TRUE(waitForPresence(DiskService::Presence::Absent));
+  DiskLab::startService();
+  ASSERT_TRUE(waitForPresence(DiskService::Presence::Answering));
+  EXPECT_TRUE(waitFor([&] { return program.rowOf(name) != nullptr; }));
+  EXPECT_EQ(program.title(name), "umount " + name);
+  program.click(name);
+  EXPECT_EQ(program.title(name), "mount " + name);
+}
