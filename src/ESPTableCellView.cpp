@@ -64,8 +64,8 @@ bool ESPTableCellView::event(QEvent *event) {
 }
 
 void ESPTableCellView::showToolTip(const QPoint &globalPosition) {
-  const QString whole = textField()->isShortened() ? textField()->stringValue() + u'\n' : QString();
-  showPlainToolTip(this, globalPosition, whole + deviceNode());
+  const QStringList whole = textField()->isShortened() ? textField()->lines() : QStringList();
+  showPlainToolTip(this, globalPosition, whole + QStringList(deviceNode()));
 }
 
 bool ESPTableCellView::eventFilter(QObject *watched, QEvent *event) {

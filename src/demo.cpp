@@ -1,9 +1,12 @@
-// The same program on a machine that a file describes: keldra-demo [MACHINE.json]
+// The same program on a machine that a file describes, and a window to do things to that machine:
+// keldra-demo [MACHINE.json]
 
 #include <QApplication>
 #include <QFile>
+#include <QTimer>
 #include <cstdio>
 
+#include "Demo/MachineWindow.h"
 #include "Platform/common/SystemClock.h"
 #include "Platform/simulated/MachineFile.h"
 #include "Platform/simulated/SimulatedPlatform.h"
@@ -31,5 +34,8 @@ int main(int argc, char **argv) {
     return refuse(fileName, error->text());
 
   SimulatedPlatform platform(std::get<Machine>(std::move(result)), std::make_unique<SystemClock>());
+  MachineWindow window(platform);
+  // Shown once the program has told the desktop what it is called.
+  QTimer::singleShot(0, &window, &QWidget::show);
   return runApplication(platform);
 }

@@ -25,10 +25,10 @@ QString titleOf(const RowRecord &record) {
   return name;
 }
 
-QString textOf(const RowRecord &record) {
-  return u"%1 on %2\nparent of %3,\n%4"_s.arg(titleOf(record), record.ESP,
-                                              emptyIfUnknown(record.parentOf),
-                                              emptyIfUnknown(record.parentOfMedia));
+QStringList linesOf(const RowRecord &record) {
+  return {u"%1 on %2"_s.arg(titleOf(record), record.ESP),
+          u"parent of %1,"_s.arg(emptyIfUnknown(record.parentOf)),
+          emptyIfUnknown(record.parentOfMedia)};
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ TableCellView *AppDelegate::tableView(TableView *tableView, const TableColumn &v
 
   auto *cell = qobject_cast<ESPTableCellView *>(tableView->makeView(viewForTableColumn.identifier));
   if (cell == nullptr) return nullptr;
-  cell->textField()->setStringValue(textOf(record));
+  cell->textField()->setLines(linesOf(record));
   cell->imageView()->setImage(record.img);
   cell->setDeviceNode(DiskArbitrator::findDeviceNode(record.ESP).value_or(QString()));
 

@@ -4,16 +4,18 @@
 
 #include <QDebug>
 
+#include "Foundation/Text.h"
+
 namespace {
 
 QString onOneLine(const QString &text) {
   QString line;
   line.reserve(text.size());
-  for (const QChar character : text) {
-    if (character.isPrint() || character.isSurrogate()) {
-      line += character;
+  for (const char32_t character : text.toUcs4()) {
+    if (isHarmless(character)) {
+      line += QChar::fromUcs4(character);
     } else {
-      line += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+      line += QStringLiteral("\\u%1").arg(uint{character}, 4, 16, QLatin1Char('0'));
     }
   }
   return line;

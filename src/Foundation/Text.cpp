@@ -35,6 +35,26 @@ QString lastPathComponent(const QString &path) {
   return path.sliced(0, end).section(u'/', -1);
 }
 
+bool isHarmless(char32_t character) {
+  constexpr char32_t kZeroWidthNonJoiner = 0x200C;
+  constexpr char32_t kZeroWidthJoiner = 0x200D;
+  // Qt's rich text keeps its frames and pictures apart by these.
+  if (QChar::isNonCharacter(character) || character == QChar::ObjectReplacementCharacter)
+    return false;
+  switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Surrogate:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+      return false;
+    case QChar::Other_Format:
+      // Marks of direction among them; but letters of some scripts join by these two.
+      return character == kZeroWidthNonJoiner || character == kZeroWidthJoiner;
+    default:
+      return true;
+  }
+}
+
 bool fileExistsAtPath(const OptionalText &path) {
   if (!path.has_value() || path->isEmpty()) return false;
   struct stat status {};

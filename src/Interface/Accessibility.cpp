@@ -48,7 +48,8 @@ class AccessibleCell : public QAccessibleWidget {
       : QAccessibleWidget(cell, QAccessible::ListItem), _cell(cell) {}
 
   QString text(QAccessible::Text kind) const override {
-    if (kind == QAccessible::Name) return _cell->textField()->stringValue();
+    // What is read aloud has as many lines as what is painted.
+    if (kind == QAccessible::Name) return _cell->textField()->printableLines().join(u'\n');
     return QAccessibleWidget::text(kind);
   }
 

@@ -1,51 +1,58 @@
 #include "Interface/PlainText.h"
 
+#include <QFontMetrics>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QToolTip>
+
+#include "Foundation/Text.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isHarmless(char32_t character) {
-  constexpr char32_t kZeroWidthNonJoiner = 0x200C;
-  constexpr char32_t kZeroWidthJoiner = 0x200D;
-  switch (QChar::category(character)) {
-    case QChar::Other_Control:
-    case QChar::Other_Surrogate:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-      return false;
-    case QChar::Other_Format:  // marks of direction among them; but letters of some scripts join by
-                               // these
-      return character == kZeroWidthNonJoiner || character == kZeroWidthJoiner;
-    default:
-      return true;
-  }
+// More than a path of any length that people meet.
+constexpr qsizetype kMostPainted = 2000;
+
+/// A tooltip is as wide as its longest word, and a name without blanks is one word: lets it break.
+QString breakable(QString text) {
+  static const QRegularExpression kLongWord(u"(\\S{60})(?=\\S)"_s);
+  return text.replace(kLongWord, u"\\1\u200B"_s);
 }
 
 }  // namespace
 
 QString printable(const QString &text) {
+  if (text.size() > kMostPainted) {
+    return printable(text.first(kMostPainted / 2 - 1) + u'\u2026' + text.last(kMostPainted / 2));
+  }
   QString result;
   result.reserve(text.size());
   for (const char32_t character : text.toUcs4()) {
-    const char32_t shown =
-        isHarmless(character) ? character : char32_t{QChar::ReplacementCharacter};
-    result += QString::fromUcs4(&shown, 1);
+    result +=
+        QChar::fromUcs4(isHarmless(character) ? character : char32_t{QChar::ReplacementCharacter});
   }
   return result;
 }
 
-void showPlainToolTip(QWidget *widget, const QPoint &globalPosition, const QString &text) {
-  QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
-  for (QString &line : lines) line = printable(line).toHtmlEscaped();
-  // An empty text would hide the tooltip; a mark-up around it keeps Qt from guessing at what is
-  // within.
-  if (lines.isEmpty()) {
+bool fits(const QString &text, const QFontMetrics &metrics, int width) {
+  return text.size() <= kMostPainted && metrics.horizontalAdvance(printable(text)) <= width;
+}
+
+QString withoutMarkup(const QString &text) {
+  return printable(text).replace(u'<', u'\u2039').replace(u'>', u'\u203A').replace(u'&', u'\uFF06');
+}
+
+void showPlainToolTip(QWidget *widget, const QPoint &globalPosition, const QStringList &lines) {
+  QStringList shown;
+  for (const QString &line : lines) {
+    if (!line.isEmpty()) shown += breakable(printable(line)).toHtmlEscaped();
+  }
+  if (shown.isEmpty()) {
     QToolTip::hideText();
     return;
   }
-  QToolTip::showText(globalPosition, u"<p dir='ltr'>"_s + lines.join(u"<br>"_s) + u"</p>"_s,
+  // A mark-up around it keeps Qt from guessing at what is within.
+  QToolTip::showText(globalPosition, u"<p dir='ltr'>"_s + shown.join(u"<br>"_s) + u"</p>"_s,
                      widget);
 }

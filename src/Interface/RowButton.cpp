@@ -85,10 +85,10 @@ QSize RowButton::sizeHint() const {
 bool RowButton::event(QEvent *event) {
   if (event->type() != QEvent::ToolTip) return QPushButton::event(event);
   const int room = width() - 2 * Look(this).scaled(10);
-  if (QFontMetrics(Look(this).titleFont()).horizontalAdvance(printable(_title)) <= room) {
+  if (fits(_title, QFontMetrics(Look(this).titleFont()), room)) {
     event->ignore();  // the row's own tooltip is the better one
   } else {
-    showPlainToolTip(this, static_cast<QHelpEvent *>(event)->globalPos(), _title);
+    showPlainToolTip(this, static_cast<QHelpEvent *>(event)->globalPos(), {_title});
   }
   return true;
 }

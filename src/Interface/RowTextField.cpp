@@ -9,27 +9,29 @@
 
 RowTextField::RowTextField(QWidget *parent) : QWidget(parent) {}
 
-void RowTextField::setStringValue(const QString &text) {
-  if (text == _stringValue) return;
-  _stringValue = text;
+void RowTextField::setLines(const QStringList &lines) {
+  if (lines == _lines) return;
+  _lines = lines;
   update();
   emit stringValueChanged();
 }
 
-QList<RowTextField::Line> RowTextField::lines() const {
+QStringList RowTextField::printableLines() const {
+  QStringList result;
+  for (const QString &line : _lines) result += printable(line);
+  return result;
+}
+
+QFont RowTextField::fontOfLine(qsizetype line) const {
   const Look look(this);
-  QList<Line> lines;
-  for (const QString &text : _stringValue.split(u'\n')) {
-    lines.append({printable(text), lines.isEmpty() ? look.titleFont() : look.detailFont()});
-  }
-  return lines;
+  return line == 0 ? look.titleFont() : look.detailFont();
 }
 
 bool RowTextField::isShortened() const {
-  const QList<Line> all = lines();
-  return std::any_of(all.begin(), all.end(), [this](const Line &line) {
-    return QFontMetrics(line.font).horizontalAdvance(line.text) > width();
-  });
+  for (qsizetype line = 0; line < _lines.size(); ++line) {
+    if (!fits(_lines[line], QFontMetrics(fontOfLine(line)), width())) return true;
+  }
+  return false;
 }
 
 QSize RowTextField::sizeHint() const {
@@ -40,21 +42,25 @@ QSize RowTextField::sizeHint() const {
 
 void RowTextField::paintEvent(QPaintEvent *) {
   const Look look(this);
-  const QList<Line> all = lines();
+  const QStringList shown = printableLines();
   int textHeight = 0;
-  for (const Line &line : all) textHeight += QFontMetrics(line.font).lineSpacing();
+  for (qsizetype line = 0; line < shown.size(); ++line) {
+    textHeight += QFontMetrics(fontOfLine(line)).lineSpacing();
+  }
 
   QPainter painter(this);
   int top = std::max(0, (height() - textHeight) / 2);
-  for (const Line &line : all) {
-    const QFontMetrics metrics(line.font);
-    painter.setFont(line.font);
-    painter.setPen(&line == &all.front() ? look.text() : look.dimText());
+  for (qsizetype line = 0; line < shown.size(); ++line) {
+    painter.setFont(fontOfLine(line));
+    painter.setPen(line == 0 ? look.text() : look.dimText());
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QRect place(0, top, width(), metrics.lineSpacing());
+    // Marks can be piled on a letter to any height.
+    painter.setClipRect(place);
     // A line keeps its direction whatever the names in it are written in.
     painter.drawText(
-        QRect(0, top, width(), metrics.lineSpacing()),
-        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
-        metrics.elidedText(line.text, Qt::ElideRight, width()));
-    top += metrics.lineSpacing();
+        place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
+        metrics.elidedText(shown[line], line == 0 ? Qt::ElideMiddle : Qt::ElideRight, width()));
+    top += place.height();
   }
 }

@@ -1,8 +1,9 @@
 #pragma once
 
-// The text of a row: lines parted by "\n", the first of them semi-bold, the others smaller and
-// dimmer. A line that is too long is shortened at its end. What is painted is a harmless copy:
-// names come from disks that strangers have written.
+// The text of a row: a few lines, the first of them semi-bold, the others smaller and dimmer. A line
+// that is too long is shortened: the first in its middle, because what tells the rows apart stands
+// at its end, the others at their ends. What is painted is a harmless copy: names come from disks
+// that strangers have written, and a line break in a name makes no line.
 
 #include <QStringList>
 #include <QWidget>
@@ -13,8 +14,13 @@ class RowTextField : public QWidget {
  public:
   explicit RowTextField(QWidget *parent = nullptr);
 
-  QString stringValue() const { return _stringValue; }
-  void setStringValue(const QString &text);
+  /// The lines as they were given, parted by "\n".
+  QString stringValue() const { return _lines.join(u'\n'); }
+  void setLines(const QStringList &lines);
+  QStringList lines() const { return _lines; }
+
+  /// The lines as they are painted when there is room.
+  QStringList printableLines() const;
 
   /// Whether any line is shortened at the present width.
   bool isShortened() const;
@@ -28,11 +34,7 @@ class RowTextField : public QWidget {
   void paintEvent(QPaintEvent *event) override;
 
  private:
-  struct Line {
-    QString text;  // as it is painted when there is room
-    QFont font;
-  };
-  QList<Line> lines() const;
+  QFont fontOfLine(qsizetype line) const;
 
-  QString _stringValue;
+  QStringList _lines;
 };

@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "Foundation/Clock.h"
+#include "Interface/PlainText.h"
 
 namespace {
 
@@ -55,7 +56,7 @@ void StatusItem::noteClosed() {
 }
 
 void StatusItem::notify(const QString &text) {
-  _trayIcon.showMessage(QGuiApplication::applicationDisplayName(), text, _image);
+  _trayIcon.showMessage(QGuiApplication::applicationDisplayName(), withoutMarkup(text), _image);
 }
 
 QRect StatusItem::anchor() const {

@@ -76,7 +76,9 @@ QSize TextField::minimumSizeHint() const {
 bool TextField::event(QEvent *event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   showPlainToolTip(this, static_cast<QHelpEvent *>(event)->globalPos(),
-                   sizeHint().width() > width() ? _stringValue : QString());
+                   fits(_stringValue, QFontMetrics(Look(this).detailFont()), width())
+                       ? QStringList()
+                       : QStringList(_stringValue));
   return true;
 }
 
@@ -90,5 +92,5 @@ void TextField::paintEvent(QPaintEvent *) {
                                                  : look.dimText());
   painter.drawText(
       rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
-      painter.fontMetrics().elidedText(printable(_stringValue), Qt::ElideRight, width()));
+      painter.fontMetrics().elidedText(printable(_stringValue), Qt::ElideMiddle, width()));
 }

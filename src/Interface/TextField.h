@@ -1,8 +1,8 @@
 #pragma once
 
-// A label of one line that can change its text by fading. Plain text only, shortened at its end
-// when there is no room, the whole in the tooltip; its height never changes, so nothing around it
-// moves.
+// A label of one line that can change its text by fading. Plain text only, shortened in its middle
+// when there is no room, because what has happened may stand behind a long path; the whole is in
+// the tooltip. Its height never changes, so nothing around it moves.
 
 #include <QEasingCurve>
 #include <QWidget>

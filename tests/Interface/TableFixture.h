@@ -73,7 +73,7 @@ class TableFixture : public testing::Test, public TableViewDataSource, public Ta
     const Row &record = rows[row];
     auto *made = qobject_cast<ESPTableCellView *>(table->makeView(column.identifier));
     if (record.name.isEmpty()) return nullptr;
-    made->textField()->setStringValue("ESP on " + record.name + "\nparent of disk,\nA disk");
+    made->textField()->setLines({"ESP on " + record.name, "parent of disk,", "A disk"});
     made->mountButton()->setTitle((record.mounted ? "umount " : "mount ") + record.name);
     made->mountButton()->setAction([this](RowButton *button) {
       clicked.append(button->title());

@@ -10,6 +10,9 @@
 #include "Platform/Dissenter.h"
 #include "Platform/Platform.h"
 
+/// What goes wrong at one request for a partition. "During" is when half of its delay is over.
+enum class Mishap { DiskVanishesBefore, DiskVanishesDuring, DiskVanishesAfter, ServiceDies };
+
 struct SimulatedPartition {
   int slice = 1;
   QString media;
@@ -22,10 +25,11 @@ struct SimulatedPartition {
   QString volumeUUID;
   /// Absent while it is not mounted.
   std::optional<QString> mountPoint;
-  // How the service answers: a refusal stands until it is taken away.
+  // How the service answers: a refusal stands until it is taken away, a mishap happens once.
   std::optional<DAReturn> mountRefusal;
   std::optional<DAReturn> unmountRefusal;
   std::chrono::milliseconds delay{0};
+  std::optional<Mishap> mishap;
 };
 
 struct SimulatedDisk {
@@ -49,5 +53,7 @@ struct SimulatedDisk {
 struct Machine {
   QString productVersion = QStringLiteral("10.15");
   DiskService::Presence presence = DiskService::Presence::Answering;
+  /// How long a service that is asked at the start takes to answer; absent if it never does.
+  std::optional<std::chrono::milliseconds> answersAfter;
   QVector<SimulatedDisk> disks;
 };

@@ -124,6 +124,19 @@ void readVolume(Reader &reader, SimulatedPartition &partition) {
   reader.expectNothingElse();
 }
 
+std::optional<Mishap> readMishap(Reader &reader) {
+  using enum Mishap;
+  const QString mishap = reader.text(u"mishap"_s);
+  if (mishap.isEmpty()) return std::nullopt;
+  if (mishap == "disk vanishes before"_L1) return DiskVanishesBefore;
+  if (mishap == "disk vanishes during"_L1) return DiskVanishesDuring;
+  if (mishap == "disk vanishes after"_L1) return DiskVanishesAfter;
+  if (mishap == "service dies"_L1) return ServiceDies;
+  reader.fail(
+      u"mishap"_s,
+      u"\"disk vanishes before\", \"... during\", \"... after\" or \"service dies\" is needed"_s);
+}
+
 SimulatedPartition readPartition(Reader &reader) {
   SimulatedPartition partition;
   partition.slice = reader.number(u"slice"_s, 1, kLargestUnit);
@@ -132,6 +145,7 @@ SimulatedPartition readPartition(Reader &reader) {
   partition.uuid = reader.uuid(u"uuid"_s);
   partition.deviceNode = reader.text(u"device"_s);
   partition.delay = std::chrono::milliseconds(reader.number(u"delay"_s, 0, kLargestDelay, 0));
+  partition.mishap = readMishap(reader);
   if (auto volume = reader.object(u"volume"_s)) readVolume(*volume, partition);
   if (auto refuse = reader.object(u"refuse"_s)) {
     partition.mountRefusal = refuse->status(u"mount"_s);
@@ -177,6 +191,10 @@ Machine readMachine(const QJsonValue &root) {
   Reader reader(root, QString());
   machine.productVersion = reader.text(u"productVersion"_s, machine.productVersion);
   machine.presence = readPresence(reader);
+  if (machine.presence == DiskService::Presence::Asking) {
+    const int after = reader.number(u"answersAfter"_s, 0, kLargestDelay, -1);
+    if (after >= 0) machine.answersAfter = std::chrono::milliseconds(after);
+  }
   QSet<int> units;
   reader.forEach(u"disks"_s, [&](Reader &each) {
     machine.disks.append(readDisk(each));

@@ -9,11 +9,23 @@
 //             "volume": { "kind": "msdos", "name": "EFI", "mountPoint": "EFI" },
 //             "refuse": { "unmount": "busy" } } ] } ] }
 //
-// A mount point without a "/" is a folder in the machine's volumes folder. A refusal is one of the
-// phrases of `daStatus` or a number; a delay is in milliseconds and holds for both requests.
-// Further keys: "productVersion" and "service" ("answering", "asking", "absent") of the machine;
-// "uuid", "protocol", "device", "writable", "ejectable" and "internal" of a disk; "content", "uuid"
-// and "device" of a partition; "uuid" of a volume.
+// A mount point without a "/" is a folder in the machine's volumes folder. Further keys:
+//
+//   machine     "productVersion", "service", "answersAfter"
+//   disk        "uuid", "protocol", "device", "writable", "ejectable", "internal"
+//   partition   "content", "uuid", "device", "mishap"
+//   volume      "uuid"
+//
+// How the service behaves:
+//
+//   "service"       "answering" (the rule), "asking" (nothing is known yet) or "absent".
+//   "answersAfter"  milliseconds until a service that is "asking" answers; without it, it never
+//                   does.
+//   "delay"         milliseconds from a request for the partition to its answer.
+//   "refuse"        answers every mount or unmount with a phrase of `daStatus` or a number.
+//   "mishap"        once, at the next request for the partition: "disk vanishes before", "disk
+//                   vanishes during", "disk vanishes after" (the request), or "service dies" (while
+//                   the request waits; what was mounted stays so).
 
 #include <QByteArray>
 #include <variant>

@@ -10,8 +10,10 @@
 // Everything that the machine does is announced from the event loop, in order, before the request
 // that caused it is answered.
 
+#include <QHash>
 #include <QObject>
 #include <QTemporaryDir>
+#include <map>
 #include <memory>
 
 #include "Foundation/NotificationCenter.h"
@@ -60,34 +62,76 @@ class SimulatedPlatform final : public Platform, public DiskService, public Medi
   QStringList mediaNames() const override;
   QStringList mediaNamesOnDisk(const QString &wholeDisk) const override;
 
-  // What happens to the machine from outside. Names that are not there are ignored.
+  /// The machine as it is now, pulled disks not among its own.
+  const Machine &machine() const { return _machine; }
+  /// Each as it was when it was pulled, with nothing of it mounted.
+  const QVector<SimulatedDisk> &pulledDisks() const { return _pulled; }
+
+  // What happens to the machine from outside. Names that are not there are ignored, and so is a
+  // disk whose unit is there already.
   void plug(const SimulatedDisk &disk);
+  /// Requests for it that are under way are answered with "not found".
   void pull(int unit);
+  /// Plugs what was pulled.
+  void plugBack(int unit);
   void mountFromOutside(const QString &bsdName);
   void unmountFromOutside(const QString &bsdName);
   void rename(const QString &bsdName, const QString &volumeName);
+  /// When the service stops answering, requests under way are answered with "not ready".
   void setPresence(Presence presence);
-  /// How later requests for this partition are answered; an absent status lifts the refusal.
+
+  // How later requests for a partition are answered; absent values are as if nothing had been set.
   void setRefusals(const QString &bsdName, std::optional<DAReturn> mount,
                    std::optional<DAReturn> unmount);
+  void setDelay(const QString &bsdName, std::chrono::milliseconds delay);
+  void setMishap(const QString &bsdName, std::optional<Mishap> mishap);
 
  private:
+  static constexpr qsizetype kWholeDisk = -1;
+  struct Place {
+    qsizetype disk;
+    qsizetype partition;
+  };
   struct Found {
     SimulatedDisk *disk = nullptr;
     SimulatedPartition *partition = nullptr;
   };
+  struct Request {
+    std::function<std::optional<Dissenter>()> attempt;
+    Completion completion;
+    QString bsdName;
+    std::optional<Mishap> mishap = {};
+  };
 
   Found find(const QString &bsdName);
+  /// After disks have come or gone.
+  void learnPlaces();
+
   std::optional<Dissenter> tryToMount(const QString &bsdName, const std::optional<QString> &path);
   std::optional<Dissenter> tryToUnmount(const QString &bsdName, UnmountOption option);
+  /// Answers the request from the event loop once the partition's delay is over.
+  void take(Request request);
+  /// Lets the mishap of a request for this disk happen, now or while the request waits.
+  void strike(Mishap mishap, int unit, std::chrono::milliseconds delay);
+  void answer(int number);
+  /// Answers requests before their time is over.
+  void endRequests(DAReturn status, const std::function<bool(const Request &)> &concerns);
+
+  void putVolumes(SimulatedDisk &disk);
   void putAt(SimulatedPartition &partition, const QString &mountPoint);
   void takeAway(SimulatedPartition &partition);
+  /// Whether it lies in the volumes folder.
+  bool isOurs(const QString &mountPoint) const;
   QString freeFolder(const SimulatedPartition &partition) const;
   void announce(const QString &name, const QString &path = {});
-  /// Calls `answer` from the event loop once the partition's delay is over.
-  void answerLater(const QString &bsdName, std::function<void()> answer);
+  /// In a later turn of the event loop; in the order of the calls.
+  void later(std::function<void()> action);
 
   Machine _machine;
+  QVector<SimulatedDisk> _pulled;
+  QHash<QString, Place> _places;  // of every BSD name
+  std::map<int, Request> _requests;
+  int _lastRequest = 0;
   QTemporaryDir _volumes;
   std::unique_ptr<Clock> _clock;
   SimulatedSystemFiles _systemFiles;

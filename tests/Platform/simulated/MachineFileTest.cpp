@@ -41,6 +41,13 @@ TEST(MachineFile, IsRefusedWithItsPlaceAndTheReason) {
   EXPECT_EQ(refusalOfPartition(R"({ "slice": 1, "refuse": { "mount": "bussy" } })"),
             "disks[0].partitions[0].refuse.mount: a status phrase such as \"busy\", or a number, "
             "is needed");
+  EXPECT_EQ(refusalOfPartition(R"({ "slice": 1, "mishap": "flood" })"),
+            "disks[0].partitions[0].mishap: \"disk vanishes before\", \"... during\", \"... "
+            "after\" or \"service dies\" is needed");
+  EXPECT_EQ(refusalOf(R"({ "service": "asking", "answersAfter": -1 })"),
+            "answersAfter: a whole number from 0 to 3600000 is needed");
+  EXPECT_EQ(refusalOf(R"({ "answersAfter": 5 })"),
+            "answersAfter: nothing by this name is known here");
   for (const char *status : {"1.5", "1e30", "0", "-1", "true"}) {
     EXPECT_NE(
         refusalOfPartition(R"({ "slice": 1, "refuse": { "mount": )" + QByteArray(status) + " } }"),

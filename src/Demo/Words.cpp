@@ -1,0 +1,55 @@
+#include "Demo/Words.h"
+
+#include <QCoreApplication>
+#include <cerrno>
+
+#include "DiskArbitrator/daStatus.h"
+
+namespace {
+
+QString tr(const char *text) {
+  return QCoreApplication::translate("MachineWindow", text);
+}
+
+}  // namespace
+
+const QVector<std::optional<DAReturn>> &refusals() {
+  static const auto all = [] {
+    QVector<std::optional<DAReturn>> values = {std::nullopt};
+    for (DAReturn status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
+      values += status;
+    }
+    // What services say of dismissed password prompts and of disks that are full or failing.
+    for (const int number : {ECANCELED, EACCES, ENOSPC, EIO, EROFS}) {
+      values += unixErrorStatus(number);
+    }
+    return values;
+  }();
+  return all;
+}
+
+QString phrase(const std::optional<DAReturn> &refusal) {
+  return refusal ? QString::fromLocal8Bit(daStatus(*refusal)) : tr("as asked");
+}
+
+const QVector<std::optional<Mishap>> &mishaps() {
+  using enum Mishap;
+  static const QVector<std::optional<Mishap>> all = {
+      std::nullopt, DiskVanishesBefore, DiskVanishesDuring, DiskVanishesAfter, ServiceDies};
+  return all;
+}
+
+QString phrase(const std::optional<Mishap> &mishap) {
+  if (!mishap) return tr("none");
+  switch (*mishap) {
+    case Mishap::DiskVanishesBefore:
+      return tr("disk vanishes before");
+    case Mishap::DiskVanishesDuring:
+      return tr("disk vanishes during");
+    case Mishap::DiskVanishesAfter:
+      return tr("disk vanishes after");
+    case Mishap::ServiceDies:
+      break;
+  }
+  return tr("service dies");
+}
