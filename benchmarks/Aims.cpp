@@ -1,0 +1,32 @@
+#include "Aims.h"
+
+#include <QTextStream>
+
+#include "Measurements.h"
+#include "Report.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void printAim(QTextStream &out, const QString &what, double figure, double limit) {
+  out << (figure <= limit ? "met     " : "missed  ") << what << ": "
+      << QString::number(figure, 'g', 3) << " (aim: at most " << limit << ")\n";
+}
+
+}  // namespace
+
+void printAims(QTextStream &out, const Report &report) {
+  for (const QString &refresh : {kRefreshEsps, kRefreshAll}) {
+    printAim(out, refresh + u", 1000 partitions, share of lsblk's time"_s,
+             report.median(refresh, 1000) / report.median(kLsblk, 1000), 0.1);
+    printAim(out, refresh + u", 1000 partitions, times that of 100"_s,
+             report.median(refresh, 1000) / report.median(refresh, 100), 12);
+  }
+  for (const int size : report.sizes()) {
+    printAim(out, u"click to row, %1 partitions, share of udisksctl's time"_s.arg(size),
+             report.median(kClickToRow, size) / report.median(kMount, size), 1.1);
+  }
+  printAim(out, u"row after the service's signal, 100 partitions, ms"_s,
+           report.median(kRowAfterSignal, 100), 16);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+// Eight disks in a disk laboratory, with so many partitions among them. The first partition of each
+// is an ESP, and that of the first disk has an ext4 file system. They are taken away in the end.
+// Making and removing them blocks, and throws std::runtime_error when it fails.
+
+#include <QStringList>
+
+class LoopDisks {
+ public:
+  static constexpr int kDisks = 8;
+
+  explicit LoopDisks(int partitions);
+  ~LoopDisks();
+  LoopDisks(const LoopDisks &) = delete;
+  LoopDisks &operator=(const LoopDisks &) = delete;
+
+  /// The partition that can be mounted, "/dev/loop0p1".
+  QString mountableDevice() const { return _disks.first() + QStringLiteral("p1"); }
+
+ private:
+  void create(int number, int partitions);
+
+  QStringList _disks;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+// What is measured. All times are in milliseconds.
+
+#include <QString>
+
+class Program;
+class Report;
+
+inline const QString kRefreshEsps = QStringLiteral("refreshLists, ESPs only");
+inline const QString kRefreshAll = QStringLiteral("refreshLists, show all");
+inline const QString kLsblk = QStringLiteral("lsblk --json -O");
+inline const QString kStatus = QStringLiteral("udisksctl status");
+inline const QString kClickToRow = QStringLiteral("click to changed row");
+inline const QString kMount = QStringLiteral("udisksctl mount");
+inline const QString kEventToRow = QStringLiteral("mount table to changed row");
+inline const QString kEventToSignal = QStringLiteral("mount table to PropertiesChanged");
+inline const QString kRowAfterSignal = QStringLiteral("changed row after PropertiesChanged");
+
+/// How often each is measured. Ours and the peers' runs take turns.
+constexpr int kRuns = 15;
+
+// Each adds its times to the report, for so many partitions. They throw std::runtime_error when
+// something does not happen. The device is an unmounted partition with a file system; the program
+// shows all partitions afterwards.
+
+void measureRefresh(Program &program, int partitions, Report &report);
+void measureClicks(Program &program, const QString &device, int partitions, Report &report);
+void measureEvents(Program &program, const QString &device, int partitions, Report &report);

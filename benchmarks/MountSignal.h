@@ -1,0 +1,43 @@
+#pragma once
+
+// When the disk service's own word of a mount or unmount of one partition reached a program that
+// does nothing but listen: it is heard on a thread of its own.
+
+#include <QObject>
+#include <QThread>
+#include <QVariantMap>
+#include <optional>
+
+#include "Time.h"
+
+class MountSignalListener : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit MountSignalListener(const QString &device);
+
+ signals:
+  void heard(Instant when);
+
+ private slots:
+  void takeChange(const QString &interface, const QVariantMap &changed);
+};
+
+class MountSignal {
+ public:
+  /// Listens for "/dev/loop0p1". Throws std::runtime_error when there is no bus.
+  explicit MountSignal(const QString &device);
+  ~MountSignal();
+  MountSignal(const MountSignal &) = delete;
+  MountSignal &operator=(const MountSignal &) = delete;
+
+  void forget() { _heard.reset(); }
+  /// The first one since `forget`. Becomes known from the event loop.
+  std::optional<Instant> heard() const { return _heard; }
+
+ private:
+  MountSignalListener _listener;
+  QThread _thread;
+  QObject _receiver;
+  std::optional<Instant> _heard;
+};

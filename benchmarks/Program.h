@@ -1,0 +1,48 @@
+#pragma once
+
+// The real program, widgets and all, with its popover open.
+
+#include <QObject>
+#include <functional>
+#include <optional>
+
+#include "AppDelegate/AppDelegate.h"
+#include "Interface/MainInterface.h"
+#include "Time.h"
+
+/// Serves the event loop until the condition holds. Throws std::runtime_error, with `what` was
+/// waited for, if it takes too long.
+void waitUntil(const std::function<bool()> &condition, const QString &what);
+
+/// When a row's button was first painted with this title since this was made.
+class PaintedTitle : public QObject {
+ public:
+  explicit PaintedTitle(const QString &title);
+  std::optional<Instant> when() const { return _when; }
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+ private:
+  QString _title;
+  std::optional<Instant> _when;
+};
+
+class Program {
+ public:
+  /// The platform must be the current one.
+  explicit Program(Platform &platform);
+
+  void setShowsAll(bool showsAll);
+  void refreshLists() { _delegate.refreshLists(); }
+
+  /// The BSD name of a device ("/dev/loop0p1") that has a row.
+  QString nameOf(const QString &device) const;
+  void scrollTo(const QString &name);
+  /// On the row's mount button. Returns when what it does is over.
+  void click(const QString &name);
+
+ private:
+  qint64 rowOf(const QString &name) const;
+
+  AppDelegate _delegate;
+  MainInterface _interface;
+};
