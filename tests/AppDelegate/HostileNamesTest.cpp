@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QJsonArray>
@@ -14,6 +13,7 @@
 #include "Foundation/SystemLog.h"
 #include "Foundation/Text.h"
 #include "Interface/PlainText.h"
+#include "support/OpenedFolders.h"
 #include "support/TestMachine.h"
 
 namespace {
@@ -71,17 +71,6 @@ QString toolTipOf(QWidget *widget) {
   QCoreApplication::sendEvent(widget, &event);
   return QToolTip::text();
 }
-
-class OpenedFolders : public QObject {
-  Q_OBJECT
-
- public:
-  OpenedFolders() { QDesktopServices::setUrlHandler("file", this, "open"); }
-  ~OpenedFolders() override { QDesktopServices::unsetUrlHandler("file"); }
-  Q_INVOKABLE void open(const QUrl &url) { paths += url.toLocalFile(); }
-
-  QStringList paths;
-};
 
 }  // namespace
 
@@ -203,5 +192,3 @@ TEST(HostileNames, OfAnyLengthArePaintedAtOnce) {
   toolTipOf(machine.cell(1));
   EXPECT_LT(timer.elapsed(), kMilliseconds);
 }
-
-#include "HostileNamesTest.moc"

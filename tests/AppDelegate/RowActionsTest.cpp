@@ -1,25 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <QDesktopServices>
 #include <QTimer>
 
+#include "support/OpenedFolders.h"
 #include "support/TestMachine.h"
 
 namespace {
 
 using TextColor = TextField::TextColor;
-
-/// Takes the place of the desktop's file manager.
-class OpenedFolders : public QObject {
-  Q_OBJECT
-
- public:
-  OpenedFolders() { QDesktopServices::setUrlHandler("file", this, "open"); }
-  ~OpenedFolders() override { QDesktopServices::unsetUrlHandler("file"); }
-  Q_INVOKABLE void open(const QUrl &url) { paths += url.toLocalFile(); }
-
-  QStringList paths;
-};
 
 /// One ESP whose answers take their time, so that things can happen meanwhile.
 QByteArray slowMachine(const QByteArray &refusal = {}) {
@@ -154,5 +142,3 @@ TEST(RowActions, OpensAbsolutePathsOnlyAndCutsThemAtTheWordOpen) {
   }
   EXPECT_EQ(opened.paths, QStringList({machine.folder("Data"), "/a/"}));
 }
-
-#include "RowActionsTest.moc"
