@@ -36,7 +36,7 @@ bool PaintedTitle::eventFilter(QObject *watched, QEvent *event) {
   return false;
 }
 
-Program::Program(Platform &platform) : _delegate(platform) {
+Program::Program(Platform &platform) : _delegate(platform, _desktop) {
   connectOutlets(_interface, _delegate);
   _delegate.applicationDidFinishLaunching();
   _delegate.showPopover();

@@ -8,6 +8,7 @@
 
 #include "AppDelegate/AppDelegate.h"
 #include "Interface/MainInterface.h"
+#include "Platform/simulated/SimulatedDesktop.h"
 #include "Time.h"
 
 /// Serves the event loop until the condition holds. Throws std::runtime_error, with `what` was
@@ -43,6 +44,7 @@ class Program {
  private:
   qint64 rowOf(const QString &name) const;
 
+  SimulatedDesktop _desktop;
   AppDelegate _delegate;
   MainInterface _interface;
 };

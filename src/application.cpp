@@ -14,6 +14,7 @@
 #include "AppDelegate/AppDelegate.h"
 #include "Interface/Accessibility.h"
 #include "Interface/MainInterface.h"
+#include "Platform/Desktop.h"
 #include "Platform/Platform.h"
 
 namespace {
@@ -53,6 +54,7 @@ void configureApplication() {
 
 void connectOutlets(MainInterface &interface, AppDelegate &delegate) {
   delegate.setMenu(interface.menu());
+  delegate.setWindow(interface.window());
   delegate.setPopover(interface.popover());
   delegate.setTableView(interface.tableView());
   delegate.setEmptyView(interface.emptyView());
@@ -73,10 +75,11 @@ void connectOutlets(MainInterface &interface, AppDelegate &delegate) {
                    &AppDelegate::showPopover);
 }
 
-int runApplication(Platform &platform) {
+int runApplication(Platform &platform, Desktop &desktop) {
   configureApplication();
+  if (!desktop.becomeOnlyInstance()) return EXIT_SUCCESS;
   const CurrentPlatform current(platform);
-  AppDelegate delegate(platform);
+  AppDelegate delegate(platform, desktop);
   MainInterface interface;
   connectOutlets(interface, delegate);
   quitOnSignals(delegate);

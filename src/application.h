@@ -1,11 +1,13 @@
 #pragma once
 
 class AppDelegate;
+class Desktop;
 class MainInterface;
 class Platform;
 
-/// Shows the program on this machine and runs until it is quit. The exit status is the process's.
-int runApplication(Platform &platform);
+/// Shows the program and runs until it is quit; at once where another instance runs already, which
+/// shows itself then. The exit status is the process's.
+int runApplication(Platform &platform, Desktop &desktop);
 
 /// Gives the delegate the objects of the interface, and the controls their actions.
 void connectOutlets(MainInterface &interface, AppDelegate &delegate);

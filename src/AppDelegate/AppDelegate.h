@@ -2,7 +2,7 @@
 
 // The one long-lived object: owns everything the user sees, and follows the machine.
 //
-//   AppDelegate delegate(platform);
+//   AppDelegate delegate(platform, desktop);
 //   MainInterface interface;
 //   connectOutlets(interface, delegate);
 //   delegate.applicationDidFinishLaunching();
@@ -21,6 +21,7 @@
 #include "Foundation/MainQueue.h"
 #include "Interface/Popover.h"
 #include "Interface/TableView.h"
+#include "Platform/Desktop.h"
 #include "Platform/LoginItems.h"
 
 class CheckBox;
@@ -39,8 +40,8 @@ class AppDelegate : public QObject,
   Q_OBJECT
 
  public:
-  /// The platform must outlive the delegate and be the current one.
-  explicit AppDelegate(Platform &platform);
+  /// Both must outlive the delegate, and the platform be the current one.
+  AppDelegate(Platform &platform, Desktop &desktop);
   ~AppDelegate() override;
 
   // The outlets: objects of the interface, which owns them. All are connected before start-up, and the
@@ -61,6 +62,8 @@ class AppDelegate : public QObject,
   void setForceUmountCheck(CheckBox *check) { _forceUmountCheck = check; }
   TextField *statusTextField() const { return _statusTextField; }
   void setStatusTextField(TextField *field) { _statusTextField = field; }
+  QWidget *window() const { return _window; }
+  void setWindow(QWidget *window) { _window = window; }
   /// What stands in the table's place while it has no rows.
   EmptyView *emptyView() const { return _emptyView; }
   void setEmptyView(EmptyView *view) { _emptyView = view; }
@@ -110,7 +113,13 @@ class AppDelegate : public QObject,
   void stopRunning();
 
   // The popover.
+
+  /// Opens it, or moves it to where the status item is now.
   void showPopover();
+  /// What watches for activity in other programs, which closes the popover. Null for none; it may
+  /// outlive the popover's being open.
+  EventMonitor *popoverTransiencyMonitor() const { return _popoverTransiencyMonitor.get(); }
+  void setPopoverTransiencyMonitor(std::unique_ptr<EventMonitor> monitor);
   bool popoverShouldDetach(Popover *popover) override;
   void popoverDidShow() override;
   void popoverWillClose() override;
@@ -127,15 +136,20 @@ class AppDelegate : public QObject,
   void refreshListsOrLog();
   void explainEmptyList();
   void announce(const Notification &notification, QString (*message)(const QString &path));
+  void complain(const QString &text);
+  QString whoHolds(const std::optional<QString> &partition, const QString &refusal) const;
+  void closeForActivityElsewhere();
   void showBusyButtons();
 
   Platform &_platform;
+  Desktop &_desktop;
   MainQueue _mainQueue;
 
   qint64 _lastSelectedRow = -1;
   QVector<RowRecord> _tableViewContents;
   std::unique_ptr<StatusItem> topBarItem;
   bool _showAll = false;
+  std::unique_ptr<EventMonitor> _popoverTransiencyMonitor;
 
   QMenu *_menu = nullptr;
   Popover *_popover = nullptr;
@@ -146,6 +160,7 @@ class AppDelegate : public QObject,
   TextField *_statusTextField = nullptr;
   CheckBox *_forceUmountCheck = nullptr;
   EmptyView *_emptyView = nullptr;
+  QWidget *_window = nullptr;
 
   /// The partition whose row action is under way.
   std::optional<QString> _busyPartition;

@@ -1,7 +1,11 @@
+#include <QGuiApplication>
+
 #include "AppDelegate/AppDelegate.h"
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "Foundation/NotificationCenter.h"
+#include "Foundation/SystemLog.h"
 #include "Foundation/Text.h"
+#include "Interface/PlainText.h"
 #include "Interface/Popover.h"
 #include "Interface/StatusItem.h"
 #include "Interface/TextField.h"
@@ -9,6 +13,9 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// More would not fit where they are shown.
+constexpr qsizetype kMostHolders = 6;
 
 QString mountedMessage(const QString &path) {
   return u"%1 mouted at %2"_s.arg(printed(DiskArbitrator::findBSDName(path)), path);
@@ -60,16 +67,37 @@ void AppDelegate::announce(const Notification &notification, QString (*message)(
 
 void AppDelegate::arbitrator(const Notification &notification) {
   const QVariant note = notification.userInfo.value(kNoteKey);
-  if (!note.isValid()) return;
+  if (note.isValid()) complain(note.toString());
+}
+
+void AppDelegate::complain(const QString &text) {
   // Unlike for a disk event, the colour changes at once and only the text waits its turn.
   _statusTextField->setStringValue(QString());
   _statusTextField->setTextColor(TextField::TextColor::Red);
-  _mainQueue.async([this, text = note.toString()] {
+  _mainQueue.async([this, text, partition = _busyPartition] {
     // The job of an event that came in between may have changed the colour.
     _statusTextField->setTextColor(TextField::TextColor::Red);
     _statusTextField->setAnimatedStringValue(text);
-    if (!_popover->isShown()) topBarItem->notify(text);
+    const QString holders = whoHolds(partition, text);
+    _statusTextField->setDetail(holders, text);
+    systemLog(holders.isEmpty() ? text : text + ". "_L1 + holders);
+    if (_popover->isShown()) return;
+    _desktop.notify(QGuiApplication::applicationDisplayName(),
+                    (withoutMarkup(text) + u'\n' + withoutMarkup(holders)).trimmed(),
+                    topBarItem->trayItem());
   });
+}
+
+// A sentence about the processes that keep a volume from being unmounted; empty when the refusal
+// was for another reason.
+QString AppDelegate::whoHolds(const std::optional<QString> &partition,
+                              const QString &refusal) const {
+  if (!partition || refusal != DiskArbitrator::umountRefusal(*partition, kDAReturnBusy)) return {};
+  const QStringList processes = DiskArbitrator::findProcessesUsing(*partition);
+  if (processes.isEmpty()) return u"None of your own programs is seen to use it"_s;
+  const qsizetype more = processes.size() - kMostHolders;
+  const QString named = processes.mid(0, kMostHolders).join(u", "_s);
+  return more > 0 ? u"In use by %1 and %2 more"_s.arg(named).arg(more) : u"In use by "_s + named;
 }
 
 void AppDelegate::stopRunning() {}

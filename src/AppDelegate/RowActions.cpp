@@ -1,10 +1,11 @@
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QUrl>
 
 #include "AppDelegate/AppDelegate.h"
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "ESPTableCellView.h"
-#include "Foundation/SystemLog.h"
+#include "Foundation/Text.h"
 #include "Interface/CheckBox.h"
 #include "Interface/InputGate.h"
 #include "Interface/RowButton.h"
@@ -58,8 +59,14 @@ void AppDelegate::openEsp(RowButton *sender) {
   if (sender == nullptr || _busyPartition.has_value()) return;
   const QString path = sender->title().split("open "_L1).value(1);
   if (path == "(null)"_L1 || path == "N/A"_L1 || !path.startsWith(u'/')) return;
+  // The file manager would show an error of its own at best.
+  if (!fileExistsAtPath(path)) return complain(path + " is not there"_L1);
+  const QFileInfo folder(path);
+  if (!folder.isReadable() || !folder.isExecutable()) {
+    return complain(u"you may not read "_s + path);
+  }
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
-    systemLog(u"No file manager could be started for "_s + path);
+    complain(u"no file manager could be started for "_s + path);
   }
 }
 

@@ -5,6 +5,20 @@
 void AppDelegate::showPopover() {
   _mainQueue.async([this] { _statusTextField->setStringValue(QString()); });
   _popover->showRelativeTo(topBarItem->anchor(), Qt::BottomEdge);
+  if (_popoverTransiencyMonitor) return;
+  setPopoverTransiencyMonitor(_desktop.addGlobalMonitor([this] { closeForActivityElsewhere(); }));
+}
+
+void AppDelegate::setPopoverTransiencyMonitor(std::unique_ptr<EventMonitor> monitor) {
+  _popoverTransiencyMonitor = std::move(monitor);
+}
+
+// Closing in any other way leaves the monitor, until the next activity elsewhere.
+void AppDelegate::closeForActivityElsewhere() {
+  // That may be the password prompt that a row action has brought up.
+  if (_busyPartition) return;
+  setPopoverTransiencyMonitor(nullptr);
+  _popover->close();
 }
 
 bool AppDelegate::popoverShouldDetach(Popover * /*popover*/) {
@@ -18,6 +32,5 @@ void AppDelegate::popoverDidShow() {
 
 void AppDelegate::popoverWillClose() {
   topBarItem->setHighlighted(false);
-  topBarItem->noteClosed();
   darkModeAndRetina();
 }

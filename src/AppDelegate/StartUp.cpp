@@ -11,10 +11,28 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
 const QString kVersion = u"1.6"_s;
+
+void setBackground(QWidget *window, const QColor &color) {
+  QPalette palette = window->palette();
+  palette.setColor(QPalette::Window, color);
+  window->setPalette(palette);
 }
 
-AppDelegate::AppDelegate(Platform &platform) : _platform(platform) {}
+// As a rule the program starts without any window that shows, and takes the focus from nobody.
+void bringToFront() {
+  for (QWidget *window : QApplication::topLevelWidgets()) {
+    if (!window->isVisible()) continue;
+    window->raise();
+    window->activateWindow();
+  }
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(Platform &platform, Desktop &desktop)
+    : _platform(platform), _desktop(desktop) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -23,20 +41,24 @@ void AppDelegate::applicationDidFinishLaunching() {
   NotificationCenter::defaultCenter().addObserver(
       this, kArbitratorNotification, [this](const Notification &note) { arbitrator(note); });
 
+  setBackground(_window, Qt::white);
   _popover->setDelegate(this);
   _popover->setBehavior(Popover::Behavior::Transient);
   _popover->setAnimates(true);
 
-  topBarItem = std::make_unique<StatusItem>(_platform.clock());
+  topBarItem = std::make_unique<StatusItem>(_desktop.makeTrayItem(), _platform.clock());
   darkModeAndRetina();
   topBarItem->setMenu(_menu);
   connect(topBarItem.get(), &StatusItem::action, this, &AppDelegate::showPopover);
+  connect(topBarItem.get(), &StatusItem::dismissal, _popover, &QWidget::close);
+  connect(&_desktop, &Desktop::reopened, this, &AppDelegate::showPopover);
   topBarItem->setHighlighted(false);
 
   _versionLabel->setStringValue(u"Keldra v"_s + kVersion);
   _statusTextField->setStringValue(QString());
 
   restoreRunAtLoad();
+  bringToFront();
 
   _tableView->setFloatsGroupRows(false);
   _tableView->setDelegate(this);

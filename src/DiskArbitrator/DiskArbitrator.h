@@ -75,6 +75,9 @@ class DiskArbitrator {
   /// An absolute path; absent while it is not mounted.
   static std::optional<QString> findMountPoint(const QString &reference);
   static bool isMountPointValid(const QString &reference);
+  /// "name (process number)" of each process that uses the volume, as far as the system lets this
+  /// user know. Empty while it is not mounted.
+  static QStringList findProcessesUsing(const QString &reference);
 
   // Mounting. Both block in a nested run of the run loop until the service has answered.
 
@@ -84,6 +87,8 @@ class DiskArbitrator {
   static bool mountPartition(const QString &partition, const std::optional<QString> &atPath);
   /// YES in every case: the request was carried out. A refusal is announced.
   static bool umountPartition(const QString &partition, bool forceUmount);
+  /// How the refusal to unmount a disk is announced.
+  static QString umountRefusal(const QString &disk, DAReturn status);
 
   /// The picture for a partition. Null when even the caution icon cannot be loaded.
   static QImage findVolumeIcon(const QString &partition);

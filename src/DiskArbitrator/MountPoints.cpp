@@ -9,6 +9,11 @@ std::optional<QString> DiskArbitrator::findMountPoint(const QString &reference) 
   return withoutNull(path.toUrl().toLocalFile());
 }
 
+QStringList DiskArbitrator::findProcessesUsing(const QString &reference) {
+  const auto mountPoint = findMountPoint(reference);
+  return mountPoint ? Platform::current().processesUsing(*mountPoint) : QStringList();
+}
+
 bool DiskArbitrator::isMountPointValid(const QString &reference) {
   return !findMountPoint(reference).value_or(QString()).isEmpty();
 }

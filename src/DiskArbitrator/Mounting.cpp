@@ -80,6 +80,10 @@ void DiskArbitrator::mountCallback(const QString &disk, const std::optional<Diss
 void DiskArbitrator::umountCallback(const QString &disk,
                                     const std::optional<Dissenter> &dissenter) {
   if (!dissenter.has_value()) return;
-  const QString reason = QString::fromLocal8Bit(daStatus(dissenter->status));
-  sendNotificationWithMessage(u"umount failed for "_s + disk + ", reason: "_L1 + reason);
+  sendNotificationWithMessage(umountRefusal(disk, dissenter->status));
+}
+
+QString DiskArbitrator::umountRefusal(const QString &disk, DAReturn status) {
+  const QString reason = QString::fromLocal8Bit(daStatus(status));
+  return u"umount failed for "_s + disk + ", reason: "_L1 + reason;
 }

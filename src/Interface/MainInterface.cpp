@@ -16,7 +16,9 @@ static void registerPictures() {
 }
 
 MainInterface::MainInterface()
-    : _menu(std::make_unique<QMenu>()), _popover(std::make_unique<Popover>()) {
+    : _menu(std::make_unique<QMenu>()),
+      _popover(std::make_unique<Popover>()),
+      _window(std::make_unique<QWidget>()) {
   registerPictures();
   _popover->setWindowTitle(u"Keldra"_s);
   _popover->setWindowIcon(QIcon(u":/Keldra.png"_s));

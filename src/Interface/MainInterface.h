@@ -38,6 +38,9 @@ class MainInterface {
   TextField *versionLabel() const { return _versionLabel; }
   QPushButton *quitButton() const { return _quitButton; }
 
+  /// Never shown by the program itself.
+  QWidget *window() const { return _window.get(); }
+
   QMenu *menu() const { return _menu.get(); }
   QAction *openAction() const { return _openAction; }
   QAction *quitAction() const { return _quitAction; }
@@ -50,6 +53,7 @@ class MainInterface {
 
   std::unique_ptr<QMenu> _menu;
   std::unique_ptr<Popover> _popover;
+  std::unique_ptr<QWidget> _window;
   // In the popover's content, which owns them:
   TableView *_tableView = nullptr;
   EmptyView *_emptyView = nullptr;

@@ -1,12 +1,10 @@
 #include "Interface/StatusItem.h"
 
-#include <QCursor>
-#include <QGuiApplication>
-#include <QMenu>
+#include <QApplication>
 #include <QPainter>
 
 #include "Foundation/Clock.h"
-#include "Interface/PlainText.h"
+#include "Platform/Desktop.h"
 
 namespace {
 
@@ -30,53 +28,50 @@ QPixmap highlighted(const QPixmap &picture) {
 
 }  // namespace
 
-StatusItem::StatusItem(const Clock &clock, QObject *parent)
-    : QObject(parent), _clock(clock), _trayIcon(this) {
-  _trayIcon.setToolTip(QGuiApplication::applicationDisplayName());
-  connect(&_trayIcon, &QSystemTrayIcon::activated, this, &StatusItem::activated);
+StatusItem::StatusItem(std::unique_ptr<TrayItem> trayItem, const Clock &clock)
+    : _clock(clock), _trayItem(std::move(trayItem)) {
+  connect(_trayItem.get(), &TrayItem::activated, this, &StatusItem::activated);
 }
+
+StatusItem::~StatusItem() = default;
 
 void StatusItem::setImage(const QIcon &image) {
   _image = image;
   updateIcon();
-  _trayIcon.show();
 }
 
 void StatusItem::setHighlighted(bool highlighted) {
+  if (highlighted == _highlighted) return;
   _highlighted = highlighted;
+  (highlighted ? _openedAt : _closedAt) = _clock.now();
   updateIcon();
 }
 
 void StatusItem::setMenu(QMenu *menu) {
-  _trayIcon.setContextMenu(menu);
-}
-
-void StatusItem::noteClosed() {
-  _closedAt = _clock.now();
-}
-
-void StatusItem::notify(const QString &text) {
-  _trayIcon.showMessage(QGuiApplication::applicationDisplayName(), withoutMarkup(text), _image);
+  _trayItem->setMenu(menu);
 }
 
 QRect StatusItem::anchor() const {
-  const QRect place = _trayIcon.geometry();
-  return place.isNull() ? QRect(QCursor::pos(), QSize(1, 1)) : place;
+  return _trayItem->place();
 }
 
-void StatusItem::activated(QSystemTrayIcon::ActivationReason reason) {
-  if (reason != QSystemTrayIcon::Trigger) return;
-  if (_closedAt && _clock.now() - *_closedAt < kToggleGuard) return;
-  emit action();
+void StatusItem::activated() {
+  const auto isWithin = [now = _clock.now()](const auto &moment, std::chrono::milliseconds time) {
+    return moment && now - *moment < time;
+  };
+  // The desktop may have closed the popover because of this very click.
+  if (isWithin(_closedAt, kToggleGuard)) return;
+  if (!_highlighted) return emit action();
+  // The second click of a double click wants what the first one wanted.
+  const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
+  if (!isWithin(_openedAt, doubleClick)) emit dismissal();
 }
 
 void StatusItem::updateIcon() {
-  if (!_highlighted) {
-    _trayIcon.setIcon(_image);
-    return;
-  }
+  if (_image.isNull()) return;
+  if (!_highlighted) return _trayItem->setImage(_image);
   QIcon icon;
   for (const QSize &size : _image.availableSizes())
     icon.addPixmap(highlighted(_image.pixmap(size)));
-  _trayIcon.setIcon(icon);
+  _trayItem->setImage(icon);
 }

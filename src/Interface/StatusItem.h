@@ -1,24 +1,26 @@
 #pragma once
 
-// The program's item in the desktop's tray. Where there is no tray yet, the item appears when one
-// does.
+// The program's item in the desktop's tray, from which the popover hangs: what a click on it means,
+// and how it looks while the popover is open.
 
 #include <QIcon>
 #include <QObject>
 #include <QRect>
-#include <QSystemTrayIcon>
 #include <chrono>
+#include <memory>
 #include <optional>
 
 class Clock;
 class QMenu;
+class TrayItem;
 
 class StatusItem : public QObject {
   Q_OBJECT
 
  public:
   /// The clock is not owned and must outlive the item.
-  explicit StatusItem(const Clock &clock, QObject *parent = nullptr);
+  StatusItem(std::unique_ptr<TrayItem> trayItem, const Clock &clock);
+  ~StatusItem() override;
 
   /// The item shows from its first image on.
   void setImage(const QIcon &image);
@@ -29,28 +31,25 @@ class StatusItem : public QObject {
   /// The menu of a right click. Not owned.
   void setMenu(QMenu *menu);
 
-  /// What hangs from the item has just been closed. The desktop may have closed it because of the
-  /// very click on the item that is about to arrive, so that click, within 250 ms, is not an
-  /// action.
-  void noteClosed();
-
-  /// Tells a person who is not looking, in the desktop's own way.
-  void notify(const QString &text);
-
-  /// The item's place on the screen; where the desktop does not tell, the pointer's.
+  /// The item's place on the screen; null where the desktop does not tell.
   QRect anchor() const;
 
+  TrayItem &trayItem() { return *_trayItem; }
+
  signals:
-  /// A person has clicked the item.
+  /// A person has clicked the item to open what hangs from it.
   void action();
+  /// A person has clicked the item while what hangs from it is open.
+  void dismissal();
 
  private:
-  void activated(QSystemTrayIcon::ActivationReason reason);
+  void activated();
   void updateIcon();
 
   const Clock &_clock;
-  QSystemTrayIcon _trayIcon;
+  std::unique_ptr<TrayItem> _trayItem;
   QIcon _image;
+  std::optional<std::chrono::milliseconds> _openedAt;
   std::optional<std::chrono::milliseconds> _closedAt;
   bool _highlighted = false;
 };

@@ -59,6 +59,11 @@ QVariantAnimation *TextField::fadeTo(qreal opacity, int milliseconds, QEasingCur
   return fade;
 }
 
+void TextField::setDetail(const QString &detail, const QString &ofText) {
+  _detail = detail;
+  _detailedText = ofText;
+}
+
 void TextField::setTextColor(TextColor color) {
   _textColor = color;
   update();
@@ -75,10 +80,10 @@ QSize TextField::minimumSizeHint() const {
 
 bool TextField::event(QEvent *event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const bool isWhole = fits(_stringValue, QFontMetrics(Look(this).detailFont()), width());
+  const QString detail = _stringValue == _detailedText ? _detail : QString();
   showPlainToolTip(this, static_cast<QHelpEvent *>(event)->globalPos(),
-                   fits(_stringValue, QFontMetrics(Look(this).detailFont()), width())
-                       ? QStringList()
-                       : QStringList(_stringValue));
+                   {isWhole ? QString() : _stringValue, detail});
   return true;
 }
 

@@ -27,6 +27,9 @@ class TextField : public QWidget {
   /// run their course, and the last to change the text decides what is shown.
   void setAnimatedStringValue(const QString &text);
 
+  /// Says more in the tooltip while the field shows this very text.
+  void setDetail(const QString &detail, const QString &ofText);
+
   TextColor textColor() const { return _textColor; }
   void setTextColor(TextColor color);
 
@@ -44,6 +47,8 @@ class TextField : public QWidget {
   QVariantAnimation *fadeTo(qreal opacity, int milliseconds, QEasingCurve::Type easing);
 
   QString _stringValue;
+  QString _detail;
+  QString _detailedText;
   TextColor _textColor = TextColor::Normal;
   qreal _opacity = 1.0;
   const QVariantAnimation *_latestFade = nullptr;  // it alone decides the opacity

@@ -120,6 +120,11 @@ class Platform {
   virtual LoginItems &loginItems() = 0;
   virtual UserDefaults &userDefaults() = 0;
 
+  /// "name (process number)" of each process that has a file or folder below this mount point open,
+  /// runs from there or works there, as far as the system lets this user know. Blocks for some
+  /// milliseconds.
+  virtual QStringList processesUsing(const QString &mountPoint) const = 0;
+
   /// The folder below which the system mounts volumes ("/Volumes", "/media/alex").
   virtual QString volumesFolder() const = 0;
 

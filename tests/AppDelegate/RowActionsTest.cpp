@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <QFile>
+#include <QHelpEvent>
 #include <QTimer>
+#include <QToolTip>
 
 #include "support/OpenedFolders.h"
 #include "support/TestMachine.h"
@@ -15,6 +19,24 @@ QByteArray slowMachine(const QByteArray &refusal = {}) {
     "media": "EFI System Partition", "volume": { "kind": "msdos", "name": "EFI" }, "refuse": {)" +
          refusal + "} } ] } ] }";
 }
+
+QString toolTipOf(QWidget *widget) {
+  QHelpEvent event(QEvent::ToolTip, {}, widget->mapToGlobal(QPoint()));
+  QApplication::sendEvent(widget, &event);
+  return QToolTip::text();
+}
+
+/// While it lives, this process may do what anybody may.
+class AsAnybody {
+ public:
+  AsAnybody() { EXPECT_TRUE(getuid() != 0 || setresuid(kNobody, kNobody, 0) == 0); }
+  ~AsAnybody() { EXPECT_TRUE(getuid() != kNobody || setresuid(0, 0, 0) == 0); }
+  AsAnybody(const AsAnybody &) = delete;
+  AsAnybody &operator=(const AsAnybody &) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+};
 
 void later(std::function<void()> action) {
   QTimer::singleShot(5, qApp, std::move(action));
@@ -136,9 +158,53 @@ TEST(RowActions, OpensAbsolutePathsOnlyAndCutsThemAtTheWordOpen) {
   machine.click(machine.cell(4)->openButton());
   RowButton button;
   for (const char *title :
-       {"open (null)", "open N/A", "open relative", "open ", "open /a/open data"}) {
+       {"open (null)", "open N/A", "open relative", "open ", "open /usr/open data"}) {
     button.setTitle(QString::fromUtf8(title));
     machine.delegate.openEsp(&button);
   }
-  EXPECT_EQ(opened.paths, QStringList({machine.folder("Data"), "/a/"}));
+  EXPECT_EQ(opened.paths, QStringList({machine.folder("Data"), "/usr/"}));
+}
+
+TEST(RowActions, AFolderThatMayNotBeReadOrIsGoneIsSaidAndNotOpened) {
+  TestMachine machine(twoEspMachine());
+  OpenedFolders opened;
+  RowButton button;
+  const QString folder = machine.folder("Data");
+  button.setTitle("open " + folder);
+  QFile::setPermissions(folder, {});
+  {
+    const AsAnybody anybody;
+    machine.delegate.openEsp(&button);
+  }
+  QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  EXPECT_EQ(machine.status(), "you may not read " + folder);
+  button.setTitle("open " + folder + "/gone");
+  machine.delegate.openEsp(&button);
+  EXPECT_EQ(machine.status(), folder + "/gone is not there");
+  EXPECT_EQ(machine.statusColor(), TextColor::Red);
+  EXPECT_EQ(opened.paths, QStringList());
+}
+
+TEST(RowActions, BusyNamesWhoUsesTheVolume) {
+  TestMachine machine(R"json({ "disks": [ { "unit": 0, "partitions": [ { "slice": 1,
+    "media": "EFI System Partition", "refuse": { "unmount": "busy" },
+    "volume": { "kind": "msdos", "mountPoint": "EFI", "usedBy": ["a (1)", "b<i> (2)", "c (3)",
+      "d (4)", "e (5)", "f (6)", "g (7)", "h (8)"] } } ] } ] })json");
+  machine.click(machine.mountButton(0));
+  const QString refusal = "umount failed for disk0s1, reason: busy";
+  EXPECT_EQ(machine.status(), refusal);
+  QWidget *statusLine = machine.interface.statusTextField();
+  EXPECT_TRUE(toolTipOf(statusLine).contains("In use by a (1), b&lt;i&gt; (2), c (3)"));
+  EXPECT_TRUE(toolTipOf(statusLine).contains("f (6) and 2 more"));
+
+  RowButton *button = machine.mountButton(0);
+  machine.interface.popover()->close();
+  button->click();
+  machine.settle();
+  ASSERT_EQ(machine.desktop.notifications.size(), 1);
+  EXPECT_TRUE(machine.desktop.notifications[0].startsWith(refusal + '\n'));
+  EXPECT_TRUE(machine.desktop.notifications[0].contains("In use by a (1)"));
+  machine.platform.rename("disk0s1", "Other");
+  machine.status();
+  EXPECT_FALSE(toolTipOf(statusLine).contains("In use")) << "it belongs to the refusal";
 }

@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QSystemTrayIcon>
 #include <QTest>
 
+#include "Foundation/Clock.h"
 #include "Interface/Popover.h"
 #include "Interface/StatusItem.h"
-#include "Platform/Platform.h"
+#include "Platform/simulated/SimulatedDesktop.h"
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -118,23 +120,30 @@ struct HandClock : Clock {
   std::chrono::milliseconds time{1000};
 };
 
-TEST(StatusItemTest, ClickThatClosedThePopoverDoesNotOpenItAgain) {
+TEST(StatusItemTest, ClickOpensOrClosesAndASecondOneOfTheSameIntentDoesNothing) {
   HandClock clock;
-  StatusItem item(clock);
-  int actions = 0;
-  QObject::connect(&item, &StatusItem::action, [&] { ++actions; });
-  auto *tray = item.findChild<QSystemTrayIcon *>();
-  emit tray->activated(QSystemTrayIcon::Trigger);
-  EXPECT_EQ(actions, 1);
-  item.noteClosed();
-  clock.time += std::chrono::milliseconds(249);
-  emit tray->activated(QSystemTrayIcon::Trigger);
-  EXPECT_EQ(actions, 1);
-  clock.time += std::chrono::milliseconds(1);
-  emit tray->activated(QSystemTrayIcon::Context);
-  emit tray->activated(QSystemTrayIcon::Trigger);
-  EXPECT_EQ(actions, 2);
-  EXPECT_FALSE(item.anchor().isNull());
+  SimulatedDesktop desktop;
+  StatusItem item(desktop.makeTrayItem(), clock);
+  QStringList asked;
+  QObject::connect(&item, &StatusItem::action, [&] { asked += "open"; });
+  QObject::connect(&item, &StatusItem::dismissal, [&] { asked += "close"; });
+  const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
+
+  desktop.clickItem();
+  item.setHighlighted(true);
+  clock.time += doubleClick - 1ms;
+  desktop.clickItem();
+  EXPECT_EQ(asked, QStringList({"open"})) << "the rest of a double click";
+  clock.time += 1ms;
+  desktop.clickItem();
+  EXPECT_EQ(asked, QStringList({"open", "close"}));
+  item.setHighlighted(false);
+  clock.time += 249ms;
+  desktop.clickItem();
+  EXPECT_EQ(asked, QStringList({"open", "close"})) << "the click that has closed it";
+  clock.time += 1ms;
+  desktop.clickItem();
+  EXPECT_EQ(asked, QStringList({"open", "close", "open"}));
 }
 
 }  // namespace

@@ -8,12 +8,13 @@
 #include "ESPTableCellView.h"
 #include "Interface/MainInterface.h"
 #include "Interface/RowTextField.h"
+#include "Platform/simulated/SimulatedDesktop.h"
 #include "application.h"
 #include "disks/DiskTest.h"
 
 class Program {
  public:
-  explicit Program(Platform &platform) : _current(platform), delegate(platform) {
+  explicit Program(Platform &platform) : _current(platform), delegate(platform, desktop) {
     connectOutlets(interface, delegate);
     delegate.applicationDidFinishLaunching();
     delegate.showPopover();
@@ -45,6 +46,7 @@ class Program {
   const CurrentPlatform _current;
 
  public:
+  SimulatedDesktop desktop;
   AppDelegate delegate;
   MainInterface interface;
 };

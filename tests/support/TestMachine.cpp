@@ -37,7 +37,7 @@ QByteArray twoEspMachine() {
   ] })";
 }
 
-TestMachine::TestMachine(const QByteArray &json) : TestPlatform(json), delegate(platform) {
+TestMachine::TestMachine(const QByteArray &json) : TestPlatform(json), delegate(platform, desktop) {
   connectOutlets(interface, delegate);
   delegate.applicationDidFinishLaunching();
   interface.popover()->setAnimates(false);

@@ -11,6 +11,7 @@
 #include "Interface/RowButton.h"
 #include "Interface/RowTextField.h"
 #include "Interface/TextField.h"
+#include "Platform/simulated/SimulatedDesktop.h"
 #include "Platform/simulated/SimulatedPlatform.h"
 
 /// Time that goes on by one step at every look at it, so that no wait takes any.
@@ -64,6 +65,7 @@ class TestMachine : public TestPlatform {
     QTest::mouseClick(interface.showAllDisksCheck(), Qt::LeftButton, {}, {8, 8});
   }
 
+  SimulatedDesktop desktop;
   AppDelegate delegate;
   MainInterface interface;
 };

@@ -15,6 +15,7 @@
 #include "Platform/common/SystemClock.h"
 #include "Platform/common/SystemFilesRoot.h"
 #include "Platform/linux/LinuxDiskService.h"
+#include "Platform/linux/VolumeUsers.h"
 #include "Platform/linux/XdgLoginItems.h"
 
 using namespace Qt::StringLiterals;
@@ -62,6 +63,9 @@ class LinuxPlatform final : public Platform {
   SystemFiles &systemFiles() override { return _systemFiles; }
   LoginItems &loginItems() override { return _loginItems; }
   UserDefaults &userDefaults() override { return _userDefaults; }
+  QStringList processesUsing(const QString &mountPoint) const override {
+    return processesUsingVolume(mountPoint);
+  }
   QString volumesFolder() const override { return mountFolderOfUser(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 

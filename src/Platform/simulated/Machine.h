@@ -23,6 +23,8 @@ struct SimulatedPartition {
   QString volumeKind;
   QString volumeName;
   QString volumeUUID;
+  /// The processes that are said to use it.
+  QStringList usedBy;
   /// Absent while it is not mounted.
   std::optional<QString> mountPoint;
   // How the service answers: a refusal stands until it is taken away, a mishap happens once.

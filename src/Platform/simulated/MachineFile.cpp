@@ -63,6 +63,18 @@ class Reader {
     return Reader(value, placeOf(key));
   }
 
+  QStringList texts(const QString &key) {
+    const QJsonValue value = take(key);
+    QStringList texts;
+    for (const QJsonValue &text : value.toArray()) {
+      if (text.isString()) texts += text.toString();
+    }
+    if (!value.isUndefined() && (!value.isArray() || texts.size() != value.toArray().size())) {
+      fail(key, u"a list of texts in quotes is needed"_s);
+    }
+    return texts;
+  }
+
   std::optional<DAReturn> status(const QString &key) {
     const QJsonValue value = take(key);
     if (value.isUndefined()) return std::nullopt;
@@ -116,6 +128,7 @@ void readVolume(Reader &reader, SimulatedPartition &partition) {
   partition.volumeKind = reader.text(u"kind"_s);
   partition.volumeName = reader.text(u"name"_s);
   partition.volumeUUID = reader.text(u"uuid"_s);
+  partition.usedBy = reader.texts(u"usedBy"_s);
   const QString mountPoint = reader.text(u"mountPoint"_s);
   if (mountPoint.contains(u'/') && !mountPoint.startsWith(u'/')) {
     reader.fail(u"mountPoint"_s, u"an absolute path or a name without \"/\" is needed"_s);

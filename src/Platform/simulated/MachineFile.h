@@ -14,7 +14,7 @@
 //   machine     "productVersion", "service", "answersAfter"
 //   disk        "uuid", "protocol", "device", "writable", "ejectable", "internal"
 //   partition   "content", "uuid", "device", "mishap"
-//   volume      "uuid"
+//   volume      "uuid", "usedBy" (a list of processes, such as "vim (4711)")
 //
 // How the service behaves:
 //

@@ -58,6 +58,15 @@ std::optional<DiskDescription> SimulatedPlatform::descriptionOfVolume(
   return std::nullopt;
 }
 
+QStringList SimulatedPlatform::processesUsing(const QString &mountPoint) const {
+  for (const SimulatedDisk &disk : _machine.disks) {
+    for (const SimulatedPartition &partition : disk.partitions) {
+      if (partition.mountPoint == mountPoint) return partition.usedBy;
+    }
+  }
+  return {};
+}
+
 QStringList SimulatedPlatform::mediaNames() const {
   QStringList names;
   for (const SimulatedDisk &disk : _machine.disks) names += mediaNamesOnDisk(disk.bsdName());

@@ -50,6 +50,7 @@ class SimulatedPlatform final : public Platform, public DiskService, public Medi
   SystemFiles &systemFiles() override { return _systemFiles; }
   SimulatedLoginItems &loginItems() override { return _loginItems; }
   SimulatedDefaults &userDefaults() override { return _userDefaults; }
+  QStringList processesUsing(const QString &mountPoint) const override;
   QString volumesFolder() const override { return _volumes.path(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 

@@ -1,0 +1,20 @@
+#include "Platform/common/QtTrayItem.h"
+
+#include <QGuiApplication>
+
+QtTrayItem::QtTrayItem() : _icon(this) {
+  _icon.setToolTip(QGuiApplication::applicationDisplayName());
+  connect(&_icon, &QSystemTrayIcon::activated, this,
+          [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger) emit activated();
+          });
+}
+
+void QtTrayItem::setImage(const QIcon &image) {
+  _icon.setIcon(image);
+  _icon.show();
+}
+
+void QtTrayItem::showMessage(const QString &title, const QString &text) {
+  _icon.showMessage(title, text, _icon.icon());
+}

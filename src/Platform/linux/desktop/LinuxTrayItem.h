@@ -1,0 +1,37 @@
+#pragma once
+
+// The item in whichever kind of tray the desktop has at the moment: a panel that speaks the
+// StatusNotifierItem protocol, or else a tray of the X11 protocol. Panels come late, are killed and
+// change; the item follows, and waits where there is none.
+
+#include <QIcon>
+#include <QMenu>
+#include <QPointer>
+
+#include "Platform/Desktop.h"
+#include "Platform/linux/desktop/NotifierHosts.h"
+
+class NotifierItem;
+
+class LinuxTrayItem final : public TrayItem {
+ public:
+  explicit LinuxTrayItem(const QDBusConnection &sessionBus);
+  ~LinuxTrayItem() override;
+
+  void setImage(const QIcon &image) override;
+  void setMenu(QMenu *menu) override;
+  QRect place() const override;
+  void showMessage(const QString &title, const QString &text) override;
+
+ private:
+  void follow(bool notifierHostIsPresent);
+  void use(std::unique_ptr<TrayItem> item);
+
+  QDBusConnection _bus;
+  NotifierHosts _hosts;
+  /// Null until the desktop has told what it has.
+  std::unique_ptr<TrayItem> _item;
+  NotifierItem *_notifier = nullptr;  // _item, when it is one
+  QIcon _image;
+  QPointer<QMenu> _menu;
+};

@@ -1,0 +1,101 @@
+#pragma once
+
+// An item of our own for panels that speak the StatusNotifierItem protocol. Qt's item there knows
+// neither the place of a click nor a panel that comes later.
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QIcon>
+
+#include "Platform/Desktop.h"
+#include "Platform/linux/desktop/NotifierMenu.h"
+#include "Platform/linux/desktop/NotifierTypes.h"
+
+inline const QString kNotifierWatcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+inline const QString kNotifierWatcherPath = QStringLiteral("/StatusNotifierWatcher");
+
+class NotifierItem final : public TrayItem {
+  Q_OBJECT
+
+ public:
+  /// One at a time on a connection.
+  explicit NotifierItem(const QDBusConnection &bus);
+  ~NotifierItem() override;
+
+  /// Makes the panels know it; again whenever they have been restarted. Does not wait.
+  void announce();
+
+  void setImage(const QIcon &image) override;
+  void setMenu(QMenu *menu) override;
+  /// The place of the last click.
+  QRect place() const override { return _place; }
+  /// Panels have no messages of their own.
+  void showMessage(const QString &, const QString &) override {}
+
+  // What a panel calls; the coordinates are the window system's.
+  void activate(const QPoint &place);
+  void popUpMenu(const QPoint &place);
+
+  NotifierPixmaps pixmaps() const { return _pixmaps; }
+
+ private:
+  QDBusConnection _bus;
+  QObject _menuObject;
+  NotifierMenu *_exportedMenu;
+  class NotifierInterface *_exported;
+  NotifierPixmaps _pixmaps;
+  QPointer<QMenu> _menu;
+  QRect _place;
+};
+
+/// What a panel sees of it.
+class NotifierInterface final : public QDBusAbstractAdaptor {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
+  Q_PROPERTY(QString Category READ category)
+  Q_PROPERTY(QString Id READ id)
+  Q_PROPERTY(QString Title READ title)
+  Q_PROPERTY(QString Status READ status)
+  Q_PROPERTY(int WindowId READ windowId)
+  Q_PROPERTY(bool ItemIsMenu READ itemIsMenu)
+  Q_PROPERTY(QDBusObjectPath Menu READ menu)
+  Q_PROPERTY(QString IconName READ none)
+  Q_PROPERTY(NotifierPixmaps IconPixmap READ pixmaps)
+  Q_PROPERTY(QString OverlayIconName READ none)
+  Q_PROPERTY(QString AttentionIconName READ none)
+  Q_PROPERTY(NotifierToolTip ToolTip READ toolTip)
+
+ public:
+  explicit NotifierInterface(NotifierItem &item) : QDBusAbstractAdaptor(&item), _item(item) {}
+
+  QString category() const { return QStringLiteral("Hardware"); }
+  QString id() const;
+  QString title() const;
+  QString status() const { return QStringLiteral("Active"); }
+  int windowId() const { return 0; }
+  bool itemIsMenu() const { return false; }
+  QDBusObjectPath menu() const;
+  QString none() const { return {}; }
+  NotifierPixmaps pixmaps() const { return _item.pixmaps(); }
+  NotifierToolTip toolTip() const { return {{}, {}, title(), {}}; }
+
+ public slots:
+  void Activate(int x, int y) { _item.activate({x, y}); }
+  void SecondaryActivate(int x, int y) { _item.activate({x, y}); }
+  /// Of panels that do not show menus themselves.
+  void ContextMenu(int x, int y) { _item.popUpMenu({x, y}); }
+  void Scroll(int /*delta*/, const QString & /*orientation*/) {}
+  void ProvideXdgActivationToken(const QString &token);
+
+ signals:
+  void NewIcon();
+  void NewTitle();
+  void NewAttentionIcon();
+  void NewOverlayIcon();
+  void NewToolTip();
+  void NewStatus(const QString &status);
+
+ private:
+  NotifierItem &_item;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+// A desktop that nobody sees: it keeps what the program asks of it, and does what it is told to.
+//
+//   SimulatedDesktop desktop;
+//   AppDelegate delegate(platform, desktop);
+//   desktop.clickItem();
+
+#include <QIcon>
+#include <QMenu>
+#include <QPointer>
+#include <QStringList>
+
+#include "Platform/Desktop.h"
+
+class SimulatedTrayItem final : public TrayItem {
+ public:
+  void setImage(const QIcon &image) override { shownImage = image; }
+  void setMenu(QMenu *menu) override { shownMenu = menu; }
+  QRect place() const override { return shownAt; }
+  void showMessage(const QString & /*title*/, const QString & /*text*/) override {}
+
+  QIcon shownImage;
+  QPointer<QMenu> shownMenu;
+  QRect shownAt{400, 0, 24, 24};
+};
+
+class SimulatedDesktop final : public Desktop {
+ public:
+  std::unique_ptr<TrayItem> makeTrayItem() override;
+  std::unique_ptr<EventMonitor> addGlobalMonitor(std::function<void()> handler) override;
+  void notify(const QString &title, const QString &text, TrayItem &item) override;
+  bool becomeOnlyInstance() override { return true; }
+
+  // What happens on it.
+  void clickItem() { emit item->activated(); }
+  void actElsewhere();
+
+  QPointer<SimulatedTrayItem> item;  // the last that was made
+  int monitors = 0;                  // that live
+  QStringList notifications;
+
+ private:
+  class Monitor;
+
+  std::function<void()> _handler;  // of the monitor that was made last; empty when it has gone
+};
