@@ -13,6 +13,7 @@
 
 #include "AppDelegate/AppDelegate.h"
 #include "Interface/Accessibility.h"
+#include "Interface/Appearance.h"
 #include "Interface/MainInterface.h"
 #include "Platform/Desktop.h"
 #include "Platform/Platform.h"
@@ -39,6 +40,15 @@ void quitOnSignals(AppDelegate &delegate) {
     errno = interrupted;
   };
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) sigaction(number, &action, nullptr);
+}
+
+/// The windows are dark or light as the person likes them.
+void followInterfaceStyle(const Desktop &desktop) {
+  const auto follow = [&desktop] {
+    setDarkAppearance(isDarkInterfaceStyle(desktop.interfaceStyle()));
+  };
+  QObject::connect(&desktop, &Desktop::interfaceThemeChanged, qApp, follow);
+  follow();
 }
 
 }  // namespace
@@ -79,6 +89,7 @@ int runApplication(Platform &platform, Desktop &desktop) {
   configureApplication();
   if (!desktop.becomeOnlyInstance()) return EXIT_SUCCESS;
   const CurrentPlatform current(platform);
+  followInterfaceStyle(desktop);
   AppDelegate delegate(platform, desktop);
   MainInterface interface;
   connectOutlets(interface, delegate);

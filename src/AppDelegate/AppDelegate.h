@@ -124,7 +124,7 @@ class AppDelegate : public QObject,
   void popoverDidShow() override;
   void popoverWillClose() override;
 
-  /// Puts the program's picture on the status item.
+  /// Puts the picture that suits the interface style and the screen on the status item.
   void darkModeAndRetina();
 
  private:
@@ -165,3 +165,12 @@ class AppDelegate : public QObject,
   /// The partition whose row action is under way.
   std::optional<QString> _busyPartition;
 };
+
+// What the status item's picture depends on.
+
+/// Whether this value of "AppleInterfaceStyle" asks for the dark one: the text "dark" in any mix of
+/// capitals.
+bool isDarkInterfaceStyle(const QVariant &style);
+
+/// The side of the picture in points; a factor that is no number counts as 1.
+int statusImageSide(qreal scaleFactor);

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QIcon>
 
 #include "AppDelegate/AppDelegate.h"
 #include "DiskArbitrator/DiskArbitrator.h"
@@ -37,6 +36,7 @@ AppDelegate::AppDelegate(Platform &platform, Desktop &desktop)
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
+  connect(&_desktop, &Desktop::interfaceThemeChanged, this, &AppDelegate::darkModeAndRetina);
   stopRunning();
   NotificationCenter::defaultCenter().addObserver(
       this, kArbitratorNotification, [this](const Notification &note) { arbitrator(note); });
@@ -70,8 +70,4 @@ void AppDelegate::applicationDidFinishLaunching() {
 void AppDelegate::closeApp() {
   // A nested wait looks at its own flag only, so the program ends when a row action's wait is over.
   QCoreApplication::exit(0);
-}
-
-void AppDelegate::darkModeAndRetina() {
-  topBarItem->setImage(QIcon(u":/normal.png"_s));
 }

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
@@ -63,7 +62,7 @@ void Popover::setContentView(QWidget *view) {
 }
 
 void Popover::showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge) {
-  _anchor = anchor;
+  _anchor = windowsCanBePlaced() ? anchor : QRect();
   _preferredEdge = preferredEdge;
   _composited = windowsAreComposited();
   const bool wasShown = isVisible();
@@ -80,8 +79,14 @@ void Popover::showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge) {
 
 void Popover::closeEvent(QCloseEvent *event) {
   _appearance.stop();
+  _frame = QPixmap();
   if (isVisible() && _delegate) _delegate->popoverWillClose();
   QWidget::closeEvent(event);
+}
+
+void Popover::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::PaletteChange) _frame = QPixmap();
+  QWidget::changeEvent(event);
 }
 
 void Popover::applicationStateChanged(Qt::ApplicationState state) {
@@ -158,6 +163,10 @@ void Popover::resizeEvent(QResizeEvent *event) {
 
 void Popover::arrangeContent() {
   if (_contentView) _contentView->setGeometry(panelRect());
+  const Shape shape{size(), _placement.arrowEdge, _placement.arrowX, _composited};
+  if (shape == _shape) return;
+  _shape = shape;
+  _frame = QPixmap();
   if (_composited) {
     clearMask();
   } else {
@@ -184,15 +193,22 @@ QPainterPath Popover::outline(qreal inset) const {
   return path.united(arrow);
 }
 
-void Popover::paintEvent(QPaintEvent *event) {
+QPixmap Popover::paintedFrame() const {
   const Look look(this);
   const QPainterPath path = outline(0.5);  // a line of one pixel, sharp
-  QPainter painter(this);
+  QPixmap frame((QSizeF(size()) * devicePixelRatioF()).toSize());
+  frame.setDevicePixelRatio(devicePixelRatioF());
+  frame.fill(Qt::transparent);
+  QPainter painter(&frame);
   painter.setRenderHint(QPainter::Antialiasing);
-  // Rows that scroll and spinners that turn repaint what is under them, and the shadow is dear.
-  const bool withinPanel = panelRect().contains(event->rect());
-  if (_composited && !withinPanel) paintShadow(painter, path, look.isDark());
+  if (_composited) paintShadow(painter, path, look.isDark());
   painter.setPen(QPen(look.border(), 1));
   painter.setBrush(look.ground());
   painter.drawPath(path);
+  return frame;
+}
+
+void Popover::paintEvent(QPaintEvent *) {
+  if (_frame.isNull() || _frame.devicePixelRatio() != devicePixelRatioF()) _frame = paintedFrame();
+  QPainter(this).drawPixmap(0, 0, _frame);
 }

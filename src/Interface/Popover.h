@@ -10,6 +10,7 @@
 // screen.
 
 #include <QPainterPath>
+#include <QPixmap>
 #include <QPointer>
 #include <QVariantAnimation>
 #include <QWidget>
@@ -55,7 +56,8 @@ class Popover : public QWidget {
 
   /// Shows the popover below the anchor, a rectangle in screen coordinates, or over it with
   /// `Qt::TopEdge`; on the other side where there is no room. A null anchor: in the middle of the
-  /// screen that has the pointer, without an arrow. One that is shown already moves there.
+  /// screen that has the pointer, without an arrow; likewise where the desktop places windows itself.
+  /// One that is shown already moves there.
   void showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge);
 
   // close() closes it, as Escape and the window manager do.
@@ -68,6 +70,7 @@ class Popover : public QWidget {
   PopoverPlacement placement() const { return _placement; }
 
  protected:
+  void changeEvent(QEvent *event) override;
   void closeEvent(QCloseEvent *event) override;
   bool event(QEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
@@ -77,12 +80,22 @@ class Popover : public QWidget {
   void showEvent(QShowEvent *event) override;
 
  private:
+  /// What its frame depends on, the colours apart.
+  struct Shape {
+    QSize size;
+    std::optional<Qt::Edge> arrowEdge;
+    int arrowX = 0;
+    bool composited = true;
+    bool operator==(const Shape &) const = default;
+  };
+
   void place();
   void arrangeContent();
   QSize panelSize(const QRect &available) const;
   QRect panelRect() const;
   QPainterPath outline(qreal inset) const;
   QMargins margins() const;
+  QPixmap paintedFrame() const;
   void appear();
   void applicationStateChanged(Qt::ApplicationState state);
 
@@ -96,4 +109,6 @@ class Popover : public QWidget {
   bool _animates = false;
   bool _heldOpen = false;
   bool _composited = true;
+  Shape _shape;
+  QPixmap _frame;  // the shadow is dear; null until it is painted for this shape
 };

@@ -7,6 +7,9 @@ class QWidget;
 /// Whether translucent windows show as such. Without it, a window's transparent parts are black.
 bool windowsAreComposited();
 
+/// Whether a window can be put at a place of the screen. Where it cannot, the desktop chooses.
+bool windowsCanBePlaced();
+
 /// Whether a window's opacity can be changed while it is shown.
 bool windowsCanFade();
 

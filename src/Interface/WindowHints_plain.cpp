@@ -4,6 +4,10 @@ bool windowsAreComposited() {
   return true;
 }
 
+bool windowsCanBePlaced() {
+  return true;
+}
+
 bool windowsCanFade() {
   return true;
 }

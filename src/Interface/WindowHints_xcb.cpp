@@ -41,6 +41,10 @@ bool windowsAreComposited() {
   return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
+bool windowsCanBePlaced() {
+  return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 bool windowsCanFade() {
   return connection() && windowsAreComposited();
 }

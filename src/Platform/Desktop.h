@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QRect>
 #include <QString>
+#include <QVariant>
 #include <functional>
 #include <memory>
 
@@ -57,6 +58,10 @@ class Desktop : public QObject {
   /// for them. The handler may destroy the monitor.
   virtual std::unique_ptr<EventMonitor> addGlobalMonitor(std::function<void()> handler) = 0;
 
+  /// What the user's defaults hold under "AppleInterfaceStyle": the text "Dark" for a dark
+  /// interface; no value, or any other, for a light one. Does not wait.
+  virtual QVariant interfaceStyle() const = 0;
+
   /// Tells a person who is not looking at the program. Does not wait; where the desktop has nobody
   /// to tell it, `item` does.
   virtual void notify(const QString &title, const QString &text, TrayItem &item) = 0;
@@ -67,6 +72,9 @@ class Desktop : public QObject {
   virtual bool becomeOnlyInstance() = 0;
 
  signals:
+  /// "AppleInterfaceThemeChangedNotification": the interface style may be another one now.
+  void interfaceThemeChanged();
+
   /// The program was started once more, or its entry chosen in the desktop's menu.
   void reopened();
 };

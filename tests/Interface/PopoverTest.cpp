@@ -104,6 +104,24 @@ TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
   EXPECT_LE(popover.placement().panel.bottom(), popover.screen()->availableGeometry().bottom());
 }
 
+TEST_F(PopoverTest, PaintsItsFrameAnewForAnotherShapeOrPalette) {
+  const auto picture = [this] { return popover.grab().toImage(); };
+  const QImage before = picture();
+  EXPECT_EQ(picture(), before);
+  popover.showRelativeTo({401, 0, 24, 24}, Qt::BottomEdge);  // the arrow alone moves
+  popover.showRelativeTo({400, 0, 24, 24}, Qt::BottomEdge);
+  EXPECT_EQ(picture(), before);
+  popover.showRelativeTo({20, 0, 24, 24}, Qt::BottomEdge);
+  EXPECT_NE(picture(), before) << "the arrow is elsewhere";
+  popover.showRelativeTo({400, 0, 24, 24}, Qt::BottomEdge);
+  QPalette dark;
+  dark.setColor(QPalette::Window, Qt::black);
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::WindowText, Qt::white);
+  popover.setPalette(dark);
+  EXPECT_NE(picture(), before) << "dark";
+}
+
 TEST_F(PopoverTest, ClosesWhenAnotherProgramIsActiveUnlessHeld) {
   popover.setHeldOpen(true);
   emit qApp->applicationStateChanged(Qt::ApplicationInactive);

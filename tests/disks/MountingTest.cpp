@@ -57,6 +57,8 @@ TEST_F(Mounting, OfABusyVolumeIsUndoneOnlyByForceAndLosesNothing) {
   ASSERT_TRUE(file.flush());
   EXPECT_EQ(unmount(name), kDAReturnBusy);
   EXPECT_NE(mountPointOf(name), "");
+  EXPECT_EQ(platform->processesUsing(mountPointOf(name)),
+            QStringList(QString("keldra-disk-tes (%1)").arg(getpid())));
 
   events.clear();
   const QString path = mountPointOf(name);

@@ -30,6 +30,7 @@ class SimulatedDesktop final : public Desktop {
   std::unique_ptr<TrayItem> makeTrayItem() override;
   std::unique_ptr<EventMonitor> addGlobalMonitor(std::function<void()> handler) override;
   void notify(const QString &title, const QString &text, TrayItem &item) override;
+  QVariant interfaceStyle() const override { return style; }
   bool becomeOnlyInstance() override { return true; }
 
   // What happens on it.
@@ -37,6 +38,7 @@ class SimulatedDesktop final : public Desktop {
   void actElsewhere();
 
   QPointer<SimulatedTrayItem> item;  // the last that was made
+  QVariant style;
   int monitors = 0;                  // that live
   QStringList notifications;
 

@@ -3,9 +3,12 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDBusConnection>
+#include <QEvent>
+#include <QPalette>
 #include <QPointer>
 
 #include "Platform/common/ActivationMonitor.h"
+#include "Platform/linux/desktop/ColorScheme.h"
 #include "Platform/linux/desktop/Instance.h"
 #include "Platform/linux/desktop/LinuxTrayItem.h"
 #include "Platform/linux/desktop/Notifications.h"
@@ -16,10 +19,16 @@ namespace {
 // About half of a tray's item, whose last click's place may be all that is known of it.
 constexpr int kHalfAnItem = 12;
 
+bool hasDarkPalette() {
+  return QApplication::palette().color(QPalette::Window).lightnessF() < 0.5F;
+}
+
 class LinuxDesktop final : public Desktop {
  public:
-  explicit LinuxDesktop(const QString &serviceName) : _instance(_bus, serviceName) {
+  explicit LinuxDesktop(const QString &serviceName) : _instance(_bus, serviceName), _scheme(_bus) {
     connect(&_instance, &Instance::activated, this, &Desktop::reopened);
+    connect(&_scheme, &ColorScheme::changed, this, &Desktop::interfaceThemeChanged);
+    qApp->installEventFilter(this);
   }
 
   std::unique_ptr<TrayItem> makeTrayItem() override {
@@ -35,6 +44,22 @@ class LinuxDesktop final : public Desktop {
       }
     }
     return std::make_unique<ActivationMonitor>(handler);
+  }
+
+  QVariant interfaceStyle() const override {
+    using enum ColorScheme::Preference;
+    // Without a word from the person, what the desktop gives to its programs.
+    const bool dark =
+        _scheme.preference() == None ? hasDarkPalette() : _scheme.preference() == Dark;
+    return dark ? QVariant(QStringLiteral("Dark")) : QVariant();
+  }
+
+  bool eventFilter(QObject *watched, QEvent *event) override {
+    const bool mayMatter = _scheme.preference() == ColorScheme::Preference::None;
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange && mayMatter) {
+      emit interfaceThemeChanged();
+    }
+    return false;
   }
 
   void notify(const QString &title, const QString &text, TrayItem &item) override {
@@ -56,6 +81,7 @@ class LinuxDesktop final : public Desktop {
 
   QDBusConnection _bus = QDBusConnection::sessionBus();
   Instance _instance;
+  ColorScheme _scheme;
   QPointer<TrayItem> _trayItem;
 };
 

@@ -1,0 +1,39 @@
+#include "Interface/Appearance.h"
+
+#include <QApplication>
+#include <QPalette>
+
+namespace {
+
+// Qt derives the shades in between from the colours of buttons and windows.
+QPalette paletteOf(bool dark) {
+  const QColor window = dark ? QColor(0x2b2b2e) : QColor(0xefefef);
+  const QColor text = dark ? QColor(0xf2f2f2) : QColor(0x1a1a1a);
+  QPalette palette(window, window);
+  const QColor base = dark ? QColor(0x1f1f21) : QColor(Qt::white);
+  palette.setColor(QPalette::Base, base);
+  palette.setColor(QPalette::AlternateBase, dark ? QColor(0x252528) : QColor(0xf6f6f6));
+  palette.setColor(QPalette::ToolTipBase, dark ? QColor(0x3a3a3d) : QColor(0xffffdc));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                          QPalette::ToolTipText, QPalette::PlaceholderText}) {
+    palette.setColor(role, text);
+  }
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, QColor(0x8c8c8c));
+  }
+  // The accent is the desktop's.
+  const QPalette present = QApplication::palette();
+  palette.setColor(QPalette::Highlight, present.color(QPalette::Highlight));
+  palette.setColor(QPalette::HighlightedText, present.color(QPalette::HighlightedText));
+  return palette;
+}
+
+}  // namespace
+
+bool hasDarkAppearance() {
+  return QApplication::palette().color(QPalette::Window).lightnessF() < 0.5F;
+}
+
+void setDarkAppearance(bool dark) {
+  if (dark != hasDarkAppearance()) QApplication::setPalette(paletteOf(dark));
+}
