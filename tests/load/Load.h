@@ -1,0 +1,45 @@
+#pragma once
+
+// How much of a load runs, and from which seed. KELDRA_LOAD=1 asks for the whole of it; without, it is a
+// share that fits among the other tests. KELDRA_LOAD_SEED repeats a run whose seed was printed.
+
+#include <QString>
+#include <QtGlobal>
+#include <iostream>
+#include <random>
+
+inline bool isWholeLoad() {
+  return qEnvironmentVariableIntValue("KELDRA_LOAD") == 1;
+}
+
+inline int loadCount(int whole, int share) {
+  return isWholeLoad() ? whole : share;
+}
+
+/// Only the whole load looks for news; among the other tests a failure must repeat by itself.
+inline quint64 loadSeed() {
+  const QString seed = qEnvironmentVariable("KELDRA_LOAD_SEED");
+  if (!seed.isEmpty()) return seed.toULongLong();
+  return isWholeLoad() ? std::random_device()() : 1;
+}
+
+inline void printLine(const QString &line) {
+  std::cout << line.toStdString() << std::endl;
+}
+
+/// Chance that is the same wherever the seed is.
+class Chance {
+ public:
+  explicit Chance(quint64 seed) : _engine(seed) {}
+
+  /// 0 to `count` - 1.
+  int below(qsizetype count) { return static_cast<int>(_engine() % static_cast<quint64>(count)); }
+  bool oneIn(int count) { return below(count) == 0; }
+  template <typename List>
+  const auto &oneOf(const List &list) {
+    return list[below(list.size())];
+  }
+
+ private:
+  std::mt19937_64 _engine;
+};
