@@ -1,0 +1,121 @@
+// The disk service dies in the middle of clicks, at any moment.
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimer>
+#include <algorithm>
+
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "disks/DiskTest.h"
+#include "disks/Program.h"
+#include "load/Load.h"
+
+namespace {
+
+/// Empty when nothing of the device is mounted.
+QString kernelMountPoint(const QString &device) {
+  QFile table("/proc/self/mountinfo");
+  if (!table.open(QIODevice::ReadOnly)) return "no mount table";
+  for (const QString &line : QString::fromUtf8(table.readAll()).split('\n')) {
+    if (line.section(" - ", 1).section(' ', 1, 1) == device) return line.section(' ', 4, 4);
+  }
+  return {};
+}
+
+class KilledService : public DiskTest {
+ public:
+  /// Whether row, platform and kernel agree about a partition.
+  bool isTrue(const Program &program, const QString &device) const {
+    const QString name = nameOf(device);
+    const ESPTableCellView *row = name.isEmpty() ? nullptr : program.rowOf(name);
+    const QString path = kernelMountPoint(device);
+    return row && mountPointOf(name) == path && !row->mountButton()->isBusy() &&
+           row->mountButton()->title() == (path.isEmpty() ? "mount " : "umount ") + name &&
+           row->openButton()->title() == "open " + (path.isEmpty() ? "(null)" : path);
+  }
+
+  /// Whether the platform has found the service again; it tells by what it says of a disk that is not there.
+  bool isReady() const {
+    DAReturn status = kDAReturnNotReady;
+    platform->diskService().mount("disk999", std::nullopt,
+                                  [&](const auto &dissenter) { status = dissenter->status; });
+    return status != kDAReturnNotReady;
+  }
+
+  /// Asks for the opposite of what is so.
+  void ask(const QString &name, DiskService::Completion completion) {
+    DiskService &service = platform->diskService();
+    if (mountPointOf(name).isEmpty()) {
+      service.mount(name, std::nullopt, std::move(completion));
+    } else {
+      service.unmount(name, DiskService::UnmountOption::Default, std::move(completion));
+    }
+  }
+};
+
+}  // namespace
+
+TEST_F(KilledService, LosesNoAnswerAndLeavesTheListTrue) {
+  constexpr int kLongestWork = 200;  // milliseconds
+  constexpr int kLongestAbsence = 300;
+  constexpr qint64 kLongestClick = 15'000;  // five seconds of it follow each refused mount
+  const quint64 seed = loadSeed();
+  const int rounds = loadCount(200, 10);
+  Chance chance(seed);
+  const QString disk = addDisk("disk", "label: gpt\ntype=U, size=24M\ntype=U, size=24M\n", 2);
+  const QString clicked = disk + "p1";
+  const QString asked = disk + "p2";
+  format(clicked, "CLICKED");
+  format(asked, "ASKED");
+  Program program(*platform);
+
+  int refusals = 0;
+  int refused = 0;
+  qint64 longest = 0;
+  std::vector<int> answers(static_cast<std::size_t>(rounds));
+  QObject observer;
+  NotificationCenter::defaultCenter().addObserver(&observer, kArbitratorNotification,
+                                                  [&](const Notification &) { ++refusals; });
+  for (int &count : answers) {
+    program.interface.forceUmountCheck()->setState(chance.oneIn(4));
+    bool isBack = false;
+    const int absence = chance.below(kLongestAbsence);
+    QTimer::singleShot(chance.below(kLongestWork), &observer, [&observer, &isBack, absence] {
+      DiskLab::killService();
+      QTimer::singleShot(absence, &observer, [&isBack] {
+        DiskLab::startService();
+        isBack = true;
+      });
+    });
+    ask(nameOf(asked), [&count](const auto &) { ++count; });
+    const int before = refusals;
+    QElapsedTimer time;
+    time.start();
+    program.click(nameOf(clicked));
+    longest = std::max(longest, time.elapsed());
+    EXPECT_LE(refusals, before + 1) << "one click, one answer";
+    refused += refusals - before;
+    ASSERT_TRUE(waitFor([&] { return isBack && count > 0 && isReady(); }))
+        << "KELDRA_LOAD_SEED=" << seed;
+    ASSERT_TRUE(waitFor([&] { return isTrue(program, clicked) && isTrue(program, asked); }))
+        << "KELDRA_LOAD_SEED=" << seed << ", round " << &count - answers.data() << ": "
+        << kernelMountPoint(clicked).toStdString() << ' ' << kernelMountPoint(asked).toStdString();
+  }
+  const auto once = std::count(answers.begin(), answers.end(), 1);
+  printLine(QStringLiteral("disk service killed %1 times, seed %2: %3 of %1 clicks refused, the "
+                           "longest %4 ms; %5 of %1 requests answered exactly once")
+                .arg(rounds)
+                .arg(seed)
+                .arg(refused)
+                .arg(longest)
+                .arg(once));
+  EXPECT_EQ(once, rounds);
+  EXPECT_LT(longest, kLongestClick);
+
+  for (const QString &device : {clicked, clicked, asked, asked}) {
+    const QString before = kernelMountPoint(device);
+    program.click(nameOf(device));
+    EXPECT_NE(kernelMountPoint(device).isEmpty(), before.isEmpty());
+    EXPECT_TRUE(isTrue(program, device));
+  }
+}
