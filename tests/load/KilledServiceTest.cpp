@@ -34,7 +34,8 @@ class KilledService : public DiskTest {
            row->openButton()->title() == "open " + (path.isEmpty() ? "(null)" : path);
   }
 
-  /// Whether the platform has found the service again; it tells by what it says of a disk that is not there.
+  /// Whether the platform has found the service again: it tells by what it says of a disk that is
+  /// not there.
   bool isReady() const {
     DAReturn status = kDAReturnNotReady;
     platform->diskService().mount("disk999", std::nullopt,

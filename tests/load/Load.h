@@ -1,7 +1,7 @@
 #pragma once
 
-// How much of a load runs, and from which seed. KELDRA_LOAD=1 asks for the whole of it; without, it is a
-// share that fits among the other tests. KELDRA_LOAD_SEED repeats a run whose seed was printed.
+// How much of a load runs, and from which seed. KELDRA_LOAD=1 asks for the whole of it; without, it
+// is a share that fits among the other tests. KELDRA_LOAD_SEED repeats a run whose seed was printed.
 
 #include <QString>
 #include <QtGlobal>
@@ -27,7 +27,7 @@ inline void printLine(const QString &line) {
   std::cout << line.toStdString() << std::endl;
 }
 
-/// Chance that is the same wherever the seed is.
+/// The same seed gives the same numbers on every system.
 class Chance {
  public:
   explicit Chance(quint64 seed) : _engine(seed) {}

@@ -1,8 +1,8 @@
 #pragma once
 
-// What a machine and the program's table ought to be: plain values with rules of their own, which ask
-// neither the simulated platform nor the program anything. Whatever is done to the one is done to the
-// other by the same name; see SimulatedPlatform for what these operations mean.
+// What a machine and the program's table ought to be: plain values with rules of their own, which
+// ask neither the simulated platform nor the program anything. What is done to the platform is done
+// to the model by the same name; see SimulatedPlatform for what these operations mean.
 
 #include <QMap>
 #include <functional>
