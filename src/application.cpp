@@ -65,6 +65,7 @@ void configureApplication() {
 void connectOutlets(MainInterface &interface, AppDelegate &delegate) {
   delegate.setMenu(interface.menu());
   delegate.setWindow(interface.window());
+  delegate.setInfoWindow(interface.infoWindow());
   delegate.setPopover(interface.popover());
   delegate.setTableView(interface.tableView());
   delegate.setEmptyView(interface.emptyView());
@@ -79,6 +80,10 @@ void connectOutlets(MainInterface &interface, AppDelegate &delegate) {
                    [&] { delegate.showAllDisks(interface.showAllDisksCheck()); });
   QObject::connect(interface.runAtLoadCheck(), &CheckBox::acted, &delegate,
                    [&] { delegate.runAtLoad(interface.runAtLoadCheck()); });
+  QObject::connect(interface.infoButton(), &QPushButton::clicked, &delegate,
+                   &AppDelegate::showInfo);
+  QObject::connect(interface.webSiteButton(), &QPushButton::clicked, &delegate,
+                   &AppDelegate::visitWebSite);
   QObject::connect(interface.quitButton(), &QPushButton::clicked, &delegate, quit);
   QObject::connect(interface.quitAction(), &QAction::triggered, &delegate, quit);
   QObject::connect(interface.openAction(), &QAction::triggered, &delegate,

@@ -26,6 +26,7 @@
 
 class CheckBox;
 class EmptyView;
+class InfoWindow;
 class Platform;
 class QMenu;
 class RowButton;
@@ -64,6 +65,8 @@ class AppDelegate : public QObject,
   void setStatusTextField(TextField *field) { _statusTextField = field; }
   QWidget *window() const { return _window; }
   void setWindow(QWidget *window) { _window = window; }
+  InfoWindow *infoWindow() const { return _infoWindow; }
+  void setInfoWindow(InfoWindow *window) { _infoWindow = window; }
   /// What stands in the table's place while it has no rows.
   EmptyView *emptyView() const { return _emptyView; }
   void setEmptyView(EmptyView *view) { _emptyView = view; }
@@ -124,6 +127,11 @@ class AppDelegate : public QObject,
   void popoverDidShow() override;
   void popoverWillClose() override;
 
+  /// Shows what the program is and what it stands on.
+  void showInfo();
+  /// Opens the project's page in the browser.
+  void visitWebSite();
+
   /// Puts the picture that suits the interface style and the screen on the status item.
   void darkModeAndRetina();
 
@@ -161,6 +169,7 @@ class AppDelegate : public QObject,
   CheckBox *_forceUmountCheck = nullptr;
   EmptyView *_emptyView = nullptr;
   QWidget *_window = nullptr;
+  InfoWindow *_infoWindow = nullptr;
 
   /// The partition whose row action is under way.
   std::optional<QString> _busyPartition;

@@ -5,6 +5,7 @@
 
 #include "Interface/EmptyView.h"
 #include "Interface/Hairline.h"
+#include "Interface/InfoWindow.h"
 #include "Interface/Look.h"
 #include "Interface/QuietButton.h"
 
@@ -18,7 +19,8 @@ static void registerPictures() {
 MainInterface::MainInterface()
     : _menu(std::make_unique<QMenu>()),
       _popover(std::make_unique<Popover>()),
-      _window(std::make_unique<QWidget>()) {
+      _window(std::make_unique<QWidget>()),
+      _infoWindow(std::make_unique<InfoWindow>()) {
   registerPictures();
   _popover->setWindowTitle(u"Keldra"_s);
   _popover->setWindowIcon(QIcon(u":/Keldra.png"_s));
@@ -79,6 +81,8 @@ QWidget *MainInterface::makeFoot() {
   auto *foot = new QWidget;
   const Look look(foot);
   _versionLabel = new TextField;
+  _infoButton = new QuietButton(u"Info"_s);
+  _webSiteButton = new QuietButton(u"Web site"_s);
   _quitButton = new QuietButton(u"Quit"_s);
 
   auto *layout = new QHBoxLayout(foot);
@@ -87,6 +91,8 @@ QWidget *MainInterface::makeFoot() {
                              look.scaled(5));
   layout->setSpacing(look.scaled(2));
   layout->addWidget(_versionLabel, 1);
+  layout->addWidget(_infoButton);
+  layout->addWidget(_webSiteButton);
   layout->addWidget(_quitButton);
   return foot;
 }

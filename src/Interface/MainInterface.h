@@ -17,6 +17,7 @@
 #include "Interface/TextField.h"
 
 class EmptyView;
+class InfoWindow;
 class QPushButton;
 
 class MainInterface {
@@ -36,10 +37,14 @@ class MainInterface {
   CheckBox *runAtLoadCheck() const { return _runAtLoadCheck; }
   TextField *statusTextField() const { return _statusTextField; }
   TextField *versionLabel() const { return _versionLabel; }
+  QPushButton *infoButton() const { return _infoButton; }
+  QPushButton *webSiteButton() const { return _webSiteButton; }
   QPushButton *quitButton() const { return _quitButton; }
 
   /// Never shown by the program itself.
   QWidget *window() const { return _window.get(); }
+
+  InfoWindow *infoWindow() const { return _infoWindow.get(); }
 
   QMenu *menu() const { return _menu.get(); }
   QAction *openAction() const { return _openAction; }
@@ -54,6 +59,7 @@ class MainInterface {
   std::unique_ptr<QMenu> _menu;
   std::unique_ptr<Popover> _popover;
   std::unique_ptr<QWidget> _window;
+  std::unique_ptr<InfoWindow> _infoWindow;
   // In the popover's content, which owns them:
   TableView *_tableView = nullptr;
   EmptyView *_emptyView = nullptr;
@@ -62,6 +68,8 @@ class MainInterface {
   CheckBox *_runAtLoadCheck = nullptr;
   TextField *_statusTextField = nullptr;
   TextField *_versionLabel = nullptr;
+  QPushButton *_infoButton = nullptr;
+  QPushButton *_webSiteButton = nullptr;
   QPushButton *_quitButton = nullptr;
   // In the menu:
   QAction *_openAction = nullptr;

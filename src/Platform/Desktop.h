@@ -6,15 +6,20 @@
 //
 // All of it lives on the main thread, and nothing throws.
 
+#include <QList>
 #include <QObject>
 #include <QRect>
 #include <QString>
 #include <QVariant>
 #include <functional>
 #include <memory>
+#include <utility>
 
 class QIcon;
 class QMenu;
+
+/// Subjects and what there is to say about each: "Tray", "StatusNotifierItem".
+using Facts = QList<std::pair<QString, QString>>;
 
 /// The program's item in the tray. It shows from its first image on; where there is no tray yet,
 /// once there is one, however late, and again when the tray has been restarted.
@@ -31,6 +36,9 @@ class TrayItem : public QObject {
   /// Where the item is on the screen; null while the desktop does not tell. That may be the place
   /// of the last click on it.
   virtual QRect place() const = 0;
+
+  /// Which kind of tray shows it, in words; empty while none is known.
+  virtual QString kind() const = 0;
 
   /// Says something in the tray's own way, for a desktop without another.
   virtual void showMessage(const QString &title, const QString &text) = 0;
@@ -61,6 +69,9 @@ class Desktop : public QObject {
   /// What the user's defaults hold under "AppleInterfaceStyle": the text "Dark" for a dark
   /// interface; no value, or any other, for a light one. Does not wait.
   virtual QVariant interfaceStyle() const = 0;
+
+  /// What it is and which of its ways are in use, for a report of a fault.
+  virtual Facts facts() const = 0;
 
   /// Tells a person who is not looking at the program. Does not wait; where the desktop has nobody
   /// to tell it, `item` does.

@@ -38,6 +38,9 @@ class DiskService {
 
   virtual Presence presence() const = 0;
 
+  /// What it is, for a report of a fault: "UDisks2 2.9.4". Without a number while it is not known.
+  virtual QString name() const = 0;
+
   /// What is known of a whole disk or partition, true at the moment of the question, also as to
   /// whether and where it is mounted. Absent for a name that the service does not know.
   virtual std::optional<DiskDescription> descriptionOfMedia(const QString &bsdName) const = 0;

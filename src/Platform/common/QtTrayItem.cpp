@@ -15,6 +15,11 @@ void QtTrayItem::setImage(const QIcon &image) {
   _icon.show();
 }
 
+QString QtTrayItem::kind() const {
+  return QSystemTrayIcon::isSystemTrayAvailable() ? QStringLiteral("the window system's")
+                                                  : QStringLiteral("none yet");
+}
+
 void QtTrayItem::showMessage(const QString &title, const QString &text) {
   _icon.showMessage(title, text, _icon.icon());
 }

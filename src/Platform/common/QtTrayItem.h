@@ -13,6 +13,7 @@ class QtTrayItem final : public TrayItem {
   void setImage(const QIcon &image) override;
   void setMenu(QMenu *menu) override { _icon.setContextMenu(menu); }
   QRect place() const override { return _icon.geometry(); }
+  QString kind() const override;
   void showMessage(const QString &title, const QString &text) override;
 
  private:

@@ -62,6 +62,12 @@ void LinuxDiskService::refresh() const {
   }
 }
 
+QString LinuxDiskService::name() const {
+  const ServiceObject manager = _tree.objects().value(u"/org/freedesktop/UDisks2/Manager"_s);
+  const auto version = manager.text(u"org.freedesktop.UDisks2.Manager"_s, u"Version"_s);
+  return (u"UDisks2 "_s + version.value_or(QString())).trimmed();
+}
+
 std::optional<DiskDescription> LinuxDiskService::describe(const Medium *medium) const {
   if (medium == nullptr) return std::nullopt;
   return _mounted.value(medium->device, medium->description);

@@ -22,6 +22,7 @@ class LinuxDiskService final : public QObject, public DiskService, public MediaR
   LinuxDiskService(const QDBusConnection &connection, UnitNumbers units,
                    NotificationCenter &workspace);
 
+  QString name() const override;
   Presence presence() const override { return _tree.presence(); }
   std::optional<DiskDescription> descriptionOfMedia(const QString &bsdName) const override;
   std::optional<DiskDescription> descriptionOfVolume(const QString &mountPoint) const override;

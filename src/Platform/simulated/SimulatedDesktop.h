@@ -18,6 +18,7 @@ class SimulatedTrayItem final : public TrayItem {
   void setImage(const QIcon &image) override { shownImage = image; }
   void setMenu(QMenu *menu) override { shownMenu = menu; }
   QRect place() const override { return shownAt; }
+  QString kind() const override { return QStringLiteral("simulated"); }
   void showMessage(const QString & /*title*/, const QString & /*text*/) override {}
 
   QIcon shownImage;
@@ -31,6 +32,7 @@ class SimulatedDesktop final : public Desktop {
   std::unique_ptr<EventMonitor> addGlobalMonitor(std::function<void()> handler) override;
   void notify(const QString &title, const QString &text, TrayItem &item) override;
   QVariant interfaceStyle() const override { return style; }
+  Facts facts() const override { return {{QStringLiteral("Tray"), QStringLiteral("simulated")}}; }
   bool becomeOnlyInstance() override { return true; }
 
   // What happens on it.
@@ -39,7 +41,7 @@ class SimulatedDesktop final : public Desktop {
 
   QPointer<SimulatedTrayItem> item;  // the last that was made
   QVariant style;
-  int monitors = 0;                  // that live
+  int monitors = 0;  // that live
   QStringList notifications;
 
  private:

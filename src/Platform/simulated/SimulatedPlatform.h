@@ -55,6 +55,7 @@ class SimulatedPlatform final : public Platform, public DiskService, public Medi
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
   Presence presence() const override { return _machine.presence; }
+  QString name() const override { return QStringLiteral("a simulated machine"); }
   std::optional<DiskDescription> descriptionOfMedia(const QString &bsdName) const override;
   std::optional<DiskDescription> descriptionOfVolume(const QString &mountPoint) const override;
   void mount(const QString &bsdName, const std::optional<QString> &path,

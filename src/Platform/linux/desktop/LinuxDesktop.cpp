@@ -54,6 +54,12 @@ class LinuxDesktop final : public Desktop {
     return dark ? QVariant(QStringLiteral("Dark")) : QVariant();
   }
 
+  Facts facts() const override {
+    return {{tr("Tray"), _trayItem ? _trayItem->kind() : QString()},
+            {tr("Windows"), QGuiApplication::platformName()},
+            {tr("Desktop"), qEnvironmentVariable("XDG_CURRENT_DESKTOP")}};
+  }
+
   bool eventFilter(QObject *watched, QEvent *event) override {
     const bool mayMatter = _scheme.preference() == ColorScheme::Preference::None;
     if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange && mayMatter) {

@@ -46,6 +46,10 @@ QRect LinuxTrayItem::place() const {
   return _item ? _item->place() : QRect();
 }
 
+QString LinuxTrayItem::kind() const {
+  return _item ? _item->kind() : QString();
+}
+
 void LinuxTrayItem::showMessage(const QString &title, const QString &text) {
   if (_item) _item->showMessage(title, text);
 }

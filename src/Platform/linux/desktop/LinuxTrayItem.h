@@ -21,6 +21,7 @@ class LinuxTrayItem final : public TrayItem {
   void setImage(const QIcon &image) override;
   void setMenu(QMenu *menu) override;
   QRect place() const override;
+  QString kind() const override;
   void showMessage(const QString &title, const QString &text) override;
 
  private:

@@ -30,6 +30,7 @@ class NotifierItem final : public TrayItem {
   void setMenu(QMenu *menu) override;
   /// The place of the last click.
   QRect place() const override { return _place; }
+  QString kind() const override { return QStringLiteral("StatusNotifierItem"); }
   /// Panels have no messages of their own.
   void showMessage(const QString &, const QString &) override {}
 

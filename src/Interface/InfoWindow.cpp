@@ -1,0 +1,120 @@
+#include "Interface/InfoWindow.h"
+
+#include <QClipboard>
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "Interface/Look.h"
+#include "Interface/PlainText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLabel *makeTitle(QWidget *window) {
+  const Look look(window);
+  auto *title = new QLabel(QGuiApplication::applicationDisplayName(), window);
+  QFont font = look.titleFont();
+  font.setPointSizeF(font.pointSizeF() * 1.6);
+  title->setFont(font);
+  return title;
+}
+
+QLabel *makePicture(QWidget *window) {
+  auto *picture = new QLabel(window);
+  const int side = Look(window).scaled(64);
+  picture->setPixmap(QIcon(u":/Keldra.png"_s).pixmap(side));
+  picture->setAccessibleName(QGuiApplication::applicationDisplayName());
+  return picture;
+}
+
+// To be selected with the mouse, and by the keyboard.
+QLabel *makeValue(const QString &text) {
+  auto *value = new QLabel(printable(text));
+  value->setTextFormat(Qt::PlainText);
+  value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  value->setFocusPolicy(Qt::ClickFocus);
+  value->setWordWrap(true);
+  return value;
+}
+
+}  // namespace
+
+InfoWindow::InfoWindow(QWidget *parent) : QWidget(parent, Qt::Dialog) {
+  setWindowTitle(tr("About Keldra"));
+  const Look look(this);
+  auto *head = new QHBoxLayout;
+  head->setSpacing(look.margin());
+  head->addWidget(makePicture(this));
+  auto *words = new QVBoxLayout;
+  words->setSpacing(look.scaled(2));
+  words->addStretch();
+  words->addWidget(makeTitle(this));
+  words->addWidget(new QLabel(tr("EFI System Partitions, one click away"), this));
+  words->addStretch();
+  head->addLayout(words, 1);
+
+  auto *copy = new QPushButton(tr("&Copy"), this);
+  copy->setToolTip(tr("Copies all of it as text, for a report of a fault"));
+  connect(copy, &QPushButton::clicked, this,
+          [this] { QGuiApplication::clipboard()->setText(text()); });
+  auto *closeButton = new QPushButton(tr("C&lose"), this);
+  closeButton->setDefault(true);
+  connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
+  auto *buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(copy);
+  buttons->addWidget(closeButton);
+
+  _table = new QWidget(this);
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(look.scaled(24), look.scaled(20), look.scaled(24), look.scaled(20));
+  layout->setSpacing(look.margin());
+  layout->addLayout(head);
+  layout->addWidget(_table, 1);
+  layout->addLayout(buttons);
+  setMinimumWidth(look.scaled(420));
+}
+
+void InfoWindow::setFacts(const Facts &facts) {
+  _facts = facts;
+  delete _rows;
+  qDeleteAll(_table->findChildren<QLabel *>());
+  _rows = new QFormLayout(_table);
+  _rows->setContentsMargins(0, 0, 0, 0);
+  _rows->setHorizontalSpacing(Look(this).margin());
+  for (const auto &[subject, value] : facts) _rows->addRow(subject, makeValue(value));
+  adjustSize();
+}
+
+QString InfoWindow::text() const {
+  QStringList lines;
+  for (const auto &[subject, value] : _facts) lines += subject + u": "_s + printable(value);
+  return lines.join(u'\n');
+}
+
+void InfoWindow::makeKeyAndOrderFront() {
+  show();
+  raise();
+  activateWindow();
+}
+
+void InfoWindow::center() {
+  QRect place = frameGeometry();
+  place.moveCenter(screen()->availableGeometry().center());
+  move(place.topLeft());
+}
+
+void InfoWindow::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Escape) {
+    close();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}

@@ -1,0 +1,30 @@
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QPushButton>
+
+#include "Interface/InfoWindow.h"
+#include "support/OpenedFolders.h"
+#include "support/TestMachine.h"
+
+TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
+  TestMachine machine(twoEspMachine());
+  QTest::mouseClick(machine.interface.infoButton(), Qt::LeftButton);
+  InfoWindow *window = machine.interface.infoWindow();
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_TRUE((window->frameGeometry().center() - window->screen()->availableGeometry().center())
+                  .manhattanLength() <= 2);
+  for (QPushButton *button : window->findChildren<QPushButton *>()) {
+    if (button->text() == "&Copy") button->click();
+  }
+  const QString copied = QGuiApplication::clipboard()->text();
+  for (const char *fact : {"Version: Keldra v1.6", "Licence: MIT", "Stands on: Qt 6",
+                           "Tray: simulated", "Disk service: a simulated machine, answers"}) {
+    EXPECT_TRUE(copied.contains(fact)) << fact << "\nin\n" << copied.toStdString();
+  }
+  machine.platform.setPresence(DiskService::Presence::Absent);
+  machine.delegate.showInfo();
+  EXPECT_TRUE(window->text().contains("a simulated machine, not there")) << "asked anew";
+  QTest::keyClick(window, Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+}
