@@ -9,8 +9,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString kMountTableFile = u"/proc/self/mountinfo"_s;
-
 // A disk and its partitions are announced, and a changed partition table read anew, in waves.
 constexpr auto kWave = 3ms;
 
@@ -26,11 +24,11 @@ DiskDescription mountedAt(const Medium &medium, const QString &mountPoint) {
 }  // namespace
 
 LinuxDiskService::LinuxDiskService(const QDBusConnection &connection, UnitNumbers units,
-                                   NotificationCenter &workspace)
+                                   const QString &mountTable, NotificationCenter &workspace)
     : _workspace(workspace),
       _tree(connection),
       _requests(_tree),
-      _mounts(kMountTableFile),
+      _mounts(mountTable),
       _media(std::move(units)) {
   refresh();
   _events.accept(_mounts, _media);

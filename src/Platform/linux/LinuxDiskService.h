@@ -18,8 +18,9 @@
 
 class LinuxDiskService final : public QObject, public DiskService, public MediaRegistry {
  public:
-  /// News are posted to `workspace`, which must outlive this.
-  LinuxDiskService(const QDBusConnection &connection, UnitNumbers units,
+  /// `mountTable` is the file in which the kernel tells what is mounted. News are posted to
+  /// `workspace`, which must outlive this.
+  LinuxDiskService(const QDBusConnection &connection, UnitNumbers units, const QString &mountTable,
                    NotificationCenter &workspace);
 
   QString name() const override;

@@ -54,7 +54,8 @@ class LinuxPlatform final : public Platform {
       : _systemFiles(systemFilesRoot()),
         _loginItems(XdgLoginItems::ofThisUser()),
         _userDefaults(settingsFile()),
-        _disks(QDBusConnection::systemBus(), sharedUnitNumbers(), _workspace) {}
+        _disks(QDBusConnection::systemBus(), sharedUnitNumbers(), u"/proc/self/mountinfo"_s,
+               _workspace) {}
 
   DiskService &diskService() override { return _disks; }
   MediaRegistry &mediaRegistry() override { return _disks; }

@@ -161,29 +161,3 @@ TEST_F(MediaCatalogTest, WaitsForTheDiskOfAPartition) {
   EXPECT_TRUE(update(disk));
   EXPECT_EQ(catalog.names(), QStringList{});
 }
-
-TEST_F(MediaCatalogTest, SurvivesPropertiesOfWrongTypesAndMissingOnes) {
-  const auto disk = machine.addDisk("sda", 1);
-  const auto partition = machine.addPartition(disk, 1, kEspType, "");
-  machine.objects["/empty"];
-  machine.addPartition("/nowhere", 4, kEspType, "");
-  machine.addPartition(partition, 5, kEspType, "");
-  machine.addPartition(disk, 1, kEspType, "");
-  for (const char *property :
-       {"IdLabel", "IdType", "IdUsage", "IdUUID", "ReadOnly", "Drive", "PreferredDevice"}) {
-    machine.set(partition, kBlockInterface, property, 12.5);
-  }
-  for (const char *property : {"Type", "Name", "UUID"}) {
-    machine.set(partition, kPartitionInterface, property, 3U);
-  }
-  update();
-  EXPECT_EQ(catalog.names(), (QStringList{"disk0", "disk0s1"}));
-  machine.set(partition, kBlockInterface, "PreferredDevice", QByteArray("/dev/without-nul"));
-  update(partition);
-  EXPECT_EQ(value("disk0s1", kDiskDescriptionDeviceNodeKey), "/dev/without-nul");
-  machine.set(partition, kPartitionInterface, "Number", "one");
-  update(partition);
-  machine.set(disk, kBlockInterface, "Size", "big");
-  update(disk);
-  EXPECT_EQ(catalog.names(), QStringList{});
-}

@@ -1,0 +1,21 @@
+#pragma once
+
+// A message bus of the test's own: no other program is on it, and it starts none. It ends with this
+// object, and with the process however that ends.
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+class PrivateBus {
+ public:
+  /// Blocks until the bus answers. Fails the test if it does not.
+  PrivateBus();
+  ~PrivateBus();
+
+  const QString &address() const { return _address; }
+
+ private:
+  QTemporaryDir _folder;
+  QProcess _daemon;
+  QString _address;
+};

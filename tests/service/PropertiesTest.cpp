@@ -1,0 +1,142 @@
+// Properties that make no sense, objects that lack their other half, bytes that are no text.
+
+#include <QDBusSignature>
+#include <QDBusVariant>
+#include <QUrl>
+
+#include "service/ServiceTest.h"
+
+namespace {
+
+const QVariantList kWrongValues = {
+    "17",
+    QByteArray("/dev/\xff\xfe"),
+    true,
+    -1,
+    qint64{-1},
+    short{3},
+    12.5,
+    link("/org/freedesktop/UDisks2/block_devices/sda"),
+    QVariant::fromValue(QDBusSignature("a{sv}")),
+    QVariant::fromValue(QDBusVariant(QVariant::fromValue(QDBusVariant("text")))),
+    QStringList{"a", "list"},
+    QVariantMap{{"a", "map"}},
+    QVariantList{1, "two", 3.0},
+    QVariant::fromValue(QByteArrayList{"\x80", ""}),
+};
+
+class Properties : public ServiceTest {
+ public:
+  void SetUp() override {
+    const QString loop = service.addDisk("loop0", 32);
+    service.tree[loop][kLoopInterface] = {{"BackingFile", QByteArray("/images/file.img\0", 17)}};
+    service.appear();
+    startProgram();
+    ASSERT_TRUE(waitFor([&] { return names().size() == 4; }));
+  }
+};
+
+}  // namespace
+
+TEST_F(Properties, OfAWrongTypeAreAsGoodAsNone) {
+  const auto right = everything();
+  const auto tree = service.tree;
+  for (auto object = tree.begin(); object != tree.end(); ++object) {
+    for (auto interface = object->begin(); interface != object->end(); ++interface) {
+      for (auto property = interface->begin(); property != interface->end(); ++property) {
+        SCOPED_TRACE((object.key() + ' ' + property.key()).toStdString());
+        const auto set = [&](const QVariant &value) {
+          service.change(object.key(), interface.key(), property.key(), value);
+        };
+        service.invalidate(object.key(), interface.key(), property.key());
+        settle();
+        const auto without = everything();
+        for (const QVariant &wrong : kWrongValues) {
+          if (wrong.metaType() == property->metaType()) continue;
+          set(*property);
+          set(wrong);
+          settle();
+          EXPECT_EQ(everything(), without) << wrong.typeName();
+        }
+        set(*property);
+        settle();
+        EXPECT_EQ(everything(), right);
+      }
+    }
+  }
+}
+
+TEST_F(Properties, MayHoldBytesThatAreNoText) {
+  const QByteArray bytes = "/dev/\xff\xc3(\xed\xa0\x80%1&<b>\n";
+  const QString text = QString::fromUtf8(bytes);
+  for (const QByteArray &ending : {QByteArray(), QByteArray("\0", 1), QByteArray("\0rest", 5)}) {
+    const QString loop = kServiceRoot + "/block_devices/loop0";
+    service.change(loop, kLoopInterface, "BackingFile", bytes + ending);
+    service.change(loop, kBlockInterface, "PreferredDevice", bytes + ending);
+    service.change(esp, kBlockInterface, "Device", bytes + ending);
+    service.change(esp, kBlockInterface, "PreferredDevice", QByteArray("\0", 1));
+    service.change(data, kFilesystemInterface, "MountPoints",
+                   QVariant::fromValue(QByteArrayList{bytes + ending, "", "relative"}));
+    settle();
+    EXPECT_EQ(value("disk1", kDADiskDescriptionMediaNameKey), text.section('/', -1));
+    EXPECT_EQ(value("disk1", kDiskDescriptionDeviceNodeKey), text);
+    EXPECT_EQ(value("disk0s1", kDiskDescriptionDeviceNodeKey), text);
+    EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumePathKey), QUrl::fromLocalFile(mountPoint));
+  }
+}
+
+TEST_F(Properties, MayLackTheirOtherHalf) {
+  const auto right = everything();
+  const auto tree = service.tree;
+  const auto without = [&](const QString &path, const QString &interface) {
+    return [=, this] { service.remove(path, {interface}); };
+  };
+  const auto onDisk = [&](const QString &partition, const QString &table) {
+    return [=, this] { service.change(partition, kPartitionInterface, "Table", link(table)); };
+  };
+  const struct {
+    const char *what;
+    std::function<void()> happens;
+    QStringList left;
+  } kCases[] = {
+      {"a block that is a partition no more",
+       without(esp, kPartitionInterface),
+       {"disk0", "disk0s2", "disk1", "disk2"}},
+      {"a partition without a block", without(esp, kBlockInterface), {"disk0", "disk0s2", "disk1"}},
+      {"a disk without a block", without(disk, kBlockInterface), {"disk1"}},
+      {"a disk without a table",
+       without(disk, kPartitionTableInterface),
+       {"disk0", "disk0s1", "disk0s2", "disk1"}},
+      {"a table that is not there", onDisk(esp, "/nowhere"), {"disk0", "disk0s2", "disk1"}},
+      {"no table", onDisk(esp, "/"), {"disk0", "disk0s2", "disk1"}},
+      {"a partition on itself", onDisk(esp, esp), {"disk0", "disk0s2", "disk1"}},
+      {"partitions on each other",
+       [&] { onDisk(esp, data)(), onDisk(data, esp)(); },
+       {"disk0", "disk1"}},
+      {"a drive that is not there",
+       [&] { service.change(disk, kBlockInterface, "Drive", link("/nowhere")); },
+       {"disk0", "disk0s1", "disk0s2", "disk1"}},
+      {"a file system without a block",
+       [&] {
+         service.add("/alone", {{kFilesystemInterface, {}}, {"com.example.Odd", {}}});
+       },
+       {"disk0", "disk0s1", "disk0s2", "disk1"}},
+      {"two partitions of one number",
+       [&] { service.change(data, kPartitionInterface, "Number", 1U); },
+       {"disk0", "disk0s1", "disk1"}},
+  };
+  for (const auto &each : kCases) {
+    SCOPED_TRACE(each.what);
+    each.happens();
+    settle();
+    EXPECT_EQ(names(), each.left);
+    for (const QString &path : service.tree.keys()) {
+      if (service.tree[path] != tree.value(path)) service.remove(path);
+    }
+    for (const QString &path : tree.keys()) {
+      if (!service.tree.contains(path)) service.add(path, tree[path]);
+    }
+    settle();
+    EXPECT_EQ(everything(), right);
+  }
+}

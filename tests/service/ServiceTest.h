@@ -1,0 +1,66 @@
+#pragma once
+
+// A test with the real backend on a private bus, and a disk service there that is in the test's
+// hand.
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <functional>
+#include <memory>
+
+#include "Foundation/NotificationCenter.h"
+#include "Platform/linux/LinuxDiskService.h"
+#include "service/MockDiskService.h"
+#include "service/PrivateBus.h"
+
+/// The statuses with which a request was completed: one, if all is well.
+using Answers = std::shared_ptr<QList<DAReturn>>;
+
+class ServiceTest : public testing::Test {
+ public:
+  ServiceTest();
+  ~ServiceTest() override;
+
+  static bool waitFor(const std::function<bool()> &condition) {
+    return QTest::qWaitFor(condition, 10000);
+  }
+  /// Until whatever the service and the program have to say to each other has been heard and acted
+  /// upon, by both.
+  void settle();
+
+  /// Makes the backend; it is the program that the service hears of.
+  void startProgram();
+  /// The service appears, and the backend has its tree.
+  void start();
+
+  QStringList names() const { return disks->mediaNames(); }
+  QVariant value(const QString &name, const QString &key) const;
+  /// All that can be known of all disks.
+  QList<DiskDescription> everything() const;
+
+  Answers mount(const QString &name);
+  Answers unmount(const QString &name,
+                  DiskService::UnmountOption option = DiskService::UnmountOption::Default);
+
+  PrivateBus bus;
+  MockDiskService service{bus.address()};
+  // On disk0: an ESP, and a partition that the kernel has mounted at `mountPoint`.
+  const QString disk = service.addDisk("sda", 16);
+  const QString esp = service.addPartition(disk, 1, 17);
+  const QString data = service.addPartition(disk, 2, 18);
+  const QTemporaryDir folder;
+  const QString mountPoint = folder.path();
+
+  QDBusConnection connection = QDBusConnection::connectToBus(bus.address(), "program");
+  NotificationCenter workspace;
+  std::unique_ptr<LinuxDiskService> disks;
+  /// "+PATH", "-PATH" or "~PATH" for a mount, an unmount or a rename; "changed" for an event
+  /// without a path.
+  QStringList events;
+
+ private:
+  static DiskService::Completion noteIn(const Answers &answers);
+
+  QObject _observer;
+};

@@ -1,0 +1,91 @@
+// Signals that are malformed, or not the service's own.
+
+#include "service/ServiceTest.h"
+
+namespace {
+
+class Signals : public ServiceTest {
+ public:
+  void SetUp() override { start(); }
+};
+
+QDBusMessage ownerChanged(const QVariantList &arguments) {
+  auto message = QDBusMessage::createSignal("/org/freedesktop/DBus", "org.freedesktop.DBus",
+                                            "NameOwnerChanged");
+  message.setArguments(arguments);
+  return message;
+}
+
+// Signals to everybody are filtered by the bus, those to one alone are not.
+QDBusMessage toOneAlone(const QString &address, const QDBusMessage &signal) {
+  auto message = QDBusMessage::createTargetedSignal(address, signal.path(), signal.interface(),
+                                                    signal.member());
+  message.setArguments(signal.arguments());
+  return message;
+}
+
+}  // namespace
+
+TEST_F(Signals, ThatAreMalformedOrOfNothingChangeNothing) {
+  const auto right = everything();
+  const QVariantMap label{{"IdLabel", "Other"}};
+  const QVariant noInterfaces = QVariant::fromValue(InterfaceMap());
+  const QStringList none;
+  for (const QDBusMessage &message :
+       {interfacesAdded({}),
+        interfacesAdded({link(disk)}),
+        interfacesAdded({disk, noInterfaces}),
+        interfacesAdded({link(disk), label}),
+        interfacesAdded({link(disk), noInterfaces, 1}),
+        interfacesAdded({link("/new"), noInterfaces}),
+        interfacesAdded(
+            {link(kServiceRoot + "/jobs/1"), QVariant::fromValue(InterfaceMap{{"a.b", {}}})}),
+        interfacesRemoved({}),
+        interfacesRemoved({link(disk)}),
+        interfacesRemoved({disk, QStringList{kBlockInterface}}),
+        interfacesRemoved({link(disk), kBlockInterface}),
+        interfacesRemoved({link(disk), none}),
+        interfacesRemoved({link("/nowhere"), QStringList{kBlockInterface}}),
+        propertiesChanged(data, {}),
+        propertiesChanged(data, {kBlockInterface}),
+        propertiesChanged(data, {kBlockInterface, label}),
+        propertiesChanged(data, {kBlockInterface, label, "a text"}),
+        propertiesChanged(data, {kBlockInterface, QStringList{"IdLabel"}, none}),
+        propertiesChanged(data, {"com.example.Other", label, none}),
+        propertiesChanged("/nowhere", {kBlockInterface, label, none})}) {
+    service.say(message);
+    settle();
+    EXPECT_EQ(everything(), right) << qPrintable(QDebug::toString(message));
+  }
+}
+
+TEST_F(Signals, OfOthersAreNotHeeded) {
+  const auto right = everything();
+  const Answers waiting = mount("disk0s1");
+  settle();
+  auto other = QDBusConnection::connectToBus(bus.address(), "other");
+  MockDiskService forger(bus.address());
+  const QString forged = forger.addDisk("sdz", 99);
+  const QStringList none;
+  for (const QDBusMessage &signal :
+       {interfacesRemoved({link(disk), QStringList{kBlockInterface}}),
+        interfacesAdded({link(forged), QVariant::fromValue(forger.tree[forged])}),
+        propertiesChanged(data, {kBlockInterface, QVariantMap{{"IdLabel", "Forged"}}, none}),
+        ownerChanged({kDiskServiceName, service.address(), ""}),
+        ownerChanged({kDiskServiceName, service.address(), other.baseService()})}) {
+    other.send(signal);
+    other.send(toOneAlone(connection.baseService(), signal));
+  }
+  // What the other one has sent is at the bus when this is answered.
+  other.call(
+      QDBusMessage::createMethodCall("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetId"));
+  settle();
+  EXPECT_EQ(everything(), right);
+  EXPECT_EQ(*waiting, QList<DAReturn>{});
+  EXPECT_EQ(disks->presence(), DiskService::Presence::Answering);
+  EXPECT_EQ(events, QStringList{});
+  service.answer(service.take("Mount"));
+  settle();
+  EXPECT_EQ(*waiting, QList{kDAReturnSuccess});
+  QDBusConnection::disconnectFromBus("other");
+}
