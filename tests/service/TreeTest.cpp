@@ -86,6 +86,9 @@ TEST_F(Tree, ThatIsRefusedOrMakesNoSenseIsNone) {
     reply(questionForTheTree());
     settle();
     EXPECT_EQ(disks->presence(), Presence::Absent);
+    service.add(disk, service.tree[disk]);
+    settle();
+    EXPECT_EQ(names(), QStringList{}) << "half a tree";
     EXPECT_EQ(*mount("disk0"), Statuses{kDAReturnNotReady});
     service.die();
   }

@@ -164,6 +164,8 @@ void ServiceTree::noteChange(const QString &path) {
 
 void ServiceTree::addInterfaces(const QDBusMessage &message) {
   if (message.signature() != "oa{sa{sv}}"_L1) return;
+  // What comes before the tree is in it; without one, it would be shown as though it were all.
+  if (_presence != DiskService::Presence::Answering) return;
   const QString path = message.arguments().at(0).value<QDBusObjectPath>().path();
   if (isJob(path)) return;
   _objects[path].add(qdbus_cast<InterfaceMap>(message.arguments().at(1)));
