@@ -113,6 +113,11 @@ TEST_F(Properties, MayLackTheirOtherHalf) {
       {"partitions on each other",
        [&] { onDisk(esp, data)(), onDisk(data, esp)(); },
        {"disk0", "disk1"}},
+      {"a disk that becomes a partition of itself",
+       [&] {
+         service.add(disk, {{kPartitionInterface, {{"Number", 9U}, {"Table", link(disk)}}}});
+       },
+       {"disk1"}},
       {"a drive that is not there",
        [&] { service.change(disk, kBlockInterface, "Drive", link("/nowhere")); },
        {"disk0", "disk0s1", "disk0s2", "disk1"}},

@@ -22,10 +22,19 @@ WholeDisk wholeDisk(const ServiceObject &block) {
   return {kernelNameOf(block), block.number(kBlockInterface, u"DeviceNumber"_s).value_or(0)};
 }
 
+}  // namespace
+
+bool MediaCatalog::isKnownDisk(const QString &path) const {
+  const auto medium = _media.find(path);
+  return medium != _media.end() && medium->second.slice == 0;
+}
+
 // A partition is called after its disk, and both tell of their drive.
-QSet<QString> withDependants(const ServiceObjects &objects, QSet<QString> changed) {
-  const bool onlyPartitions = std::ranges::all_of(
-      changed, [&](const QString &path) { return objects.value(path).has(kPartitionInterface); });
+QSet<QString> MediaCatalog::withDependants(const ServiceObjects &objects,
+                                           QSet<QString> changed) const {
+  const bool onlyPartitions = std::ranges::all_of(changed, [&](const QString &path) {
+    return objects.value(path).has(kPartitionInterface) && !isKnownDisk(path);
+  });
   if (onlyPartitions) return changed;
   const QSet<QString> causes = changed;
   for (auto object = objects.begin(); object != objects.end(); ++object) {
@@ -35,8 +44,6 @@ QSet<QString> withDependants(const ServiceObjects &objects, QSet<QString> change
   }
   return changed;
 }
-
-}  // namespace
 
 bool MediaCatalog::update(const ServiceObjects &objects, const QSet<QString> &changed) {
   const QSet<QString> paths = withDependants(objects, changed);
@@ -55,7 +62,7 @@ bool MediaCatalog::updateDisks(const ServiceObjects &objects, const QSet<QString
     if (isWholeDisk(object)) {
       found << path;
       disks << wholeDisk(object);
-    } else if (!object.has(kPartitionInterface)) {
+    } else if (!object.has(kPartitionInterface) || isKnownDisk(path)) {
       differs |= put(path, std::nullopt);
     }
   }
@@ -73,12 +80,11 @@ bool MediaCatalog::updatePartitions(const ServiceObjects &objects, const QSet<QS
   for (const QString &path : paths) {
     const ServiceObject object = objects.value(path);
     if (!object.has(kPartitionInterface)) continue;
-    const auto disk = _media.find(diskOf(object));
-    const bool hasDisk = disk != _media.end() && disk->second.slice == 0;
-    differs |=
-        put(path, hasDisk ? describePartition(path, object, objects.value(disk->first),
-                                              objects.value(driveOf(object)), disk->second.unit)
-                          : std::nullopt);
+    const QString disk = diskOf(object);
+    differs |= put(path, isKnownDisk(disk)
+                             ? describePartition(path, object, objects.value(disk),
+                                                 objects.value(driveOf(object)), _media[disk].unit)
+                             : std::nullopt);
   }
   return differs;
 }

@@ -30,6 +30,8 @@ class MediaCatalog {
   QStringList namesOnDisk(const QString &wholeDisk) const { return _namesOnDisk.value(wholeDisk); }
 
  private:
+  bool isKnownDisk(const QString &path) const;
+  QSet<QString> withDependants(const ServiceObjects &objects, QSet<QString> changed) const;
   bool updateDisks(const ServiceObjects &objects, const QSet<QString> &paths);
   bool updatePartitions(const ServiceObjects &objects, const QSet<QString> &paths);
   bool put(const QString &path, const std::optional<Medium> &medium);
