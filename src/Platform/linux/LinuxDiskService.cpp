@@ -147,7 +147,10 @@ void LinuxDiskService::postChange() {
   _workspace.post({kNSWorkspaceDidMountNotification, this});
 }
 
+// Labels may change by the thousand when a service looks at its disks anew; only a mounted volume's
+// is told of by itself.
 void LinuxDiskService::postRename(quint64 device) {
+  if (!_events.concern(device)) return;
   postNews();
   const auto mountPoint = _mounts.mountPointOf(device);
   if (!mountPoint || _media.onDevice(device) == nullptr) return;
