@@ -110,8 +110,9 @@ void ServiceTree::takeTree(QDBusPendingCallWatcher *call) {
 }
 
 void ServiceTree::fetchFailed(const QDBusError &error) {
-  // It died over the question; its successor may do better.
-  if (error.type() == QDBusError::NoReply) return fetchAgain();
+  // It died over the question, and its successor may do better; or it has come since.
+  const bool hasCome = error.type() == QDBusError::ServiceUnknown && !_owner.isEmpty();
+  if (error.type() == QDBusError::NoReply || hasCome) return fetchAgain();
   _fetching = nullptr;
   systemLog(u"no disk service: %1: %2"_s.arg(error.name(), error.message()));
   becomeAbsent();
