@@ -21,6 +21,7 @@ class MockedPlatform final : public Platform {
   SystemFiles &systemFiles() override { return _rest.systemFiles(); }
   LoginItems &loginItems() override { return _rest.loginItems(); }
   UserDefaults &userDefaults() override { return _rest.userDefaults(); }
+  QStringList processesUsing(const QString & /*mountPoint*/) const override { return {}; }
   QString volumesFolder() const override { return folder.path(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
