@@ -94,10 +94,11 @@ QString AppDelegate::whoHolds(const std::optional<QString> &partition,
                               const QString &refusal) const {
   if (!partition || refusal != DiskArbitrator::umountRefusal(*partition, kDAReturnBusy)) return {};
   const QStringList processes = DiskArbitrator::findProcessesUsing(*partition);
-  if (processes.isEmpty()) return u"None of your own programs is seen to use it"_s;
+  if (processes.isEmpty()) return tr("None of your own programs is seen to use it");
   const qsizetype more = processes.size() - kMostHolders;
   const QString named = processes.mid(0, kMostHolders).join(u", "_s);
-  return more > 0 ? u"In use by %1 and %2 more"_s.arg(named).arg(more) : u"In use by "_s + named;
+  return more > 0 ? tr("In use by %1 and %2 more").arg(named).arg(more)
+                  : tr("In use by %1").arg(named);
 }
 
 void AppDelegate::stopRunning() {}

@@ -60,13 +60,13 @@ void AppDelegate::openEsp(RowButton *sender) {
   const QString path = sender->title().split("open "_L1).value(1);
   if (path == "(null)"_L1 || path == "N/A"_L1 || !path.startsWith(u'/')) return;
   // The file manager would show an error of its own at best.
-  if (!fileExistsAtPath(path)) return complain(path + " is not there"_L1);
+  if (!fileExistsAtPath(path)) return complain(tr("%1 is not there").arg(path));
   const QFileInfo folder(path);
   if (!folder.isReadable() || !folder.isExecutable()) {
-    return complain(u"you may not read "_s + path);
+    return complain(tr("you may not read %1").arg(path));
   }
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
-    complain(u"no file manager could be started for "_s + path);
+    complain(tr("no file manager could be started for %1").arg(path));
   }
 }
 

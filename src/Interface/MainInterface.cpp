@@ -25,9 +25,9 @@ MainInterface::MainInterface()
   _popover->setWindowTitle(u"Keldra"_s);
   _popover->setWindowIcon(QIcon(u":/Keldra.png"_s));
   _popover->setContentView(makeContent());
-  _openAction = _menu->addAction(u"Open Keldra"_s);
+  _openAction = _menu->addAction(tr("Open Keldra"));
   _menu->addSeparator();
-  _quitAction = _menu->addAction(u"Quit"_s);
+  _quitAction = _menu->addAction(tr("Quit"));
   showTableOrEmptyText();
 }
 
@@ -36,7 +36,7 @@ MainInterface::~MainInterface() = default;
 QWidget *MainInterface::makeContent() {
   auto *content = new QWidget;
   _tableView = new TableView;
-  _tableView->setAccessibleName(u"Partitions"_s);
+  _tableView->setAccessibleName(tr("Partitions"));
   _tableView->registerPrototype(u"MainCell"_s,
                                 [](QWidget *parent) { return new ESPTableCellView(parent); });
   QObject::connect(_tableView, &TableView::reloaded, content, [this] { showTableOrEmptyText(); });
@@ -57,11 +57,11 @@ QWidget *MainInterface::makeContent() {
 QWidget *MainInterface::makeOptions() {
   auto *options = new QWidget;
   const Look look(options);
-  _showAllDisksCheck = new CheckBox(u"Show all"_s);
-  _forceUmountCheck = new CheckBox(u"Force unmount"_s);
-  _runAtLoadCheck = new CheckBox(u"Launch at login"_s);
+  _showAllDisksCheck = new CheckBox(tr("Show all"));
+  _forceUmountCheck = new CheckBox(tr("Force unmount"));
+  _runAtLoadCheck = new CheckBox(tr("Launch at login"));
   _statusTextField = new TextField;
-  _statusTextField->setAccessibleName(u"Status"_s);
+  _statusTextField->setAccessibleName(tr("Status"));
 
   auto *boxes = new QHBoxLayout;
   boxes->addWidget(_showAllDisksCheck);
@@ -81,9 +81,9 @@ QWidget *MainInterface::makeFoot() {
   auto *foot = new QWidget;
   const Look look(foot);
   _versionLabel = new TextField;
-  _infoButton = new QuietButton(u"Info"_s);
-  _webSiteButton = new QuietButton(u"Web site"_s);
-  _quitButton = new QuietButton(u"Quit"_s);
+  _infoButton = new QuietButton(tr("Info"));
+  _webSiteButton = new QuietButton(tr("Web site"));
+  _quitButton = new QuietButton(tr("Quit"));
 
   auto *layout = new QHBoxLayout(foot);
   // A quiet button's word, not its invisible frame, is in line with what stands above.

@@ -6,6 +6,7 @@
 //
 // Start with QApplication and `installAccessibility` in place.
 
+#include <QCoreApplication>
 #include <QMenu>
 #include <memory>
 
@@ -21,6 +22,8 @@ class InfoWindow;
 class QPushButton;
 
 class MainInterface {
+  Q_DECLARE_TR_FUNCTIONS(MainInterface)
+
  public:
   MainInterface();
   ~MainInterface();

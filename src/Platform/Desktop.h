@@ -29,8 +29,7 @@ class TrayItem : public QObject {
  public:
   virtual void setImage(const QIcon &image) = 0;
 
-  /// The menu of a right click, or of any click where the desktop knows no other. Not owned; set it
-  /// before the first image.
+  /// The menu of a right click, or of any click where the desktop knows no other. Not owned.
   virtual void setMenu(QMenu *menu) = 0;
 
   /// Where the item is on the screen; null while the desktop does not tell. That may be the place

@@ -66,7 +66,7 @@ class Reader {
   QStringList texts(const QString &key) {
     const QJsonValue value = take(key);
     QStringList texts;
-    for (const QJsonValue &text : value.toArray()) {
+    for (const auto &text : value.toArray()) {
       if (text.isString()) texts += text.toString();
     }
     if (!value.isUndefined() && (!value.isArray() || texts.size() != value.toArray().size())) {
