@@ -11,6 +11,10 @@ std::optional<QString> DiskArbitrator::findBSDNameOfCurrentVolume() {
   return findBSDName(u"/"_s);
 }
 
+bool DiskArbitrator::isSameDisk(const QString &reference, const QString &other) {
+  return areEqualTexts(findBSDName(reference), findBSDName(other));
+}
+
 QString DiskArbitrator::findBSDdiskParent(const QString &reference) {
   // The service's unit number, not the name's digits: the reference may be a path.
   const QVariant unit = descriptionValue(reference, kDADiskDescriptionMediaBSDUnitKey);

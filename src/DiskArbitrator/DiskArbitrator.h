@@ -9,6 +9,9 @@
 // No operation keeps anything between calls: each asks the current platform afresh. A reference is
 // a BSD name, a device path or the path of a mounted volume. Failures are answers: an absent text,
 // NO, or one of the sentinel texts that the operation names. Main thread only.
+//
+// On an old system (product version 10.8 or older) ESPs are found, mounted and unmounted by the
+// system's command-line tools, which block until they have ended.
 
 #include <QImage>
 #include <QString>
@@ -72,8 +75,13 @@ class DiskArbitrator {
 
   // Where a partition is mounted.
 
-  /// An absolute path; absent while it is not mounted.
+  /// An absolute path; absent while it is not mounted. On an old system, what
+  /// `findMountPointLegacy` says of an ESP.
   static std::optional<QString> findMountPoint(const QString &reference);
+  /// As /bin/df reports it; "N/A" for what is not mounted.
+  static QString findMountPointLegacy(const QString &reference);
+  /// Whether `findMountPoint` gives a text that may be a path. "N/A" counts as one: an ESP of an
+  /// old system is taken for mounted always.
   static bool isMountPointValid(const QString &reference);
   /// "name (process number)" of each process that uses the volume, as far as the system lets this
   /// user know. Empty while it is not mounted.
@@ -89,6 +97,16 @@ class DiskArbitrator {
   static bool umountPartition(const QString &partition, bool forceUmount);
   /// How the refusal to unmount a disk is announced.
   static QString umountRefusal(const QString &disk, DAReturn status);
+  /// What `mountPartition` does with an ESP on an old system: has it mounted as FAT on the folder at
+  /// the path or, where anything is there already, on the first of "PATH 1", "PATH 2" ... that is
+  /// not there or empty. No path stands for "EFI" in the folder for volumes. YES when the mount
+  /// program succeeded, or when the partition is mounted at the path already; other failures are
+  /// not announced.
+  static bool mountPartitionModeLegacy(const QString &partition,
+                                       const std::optional<QString> &atPath);
+  /// Whether a folder may be mounted on: it can be read, and holds nothing but hidden entries, and
+  /// no file ".DS_Store" among these.
+  static bool chosenFolderIsEmpty(const QString &path);
 
   /// The picture for a partition. Null when even the caution icon cannot be loaded.
   static QImage findVolumeIcon(const QString &partition);
@@ -105,6 +123,11 @@ class DiskArbitrator {
  private:
   /// Whether the system's version is 10.8 or older.
   static bool isOldSystem();
+  /// Whether the reference is an ESP on an old system.
+  static bool needsLegacyMode(const QString &reference);
+  static void umountPartitionModeLegacy(const QString &partition);
+  /// Whether both references are known and name the same disk.
+  static bool isSameDisk(const QString &reference, const QString &other);
   // What the service calls when it has answered; the disk is its BSD name.
   static void mountCallback(const QString &disk, const std::optional<Dissenter> &dissenter);
   static void umountCallback(const QString &disk, const std::optional<Dissenter> &dissenter);

@@ -28,7 +28,7 @@ std::optional<QString> DiskArbitrator::findPartitionName(const QString &referenc
 }
 
 std::optional<QString> DiskArbitrator::findMountPointName(const QString &reference) {
-  if (isOldSystem() && findPartitionName(reference) == kEFISystemPartition) return u"EFI"_s;
+  if (needsLegacyMode(reference)) return u"EFI"_s;
   return descriptionText(reference, kDADiskDescriptionVolumeNameKey).value_or(u"N/A"_s);
 }
 

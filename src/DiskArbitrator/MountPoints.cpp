@@ -3,7 +3,10 @@
 #include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
 
+using namespace Qt::StringLiterals;
+
 std::optional<QString> DiskArbitrator::findMountPoint(const QString &reference) {
+  if (needsLegacyMode(reference)) return findMountPointLegacy(reference);
   const QVariant path = descriptionValue(reference, kDADiskDescriptionVolumePathKey);
   if (!path.isValid()) return std::nullopt;
   return withoutNull(path.toUrl().toLocalFile());
@@ -15,5 +18,6 @@ QStringList DiskArbitrator::findProcessesUsing(const QString &reference) {
 }
 
 bool DiskArbitrator::isMountPointValid(const QString &reference) {
-  return !findMountPoint(reference).value_or(QString()).isEmpty();
+  const QString path = findMountPoint(reference).value_or(QString());
+  return !path.isEmpty() && path != "(null)"_L1;
 }

@@ -41,11 +41,10 @@ void waitUntilMounted(const QString &partition) {
 bool DiskArbitrator::mountPartition(const QString &partition,
                                     const std::optional<QString> &atPath) {
   if (fileExistsAtPath(findMountPoint(partition))) return true;
+  if (needsLegacyMode(partition)) return mountPartitionModeLegacy(partition, atPath);
 
   const bool hasPath = atPath.has_value() && !atPath->isEmpty();
-  if (hasPath && isMountPointValid(*atPath)) {
-    return areEqualTexts(findBSDName(partition), findBSDName(*atPath));
-  }
+  if (hasPath && isMountPointValid(*atPath)) return isSameDisk(partition, *atPath);
   if (hasPath && !fileExistsAtPath(*atPath)) QDir().mkpath(*atPath);
 
   const QString disk = printed(findBSDName(partition));
@@ -60,6 +59,10 @@ bool DiskArbitrator::mountPartition(const QString &partition,
 
 bool DiskArbitrator::umountPartition(const QString &partition, bool forceUmount) {
   if (!fileExistsAtPath(findMountPoint(partition))) return true;
+  if (needsLegacyMode(partition)) {
+    umountPartitionModeLegacy(partition);
+    return true;
+  }
 
   using enum DiskService::UnmountOption;
   const QString disk = printed(findBSDName(partition));

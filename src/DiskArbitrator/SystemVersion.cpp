@@ -21,7 +21,3 @@ qint32 DiskArbitrator::findOSXMinorVersion() {
   const QString version = versionDictionary().value(u"ProductVersion"_s).toString();
   return leadingInteger(version.split(u'.').value(1));
 }
-
-bool DiskArbitrator::isOldSystem() {
-  return findOSXMinorVersion() <= 8;
-}

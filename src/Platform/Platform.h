@@ -19,6 +19,7 @@
 #include "Platform/DiskDescription.h"
 #include "Platform/Dissenter.h"
 #include "Platform/LoginItems.h"
+#include "Platform/SystemPrograms.h"
 
 class NotificationCenter;
 
@@ -120,6 +121,7 @@ class Platform {
   virtual RunLoop &runLoop() = 0;
   virtual Clock &clock() = 0;
   virtual SystemFiles &systemFiles() = 0;
+  virtual SystemPrograms &systemPrograms() = 0;
   virtual LoginItems &loginItems() = 0;
   virtual UserDefaults &userDefaults() = 0;
 
@@ -130,6 +132,9 @@ class Platform {
 
   /// The folder below which the system mounts volumes ("/Volumes", "/media/alex").
   virtual QString volumesFolder() const = 0;
+
+  /// The folder below which ESPs are mounted on an old system: "/Volumes", on a real machine.
+  virtual QString legacyVolumesFolder() const = 0;
 
   /// Where mounts, unmounts and renames of volumes are posted, under the names below, whoever
   /// caused them. Posted from the run loop, never from inside a question.

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include "Foundation/NotificationCenter.h"
+#include "Platform/common/ChildPrograms.h"
 #include "Platform/common/FileSystemFiles.h"
 #include "Platform/common/QtRunLoop.h"
 #include "Platform/common/SettingsDefaults.h"
@@ -62,12 +63,14 @@ class LinuxPlatform final : public Platform {
   RunLoop &runLoop() override { return _runLoop; }
   Clock &clock() override { return _clock; }
   SystemFiles &systemFiles() override { return _systemFiles; }
+  SystemPrograms &systemPrograms() override { return _systemPrograms; }
   LoginItems &loginItems() override { return _loginItems; }
   UserDefaults &userDefaults() override { return _userDefaults; }
   QStringList processesUsing(const QString &mountPoint) const override {
     return processesUsingVolume(mountPoint);
   }
   QString volumesFolder() const override { return mountFolderOfUser(); }
+  QString legacyVolumesFolder() const override { return u"/Volumes"_s; }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
  private:
@@ -75,6 +78,7 @@ class LinuxPlatform final : public Platform {
   QtRunLoop _runLoop;
   SystemClock _clock;
   FileSystemFiles _systemFiles;
+  ChildPrograms _systemPrograms;
   XdgLoginItems _loginItems;
   SettingsDefaults _userDefaults;
   LinuxDiskService _disks;

@@ -37,7 +37,10 @@ class SimulatedSystemFiles final : public SystemFiles {
   QString _productVersion;
 };
 
-class SimulatedPlatform final : public Platform, public DiskService, public MediaRegistry {
+class SimulatedPlatform final : public Platform,
+                                public DiskService,
+                                public MediaRegistry,
+                                public SystemPrograms {
  public:
   SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock);
   ~SimulatedPlatform() override;
@@ -48,10 +51,12 @@ class SimulatedPlatform final : public Platform, public DiskService, public Medi
   RunLoop &runLoop() override { return _runLoop; }
   Clock &clock() override { return *_clock; }
   SystemFiles &systemFiles() override { return _systemFiles; }
+  SystemPrograms &systemPrograms() override { return *this; }
   SimulatedLoginItems &loginItems() override { return _loginItems; }
   SimulatedDefaults &userDefaults() override { return _userDefaults; }
   QStringList processesUsing(const QString &mountPoint) const override;
   QString volumesFolder() const override { return _volumes.path(); }
+  QString legacyVolumesFolder() const override { return _volumes.path(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
   Presence presence() const override { return _machine.presence; }
@@ -63,6 +68,9 @@ class SimulatedPlatform final : public Platform, public DiskService, public Medi
   void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
   QStringList mediaNames() const override;
   QStringList mediaNamesOnDisk(const QString &wholeDisk) const override;
+  /// There are /bin/df, /sbin/mount and /sbin/umount, the last for forced unmounts only. Whatever
+  /// refuses a mount by the service refuses it by the program.
+  ProgramRun run(const QString &path, const QStringList &arguments) override;
 
   /// The machine as it is now, pulled disks not among its own.
   const Machine &machine() const { return _machine; }
@@ -118,6 +126,10 @@ class SimulatedPlatform final : public Platform, public DiskService, public Medi
   void answer(int number);
   /// Answers requests before their time is over.
   void endRequests(DAReturn status, const std::function<bool(const Request &)> &concerns);
+
+  QByteArray diskFree() const;
+  bool mountByProgram(const QStringList &arguments);
+  bool unmountByProgram(const QStringList &arguments);
 
   void putVolumes(SimulatedDisk &disk);
   void putAt(SimulatedPartition &partition, const QString &mountPoint);

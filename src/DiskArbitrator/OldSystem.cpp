@@ -1,0 +1,80 @@
+// ESPs on systems up to 10.8, where the command-line tools stand in for the disk service.
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/DiskFree.h"
+#include "Foundation/SystemLog.h"
+#include "Foundation/Text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString devicePath(const QString &reference) {
+  return u"/dev/"_s + printed(DiskArbitrator::findBSDName(reference));
+}
+
+/// The base is taken only if nothing is there at all; one with a number also if it is empty. Asked
+/// strictly: below a closed folder everything would count as being there, and no number as free.
+QString folderToMountOn(const QString &base) {
+  QString folder = base;
+  for (int number = 1; QFileInfo::exists(folder); ++number) {
+    folder = base + u' ' + QString::number(number);
+    if (QFileInfo::exists(folder) && DiskArbitrator::chosenFolderIsEmpty(folder)) break;
+  }
+  return folder;
+}
+
+}  // namespace
+
+bool DiskArbitrator::isOldSystem() {
+  return findOSXMinorVersion() <= 8;
+}
+
+bool DiskArbitrator::needsLegacyMode(const QString &reference) {
+  return isOldSystem() && findPartitionName(reference) == kEFISystemPartition;
+}
+
+QString DiskArbitrator::findMountPointLegacy(const QString &reference) {
+  const QString device = devicePath(reference);
+  const ProgramRun df = Platform::current().systemPrograms().run(u"/bin/df"_s, {});
+  return mountPointInDiskFree(QString::fromUtf8(df.output), device).value_or(u"N/A"_s);
+}
+
+bool DiskArbitrator::mountPartitionModeLegacy(const QString &partition,
+                                              const std::optional<QString> &atPath) {
+  Platform &platform = Platform::current();
+  QString base = platform.legacyVolumesFolder() + "/EFI"_L1;
+  if (atPath.has_value() && *atPath != "(null)"_L1) {
+    if (isMountPointValid(*atPath)) return isSameDisk(partition, *atPath);
+    base = *atPath;
+  }
+  const QString folder = folderToMountOn(base);
+  if (!QFileInfo::exists(folder)) QDir().mkdir(folder);
+
+  const ProgramRun mount = platform.systemPrograms().run(
+      u"/sbin/mount"_s, {u"-t"_s, u"msdos"_s, devicePath(partition), folder});
+  if (mount.problem.has_value()) {
+    systemLog(u"Problem mounting "_s + partition + ": "_L1 + *mount.problem);
+  }
+  return mount.exitStatus == 0;
+}
+
+void DiskArbitrator::umountPartitionModeLegacy(const QString &partition) {
+  // Forced in every case, and whatever it ends with counts as done.
+  const ProgramRun umount =
+      Platform::current().systemPrograms().run(u"/sbin/umount"_s, {u"-f"_s, devicePath(partition)});
+  if (umount.problem.has_value()) systemLog(u"Problem mounting "_s + *umount.problem);
+}
+
+bool DiskArbitrator::chosenFolderIsEmpty(const QString &path) {
+  const QFileInfo folder(path);
+  const QFileInfo visited(path + "/.DS_Store"_L1);
+  // The file manager has been here: somebody uses it.
+  if (visited.exists() && !visited.isDir()) return false;
+  // Entries whose names begin with a dot are not listed.
+  const auto everything = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
+  return folder.isDir() && folder.isReadable() && QDir(path).isEmpty(everything);
+}

@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/DiskFree.h"
+#include "support/TestMachine.h"
+
+namespace {
+
+using DA = DiskArbitrator;
+
+QByteArray oldMachine() {
+  return twoEspMachine().replace("{ \"disks\"", R"({ "productVersion": "10.8.5", "disks")");
+}
+
+class OldSystem : public testing::Test {
+ protected:
+  void makeFolder(const QString &name) { EXPECT_TRUE(QDir().mkpath(machine.folder(name))); }
+  QString mountedAt(const QString &name) {
+    return machine.platform.descriptionOfMedia(name)
+        ->value(kDADiskDescriptionVolumePathKey)
+        .toUrl()
+        .toLocalFile();
+  }
+
+  TestPlatform machine{oldMachine()};
+};
+
+}  // namespace
+
+TEST(DiskFree, ReadsTheLineThatBeginsWithTheDevice) {
+  const struct {
+    QString output;
+    std::optional<QString> mountPoint;
+  } cases[] = {
+      {"head\n/dev/disk0s1 9 9 9 37% /Volumes/EFI 1\n", "/Volumes/EFI 1"},
+      {"/dev/disk0s1 9 37%  \t/a%b \r\n", "/a%b"},
+      {"/dev/disk0s1 9 37% 5 6 12% /\n", "5 6 12"},  // the second piece, whatever it is
+      {"/dev/disk0s10 9 1% /other\n/dev/disk0s1 9 2% /own\n", "/other"},
+      {"/dev/disk0s1 9 9\n/dev/disk0s1 9 9 2% /later\n", std::nullopt},
+      {"map /dev/disk0s1 9 2% /inner\n /dev/disk0s1 9 2% /blank\n", std::nullopt},
+      {"/dev/disk0s1 9 100%\t/tab\n", std::nullopt},
+      {"/dev/disk0s1 9 100% ", ""},
+      {"/dev/Disk0s1 9 100% /case", std::nullopt},
+      {"", std::nullopt},
+  };
+  for (const auto &[output, mountPoint] : cases) {
+    EXPECT_EQ(mountPointInDiskFree(output, "/dev/disk0s1"), mountPoint) << output.toStdString();
+  }
+}
+
+TEST_F(OldSystem, MountsAnESPOnTheFirstFolderThatTheRuleNames) {
+  EXPECT_TRUE(DA::mountPartition("disk1s1", std::nullopt));
+  EXPECT_EQ(mountedAt("disk1s1"), machine.folder("EFI"));
+  EXPECT_EQ(DA::findMountPoint("disk1s1"), machine.folder("EFI"));
+  EXPECT_TRUE(DA::umountPartition("disk1s1", false));
+  EXPECT_EQ(mountedAt("disk1s1"), "");
+
+  makeFolder("EFI");  // empty, and yet passed over
+  makeFolder("EFI 1/in use");
+  makeFolder("EFI 2/.hidden");
+  EXPECT_TRUE(DA::mountPartition("disk1s1", QString("(null)")));
+  EXPECT_EQ(mountedAt("disk1s1"), machine.folder("EFI 2"));
+  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("none/deep"))) << "only one is made";
+  EXPECT_TRUE(DA::mountPartition("disk0s1", machine.folder("%1 %2")));
+  EXPECT_EQ(mountedAt("disk0s1"), machine.folder("%1 %2"));
+}
+
+TEST_F(OldSystem, DoesNotMountOverAnotherVolume) {
+  const QString data = machine.folder("Data");
+  EXPECT_FALSE(DA::mountPartition("disk1s1", data));
+  EXPECT_TRUE(DA::mountPartitionModeLegacy("disk1s2", data)) << "it is there already";
+  EXPECT_EQ(mountedAt("disk1s1"), "");
+}
+
+TEST_F(OldSystem, EndsItsSearchBelowAFileOrAFolderThatIsNotThere) {
+  QFile file(machine.folder("file"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  EXPECT_FALSE(DA::mountPartition("disk1s1", machine.folder("file/below")));
+  EXPECT_FALSE(DA::mountPartition("disk1s1", QString(5000, 'x')));
+  EXPECT_FALSE(DA::mountPartition("disk1s1", QString("")));
+}
+
+TEST_F(OldSystem, TakesAnUnmountedESPForMountedAndLeavesTheRestToTheService) {
+  EXPECT_EQ(DA::findMountPoint("disk1s1"), "N/A");
+  EXPECT_TRUE(DA::isMountPointValid("disk1s1"));
+  EXPECT_EQ(DA::findMountPoint("disk2s1"), std::nullopt);
+  EXPECT_EQ(DA::findMountPointLegacy("disk99"), "N/A");
+  EXPECT_EQ(DA::findMountPointLegacy("disk1s2"), machine.folder("Data"));
+
+  machine.platform.setRefusals("disk1s2", std::nullopt, kDAReturnBusy);
+  EXPECT_TRUE(DA::umountPartition("disk1s2", false));
+  EXPECT_EQ(DA::findMountPoint("disk1s2"), machine.folder("Data")) << "not by force";
+  machine.platform.setRefusals("disk1s1", kDAReturnBusy, kDAReturnBusy);
+  EXPECT_FALSE(DA::mountPartition("disk1s1", std::nullopt));
+}
+
+TEST(OldSystemsRows, UnmountAnESPByForceAndReadUmountAlways) {
+  TestMachine machine(oldMachine());
+  EXPECT_EQ(machine.cell(1)->mountButton()->title(), "umount disk1s1");
+  EXPECT_EQ(machine.cell(1)->openButton()->title(), "open N/A");
+  ASSERT_TRUE(DA::mountPartition("disk1s1", std::nullopt));
+  machine.platform.setRefusals("disk1s1", std::nullopt, kDAReturnBusy);
+  const QString folder = machine.folder("EFI");
+  EXPECT_EQ(machine.status(), "disk1s1 mouted at " + folder);
+  EXPECT_EQ(machine.cell(1)->openButton()->title(), "open " + folder);
+  machine.click(machine.mountButton(1));
+  EXPECT_EQ(machine.status(), folder + " umounted!");
+  EXPECT_EQ(machine.cell(1)->mountButton()->title(), "umount disk1s1");
+}
+
+TEST(ChosenFolder, IsEmptyButForWhatIsHidden) {
+  const QTemporaryDir root;
+  const QDir folder(root.path());
+  const auto isEmpty = [&] { return DA::chosenFolderIsEmpty(root.path()); };
+  const auto touch = [&](const QString &name) {
+    return QFile(folder.filePath(name)).open(QIODevice::WriteOnly);
+  };
+  EXPECT_TRUE(isEmpty());
+  folder.mkdir(".DS_Store");
+  EXPECT_TRUE(isEmpty()) << "a folder of that name is like any other";
+  folder.rmdir(".DS_Store");
+  EXPECT_TRUE(touch(".DS_Store"));
+  EXPECT_FALSE(isEmpty());
+  QFile::remove(folder.filePath(".DS_Store"));
+  EXPECT_TRUE(touch(".hidden") && isEmpty());
+  QFile::link("/nowhere", folder.filePath("dangling link"));
+  EXPECT_FALSE(isEmpty());
+
+  EXPECT_FALSE(DA::chosenFolderIsEmpty(folder.filePath(".hidden"))) << "no folder";
+  EXPECT_FALSE(DA::chosenFolderIsEmpty(folder.filePath("none")));
+  EXPECT_FALSE(DA::chosenFolderIsEmpty(""));
+}

@@ -1,0 +1,87 @@
+// A real ESP on a system that poses as an old one (tools/lab/old-system).
+
+#include <QDir>
+#include <QFile>
+
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "disks/DiskTest.h"
+#include "disks/Program.h"
+
+namespace {
+
+using DA = DiskArbitrator;
+
+class OldSystem : public DiskTest {
+ public:
+  void SetUp() override {
+    DiskTest::SetUp();
+    if (IsSkipped()) return;
+    device = addSystemPartition("OLD");
+    name = nameOf(device);
+    ASSERT_TRUE(QFile::link(device, qEnvironmentVariable("KELDRA_LAB") + "/old/devices/" + name));
+    program.emplace(*platform);
+    ASSERT_EQ(DA::findOSXMinorVersion(), 8);
+  }
+  void TearDown() override {
+    program.reset();
+    DiskTest::TearDown();
+  }
+
+  QString device;
+  QString name;
+  std::optional<Program> program;
+};
+
+/// Takes a program's right to be run away while it lives.
+class Unstartable {
+ public:
+  explicit Unstartable(const QString &path) : _path(path) {
+    EXPECT_TRUE(QFile::setPermissions(_path, QFile::ReadOwner));
+  }
+  ~Unstartable() { QFile::setPermissions(_path, QFile::ReadOwner | QFile::ExeOwner); }
+  Unstartable(const Unstartable &) = delete;
+  Unstartable &operator=(const Unstartable &) = delete;
+
+ private:
+  QString _path;
+};
+
+}  // namespace
+
+TEST_F(OldSystem, MountsFindsAndUnmountsAnESPByItsPrograms) {
+  EXPECT_EQ(program->title(name), "umount " + name) << "as if mounted";
+  EXPECT_EQ(DA::findMountPoint(name), "N/A");
+  ASSERT_TRUE(QDir().mkpath("/Volumes/EFI"));
+  ASSERT_TRUE(QDir().mkpath("/Volumes/EFI 1/in use"));
+  ASSERT_TRUE(DA::mountPartition(name, std::nullopt));
+  const QString path = "/Volumes/EFI 2";
+  EXPECT_EQ(mountPointOf(name), path) << "as the kernel tells";
+  EXPECT_EQ(DA::findMountPoint(name), path) << "as df tells";
+  EXPECT_EQ(DA::findBSDName(path), name);
+  EXPECT_TRUE(program->says(name + " mouted at " + path));
+  EXPECT_EQ(program->rowOf(name)->openButton()->title(), "open " + path);
+
+  program->click(name);
+  EXPECT_TRUE(program->says(path + " umounted!"));
+  EXPECT_EQ(mountPointOf(name), "");
+  EXPECT_EQ(DA::findMountPoint(name), "N/A");
+  EXPECT_EQ(program->title(name), "umount " + name);
+}
+
+TEST_F(OldSystem, LogsAProgramThatCannotBeStarted) {
+  testing::internal::CaptureStderr();
+  {
+    const Unstartable mount("/sbin/mount");
+    EXPECT_FALSE(DA::mountPartition(name, QString("/Volumes/never")));
+  }
+  EXPECT_TRUE(DA::mountPartition(name, QString("/Volumes/never")))
+      << "at \"never 1\", which is not";
+  {
+    const Unstartable umount("/sbin/umount");
+    EXPECT_TRUE(DA::umountPartition(name, false));
+  }
+  EXPECT_EQ(mountPointOf(name), "/Volumes/never 1");
+  const QString log = QString::fromStdString(testing::internal::GetCapturedStderr());
+  EXPECT_TRUE(log.contains("Problem mounting " + name + ": ")) << log.toStdString();
+  EXPECT_EQ(log.count("Problem mounting "), 2) << log.toStdString();
+}
