@@ -6,7 +6,12 @@
 #include <cstdlib>
 #include <memory>
 
+#include "Platform/common/BinaryPropertyList.h"
+
 namespace {
+
+// The parser goes down one call for each level of nesting, which is seven bytes or more of XML.
+constexpr qsizetype kLargest = 256 * 1024;
 
 using PropertyList = std::unique_ptr<void, decltype(&plist_free)>;
 using PlistText = std::unique_ptr<char, decltype(&std::free)>;
@@ -15,6 +20,7 @@ PropertyList parse(const QByteArray &bytes) {
   plist_t root = nullptr;
   const auto length = static_cast<uint32_t>(bytes.size());
   if (plist_is_binary(bytes.constData(), length) != 0) {
+    if (!isBinaryPropertyListBounded(bytes)) return {nullptr, plist_free};
     plist_from_bin(bytes.constData(), length, &root);
   } else {
     plist_from_xml(bytes.constData(), length, &root);
@@ -47,7 +53,7 @@ QVariant valueOf(plist_t node) {
 }  // namespace
 
 QVariantMap dictionaryFromPropertyList(const QByteArray &bytes) {
-  if (bytes.isEmpty()) return {};
+  if (bytes.isEmpty() || bytes.size() > kLargest) return {};
   const PropertyList root = parse(bytes);
   if (root == nullptr || plist_get_node_type(root.get()) != PLIST_DICT) return {};
 

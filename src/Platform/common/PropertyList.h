@@ -4,5 +4,6 @@
 #include <QVariantMap>
 
 /// The texts, numbers and booleans of the dictionary at the top of a property list, XML or binary.
-/// Empty when the bytes are no property list or its top is no dictionary.
+/// Empty when the bytes are no property list or its top is no dictionary, and for lists far beyond
+/// the size of any that describes a system or a bundle.
 QVariantMap dictionaryFromPropertyList(const QByteArray &bytes);

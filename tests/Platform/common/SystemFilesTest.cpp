@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "Platform/common/BinaryPropertyList.h"
 #include "Platform/common/FileSystemFiles.h"
 #include "Platform/common/PropertyList.h"
 #include "Platform/common/SystemFilesRoot.h"
@@ -49,6 +50,41 @@ TEST(PropertyLists, ThatAreNoneAreEmpty) {
         QByteArray(R"({"a": 1})")}) {
     EXPECT_TRUE(dictionaryFromPropertyList(bytes).isEmpty()) << bytes.constData();
   }
+}
+
+TEST(PropertyLists, ThatWouldTakeAllMemoryOrStackAreEmpty) {
+  const auto nestedXml = [](int levels) {
+    return "<plist version=\"1.0\"><dict><key>a</key>" + QByteArray("<array>").repeated(levels) +
+           QByteArray("</array>").repeated(levels) +
+           "<key>b</key><string>c</string></dict></plist>";
+  };
+  EXPECT_EQ(dictionaryFromPropertyList(nestedXml(10000)).value("b"), "c");
+  EXPECT_TRUE(dictionaryFromPropertyList(nestedXml(1'000'000)).isEmpty());
+  EXPECT_TRUE(dictionaryFromPropertyList(QByteArray("<array>").repeated(1'000'000)).isEmpty());
+
+  // {"": [...]}, where each array holds the next one, or true at the end, so many times.
+  const auto nestedBinary = [](int levels, int times) {
+    const auto number = [](qsizetype value, int width) {
+      return QByteArray::fromHex(QByteArray::number(value, 16).rightJustified(2 * width, '0'));
+    };
+    QByteArrayList objects = {QByteArray::fromHex("d100010002"), "\x50"};
+    for (int next = 3; next < levels + 3; ++next) {
+      objects += number(0xA0 + times, 1) + number(next, 2).repeated(times);
+    }
+    objects += "\x09";
+    QByteArray bytes = "bplist00";
+    QByteArray table;
+    for (const QByteArray &object : objects) {
+      table += number(bytes.size(), 3);
+      bytes += object;
+    }
+    return bytes + table + number(0x0302, 8) + number(objects.size(), 8) + number(0, 8) +
+           number(bytes.size(), 8);
+  };
+  EXPECT_TRUE(isBinaryPropertyListBounded(nestedBinary(12, 2)));
+  EXPECT_FALSE(isBinaryPropertyListBounded(nestedBinary(60, 2))) << "2 to the 60th objects";
+  EXPECT_FALSE(isBinaryPropertyListBounded(nestedBinary(60000, 1)));
+  EXPECT_TRUE(dictionaryFromPropertyList(nestedBinary(60, 2)).isEmpty());
 }
 
 TEST(SystemFiles, AnswerForTheFileAsItIsNow) {
