@@ -2,7 +2,6 @@
 // keldra-demo [MACHINE.json]
 
 #include <QApplication>
-#include <QFile>
 #include <QTimer>
 #include <cstdio>
 
@@ -15,9 +14,8 @@
 
 namespace {
 
-int refuse(const QString &fileName, const QString &reason) {
-  const QString line = QStringLiteral("keldra-demo: %1: %2").arg(fileName, reason);
-  std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+int refuse(const QString &reason) {
+  std::fprintf(stderr, "keldra-demo: %s\n", reason.toLocal8Bit().constData());
   return EXIT_FAILURE;
 }
 
@@ -28,11 +26,8 @@ int main(int argc, char **argv) {
   const QString fileName = QApplication::arguments().value(
       1,
       QApplication::applicationDirPath() + QStringLiteral("/../share/keldra/machines/laptop.json"));
-  QFile file(fileName);
-  if (!file.open(QIODevice::ReadOnly)) return refuse(fileName, file.errorString());
-  auto result = readMachineFile(file.readAll());
-  if (const auto *error = std::get_if<MachineFileError>(&result))
-    return refuse(fileName, error->text());
+  auto result = loadMachineFile(fileName);
+  if (const auto *error = std::get_if<MachineFileError>(&result)) return refuse(error->text());
 
   SimulatedPlatform platform(std::get<Machine>(std::move(result)), std::make_unique<SystemClock>());
   MachineWindow window(platform);

@@ -108,6 +108,16 @@ class DiskArbitrator {
   /// no file ".DS_Store" among these.
   static bool chosenFolderIsEmpty(const QString &path);
 
+  // Probes.
+
+  /// The kind of the file system; for FAT "Fat12", "Fat16", "Fat32", or "Unknown" where its width
+  /// cannot be told. Mounts a FAT volume to find out, and leaves it mounted; "msdos" when that
+  /// fails. "Fat32" for every ESP on an old system, "N/A" for what holds none.
+  static std::optional<QString> findFileSystemPersonality(const QString &reference);
+  /// "Physical 4096-bytes" of the whole disk that holds the reference, or "Logical 512-bytes" if it
+  /// tells no more. "N/A" when it cannot be asked, "Not Priviliged" when this is not root.
+  static std::optional<QString> findSectorSize(const QString &reference);
+
   /// The picture for a partition. Null when even the caution icon cannot be loaded.
   static QImage findVolumeIcon(const QString &partition);
 

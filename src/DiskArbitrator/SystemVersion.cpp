@@ -1,3 +1,5 @@
+#include "DiskArbitrator/SystemVersion.h"
+
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "Foundation/Text.h"
 
@@ -5,8 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QVariantMap versionDictionary() {
-  const SystemFiles &files = Platform::current().systemFiles();
+QVariantMap versionDictionary(const SystemFiles &files) {
   for (const QString &path : {u"/System/Library/CoreServices/SystemVersion.plist"_s,
                               u"/System/Library/CoreServices/ServerVersion.plist"_s}) {
     if (files.exists(path)) return files.propertyList(path);
@@ -16,8 +17,12 @@ QVariantMap versionDictionary() {
 
 }  // namespace
 
-qint32 DiskArbitrator::findOSXMinorVersion() {
+qint32 minorVersion(const SystemFiles &files) {
   // The major number is never looked at: "11.2" reads as 2, and so as an old system.
-  const QString version = versionDictionary().value(u"ProductVersion"_s).toString();
+  const QString version = versionDictionary(files).value(u"ProductVersion"_s).toString();
   return leadingInteger(version.split(u'.').value(1));
+}
+
+qint32 DiskArbitrator::findOSXMinorVersion() {
+  return minorVersion(Platform::current().systemFiles());
 }

@@ -19,6 +19,7 @@
 #include "Platform/DiskDescription.h"
 #include "Platform/Dissenter.h"
 #include "Platform/LoginItems.h"
+#include "Platform/RawDevices.h"
 #include "Platform/SystemPrograms.h"
 
 class NotificationCenter;
@@ -118,6 +119,7 @@ class Platform {
 
   virtual DiskService &diskService() = 0;
   virtual MediaRegistry &mediaRegistry() = 0;
+  virtual RawDevices &rawDevices() = 0;
   virtual RunLoop &runLoop() = 0;
   virtual Clock &clock() = 0;
   virtual SystemFiles &systemFiles() = 0;

@@ -27,13 +27,15 @@ TEST_F(Finders, TakeNamesDevicePathsAndMountPoints) {
   EXPECT_EQ(DA::findBSDdiskParent("disk1"), "disk1");
 }
 
-TEST_F(Finders, TellNoReferenceFromAnUnknownDisk) {
-  for (const char *reference : {"", "rdisk0s1", "EFI", "/no/such/path"}) {
-    EXPECT_FALSE(getDAdiskDescriptionFromBSDorMountpoint(QString::fromUtf8(reference)).has_value());
+TEST_F(Finders, TellNoReferenceFromAnUnknownDiskByItsFirstLetters) {
+  for (const char *reference : {"", "rdisk0s1", "Disk0s1", " disk0s1", "EFI", "dev/disk0s1", "N/A",
+                                "/no/such/path", "/dev/rdisk0s1", "/DEV/disk0s1"}) {
+    EXPECT_EQ(getDAdiskDescriptionFromBSDorMountpoint(reference), std::nullopt) << reference;
   }
-  for (const char *reference : {"disk99", "/dev/disk99", "/usr"}) {
-    EXPECT_EQ(getDAdiskDescriptionFromBSDorMountpoint(QString::fromUtf8(reference)),
-              DiskDescription());
+  for (const char *reference :
+       {"disk", "disk99", "diskette", "disk0s1 ", "disk00s1", "/dev/disk", "/dev/disk99",
+        "/dev/diskette", "disk/dev/0", "/usr", "/dev/null", "//dev/null"}) {
+    EXPECT_EQ(getDAdiskDescriptionFromBSDorMountpoint(reference), DiskDescription()) << reference;
   }
 }
 
@@ -96,16 +98,34 @@ TEST(FindersOnOddNames, TheSiblingLineSkipsTheNamelessAndKeepsItsPunctuation) {
   EXPECT_EQ(DA::findAllPartitionNameParentSeparatedByComma("disk1s1"), "N/A: 100% %1 a:");
 }
 
+TEST(FindersOnLargeMachines, KeepUnitsAndSlicesAboveNineApart) {
+  const TestPlatform machine(R"({ "disks": [
+    { "unit": 1, "media": "One", "scheme": "GUID_partition_scheme", "partitions": [
+      { "slice": 10, "media": "EFI System Partition" }, { "slice": 2, "media": "EFI system partition" } ] },
+    { "unit": 12, "media": "Twelve", "scheme": "GUID_partition_scheme", "partitions": [
+      { "slice": 1, "media": "EFI System Partition" }, { "slice": 10, "media": "Ten" } ] } ] })");
+  EXPECT_EQ(DA::findBSDdiskParent("disk12s10"), "disk12");
+  EXPECT_EQ(DA::findSliceNumberFromPartitionDisk("disk12s10"), "10");
+  EXPECT_EQ(DA::findSliceNumberFromPartitionDisk("disk12"), "N/A");
+  EXPECT_EQ(DA::findAllEFIdisk(), QStringList({"disk1s10", "disk12s1"}));
+  EXPECT_EQ(DA::findEFIdiskOfTheParentDisk("disk12s10"), "disk12s1");
+  EXPECT_EQ(DA::findEFIdiskOfTheParentDisk("disk1s10"), std::nullopt) << "only slice 1 counts";
+  EXPECT_EQ(DA::findAllPartitionNameParentSeparatedByComma("disk1"),
+            "One: EFI System Partition, EFI system partition");
+}
+
 TEST(FindersOnOldSystems, TheVersionsSecondNumberDecides) {
-  const auto minorOf = [](const QByteArray &version) {
+  const std::pair<QByteArray, qint32> versions[] = {{"10.15", 15}, {"10.8.5", 8},
+                                                    {"11.2", 2},   {"11", 0},
+                                                    {"", 0},       {".9", 9},
+                                                    {"10..9", 0},  {"10. 9b", 9},
+                                                    {"10.-3", -3}, {"10.x9", 0},
+                                                    {"10.0x9", 0}, {"x.9.8", 9},
+                                                    {"10,9", 0},   {"10.99999999999", 2147483647}};
+  for (const auto &[version, minor] : versions) {
     const TestPlatform machine(R"({ "productVersion": ")" + version + R"(" })");
-    return DA::findOSXMinorVersion();
-  };
-  EXPECT_EQ(minorOf("10.15"), 15);
-  EXPECT_EQ(minorOf("10.8.5"), 8);
-  EXPECT_EQ(minorOf("11.2"), 2);
-  EXPECT_EQ(minorOf("11"), 0);
-  EXPECT_EQ(minorOf(""), 0);
+    EXPECT_EQ(DA::findOSXMinorVersion(), minor) << version.constData();
+  }
 
   const TestPlatform old(R"({ "productVersion": "10.8", "disks": [ { "unit": 0, "partitions": [
       { "slice": 1, "media": "EFI System Partition" }, { "slice": 2, "media": "Data" } ] } ] })");

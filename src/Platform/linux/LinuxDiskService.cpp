@@ -82,6 +82,12 @@ std::optional<DiskDescription> LinuxDiskService::descriptionOfVolume(
   return describe(_media.onDevice(_mounts.deviceAt(mountPoint)));
 }
 
+QString LinuxDiskService::fileSystemVersionAt(const QString &mountPoint) const {
+  refresh();
+  const Medium *medium = _media.onDevice(_mounts.deviceAt(mountPoint));
+  return medium == nullptr ? QString() : medium->version;
+}
+
 QStringList LinuxDiskService::mediaNames() const {
   refresh();
   return _media.names();

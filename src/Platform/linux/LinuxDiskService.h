@@ -31,6 +31,10 @@ class LinuxDiskService final : public QObject, public DiskService, public MediaR
              Completion completion) override;
   void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
 
+  /// The version of the file system mounted at exactly this path, as the service has read it from
+  /// the disk: "FAT32", "1.0". Empty where none is mounted or it has none.
+  QString fileSystemVersionAt(const QString &mountPoint) const;
+
   QStringList mediaNames() const override;
   QStringList mediaNamesOnDisk(const QString &wholeDisk) const override;
 

@@ -16,6 +16,7 @@
 #include "Platform/common/SystemClock.h"
 #include "Platform/common/SystemFilesRoot.h"
 #include "Platform/linux/LinuxDiskService.h"
+#include "Platform/linux/LinuxRawDevices.h"
 #include "Platform/linux/VolumeUsers.h"
 #include "Platform/linux/XdgLoginItems.h"
 
@@ -56,10 +57,12 @@ class LinuxPlatform final : public Platform {
         _loginItems(XdgLoginItems::ofThisUser()),
         _userDefaults(settingsFile()),
         _disks(QDBusConnection::systemBus(), sharedUnitNumbers(), u"/proc/self/mountinfo"_s,
-               _workspace) {}
+               _workspace),
+        _rawDevices(_disks) {}
 
   DiskService &diskService() override { return _disks; }
   MediaRegistry &mediaRegistry() override { return _disks; }
+  RawDevices &rawDevices() override { return _rawDevices; }
   RunLoop &runLoop() override { return _runLoop; }
   Clock &clock() override { return _clock; }
   SystemFiles &systemFiles() override { return _systemFiles; }
@@ -82,6 +85,7 @@ class LinuxPlatform final : public Platform {
   XdgLoginItems _loginItems;
   SettingsDefaults _userDefaults;
   LinuxDiskService _disks;
+  LinuxRawDevices _rawDevices;
 };
 
 }  // namespace

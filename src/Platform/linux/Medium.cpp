@@ -46,6 +46,7 @@ Medium describeBlock(const QString &path, const ServiceObject &block, int unit, 
                 slice,
                 deviceOf(block),
                 block.text(kBlockInterface, u"IdLabel"_s).value_or(QString()),
+                block.text(kBlockInterface, u"IdVersion"_s).value_or(QString()),
                 {}};
   DiskDescription &description = medium.description;
   description.insert(kDADiskDescriptionMediaBSDNameKey, medium.bsdName());

@@ -11,6 +11,7 @@ struct Medium {
   int slice = 0;                // 0 for a whole disk
   quint64 device = 0;           // the device number
   QString label;                // of the file system on it
+  QString version;              // of that file system: "FAT32", "1.0"
   DiskDescription description;  // but for the volume's name and path, which depend on a mount
 
   QString wholeDisk() const;

@@ -25,6 +25,7 @@ struct SimulatedPartition {
   QString volumeUUID;
   /// The processes that are said to use it.
   QStringList usedBy;
+  std::optional<quint32> volumeSubtype;
   /// Absent while it is not mounted.
   std::optional<QString> mountPoint;
   // How the service answers: a refusal stands until it is taken away, a mishap happens once.
@@ -44,6 +45,8 @@ struct SimulatedDisk {
   bool isWritable = true;
   bool isEjectable = false;
   bool isInternal = false;
+  std::optional<quint32> physicalBlockSize;
+  std::optional<quint32> logicalBlockSize;
   QVector<SimulatedPartition> partitions;
 
   QString bsdName() const { return QStringLiteral("disk%1").arg(unit); }
@@ -54,6 +57,8 @@ struct SimulatedDisk {
 
 struct Machine {
   QString productVersion = QStringLiteral("10.15");
+  /// Whether its user is root.
+  bool isPrivileged = true;
   DiskService::Presence presence = DiskService::Presence::Answering;
   /// How long a service that is asked at the start takes to answer; absent if it never does.
   std::optional<std::chrono::milliseconds> answersAfter;

@@ -1,5 +1,6 @@
 #include "Platform/simulated/MachineFile.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -17,6 +18,8 @@ namespace {
 
 constexpr int kLargestUnit = 99999;
 constexpr int kLargestDelay = 3'600'000;
+constexpr int kLargestCount = 1 << 30;
+constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 
 /// One JSON object, its place in the file, and which of its keys were asked for. Throws
 /// MachineFileError.
@@ -55,6 +58,11 @@ class Reader {
       fail(key, u"a whole number from %1 to %2 is needed"_s.arg(smallest).arg(largest));
     }
     return number;
+  }
+
+  std::optional<quint32> count(const QString &key) {
+    const int count = number(key, 0, kLargestCount, -1);
+    return count < 0 ? std::nullopt : std::optional(static_cast<quint32>(count));
   }
 
   std::optional<Reader> object(const QString &key) {
@@ -129,6 +137,7 @@ void readVolume(Reader &reader, SimulatedPartition &partition) {
   partition.volumeName = reader.text(u"name"_s);
   partition.volumeUUID = reader.text(u"uuid"_s);
   partition.usedBy = reader.texts(u"usedBy"_s);
+  partition.volumeSubtype = reader.count(u"subtype"_s);
   const QString mountPoint = reader.text(u"mountPoint"_s);
   if (mountPoint.contains(u'/') && !mountPoint.startsWith(u'/')) {
     reader.fail(u"mountPoint"_s, u"an absolute path or a name without \"/\" is needed"_s);
@@ -179,6 +188,8 @@ SimulatedDisk readDisk(Reader &reader) {
   disk.isWritable = reader.flag(u"writable"_s, true);
   disk.isEjectable = reader.flag(u"ejectable"_s, false);
   disk.isInternal = reader.flag(u"internal"_s, false);
+  disk.physicalBlockSize = reader.count(u"physicalBlockSize"_s);
+  disk.logicalBlockSize = reader.count(u"logicalBlockSize"_s);
   QSet<int> slices;
   reader.forEach(u"partitions"_s, [&](Reader &each) {
     disk.partitions.append(readPartition(each));
@@ -203,6 +214,7 @@ Machine readMachine(const QJsonValue &root) {
   Machine machine;
   Reader reader(root, QString());
   machine.productVersion = reader.text(u"productVersion"_s, machine.productVersion);
+  machine.isPrivileged = reader.flag(u"root"_s, machine.isPrivileged);
   machine.presence = readPresence(reader);
   if (machine.presence == DiskService::Presence::Asking) {
     const int after = reader.number(u"answersAfter"_s, 0, kLargestDelay, -1);
@@ -243,4 +255,16 @@ std::variant<Machine, MachineFileError> readMachineFile(const QByteArray &json) 
     if (problem.place.isEmpty()) return MachineFileError{u"line 1, column 1"_s, problem.reason};
     return problem;
   }
+}
+
+std::variant<Machine, MachineFileError> loadMachineFile(const QString &fileName) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly)) return MachineFileError{fileName, file.errorString()};
+  const QByteArray json = file.read(kLargestFile + 1);
+  if (json.size() > kLargestFile) return MachineFileError{fileName, u"the file is too large"_s};
+  auto machine = readMachineFile(json);
+  if (auto *error = std::get_if<MachineFileError>(&machine)) {
+    error->place = fileName + ": "_L1 + error->place;
+  }
+  return machine;
 }

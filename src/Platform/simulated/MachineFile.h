@@ -11,10 +11,13 @@
 //
 // A mount point without a "/" is a folder in the machine's volumes folder. Further keys:
 //
-//   machine     "productVersion", "service", "answersAfter"
-//   disk        "uuid", "protocol", "device", "writable", "ejectable", "internal"
+//   machine     "productVersion", "root" (whether its user is, as is the rule), "service",
+//               "answersAfter"
+//   disk        "uuid", "protocol", "device", "writable", "ejectable", "internal",
+//               "physicalBlockSize", "logicalBlockSize" (in bytes)
 //   partition   "content", "uuid", "device", "mishap"
-//   volume      "uuid", "usedBy" (a list of processes, such as "vim (4711)")
+//   volume      "uuid", "subtype" (0, 1 and 2 are FAT12, FAT16 and FAT32), "usedBy" (a list of
+//               processes, such as "vim (4711)")
 //
 // How the service behaves:
 //
@@ -40,6 +43,9 @@ struct MachineFileError {
   QString text() const { return place + QStringLiteral(": ") + reason; }
 };
 
-/// The machine, or the first thing that is wrong with the file. A key that is not known is an
+/// The machine, or the first thing that is wrong with the text. A key that is not known is an
 /// error.
 std::variant<Machine, MachineFileError> readMachineFile(const QByteArray &json);
+
+/// The same for what is in a file.
+std::variant<Machine, MachineFileError> loadMachineFile(const QString &fileName);

@@ -49,13 +49,26 @@ std::optional<DiskDescription> SimulatedPlatform::descriptionOfMedia(const QStri
 
 std::optional<DiskDescription> SimulatedPlatform::descriptionOfVolume(
     const QString &mountPoint) const {
-  if (_machine.presence != Presence::Answering) return std::nullopt;
-  for (const SimulatedDisk &disk : _machine.disks) {
-    for (const SimulatedPartition &partition : disk.partitions) {
-      if (partition.mountPoint == mountPoint) return describe(disk, partition);
-    }
-  }
-  return std::nullopt;
+  const auto place = placeOfVolume(mountPoint);
+  if (_machine.presence != Presence::Answering || !place) return std::nullopt;
+  const SimulatedDisk &disk = _machine.disks[place->disk];
+  return describe(disk, disk.partitions[place->partition]);
+}
+
+std::optional<quint32> SimulatedPlatform::fileSystemSubtype(const QString &mountPoint) const {
+  const auto place = placeOfVolume(mountPoint);
+  if (!place) return std::nullopt;
+  return _machine.disks[place->disk].partitions[place->partition].volumeSubtype;
+}
+
+std::optional<quint32> SimulatedPlatform::physicalBlockSize(const QString &bsdName) const {
+  const SimulatedDisk *disk = wholeDisk(bsdName);
+  return disk == nullptr ? std::nullopt : disk->physicalBlockSize;
+}
+
+std::optional<quint32> SimulatedPlatform::logicalBlockSize(const QString &bsdName) const {
+  const SimulatedDisk *disk = wholeDisk(bsdName);
+  return disk == nullptr ? std::nullopt : disk->logicalBlockSize;
 }
 
 QStringList SimulatedPlatform::processesUsing(const QString &mountPoint) const {
@@ -81,6 +94,23 @@ QStringList SimulatedPlatform::mediaNamesOnDisk(const QString &wholeDisk) const 
   QStringList names = {wholeDisk};
   for (const SimulatedPartition &partition : disk.partitions) names += disk.bsdName(partition);
   return names;
+}
+
+std::optional<SimulatedPlatform::Place> SimulatedPlatform::placeOfVolume(
+    const QString &mountPoint) const {
+  for (qsizetype disk = 0; disk < _machine.disks.size(); ++disk) {
+    const auto &partitions = _machine.disks[disk].partitions;
+    for (qsizetype partition = 0; partition < partitions.size(); ++partition) {
+      if (partitions[partition].mountPoint == mountPoint) return Place{disk, partition};
+    }
+  }
+  return std::nullopt;
+}
+
+const SimulatedDisk *SimulatedPlatform::wholeDisk(const QString &bsdName) const {
+  const auto place = _places.constFind(bsdName);
+  if (place == _places.cend() || place->partition != kWholeDisk) return nullptr;
+  return &_machine.disks[place->disk];
 }
 
 SimulatedPlatform::Found SimulatedPlatform::find(const QString &bsdName) {

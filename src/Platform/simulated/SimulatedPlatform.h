@@ -40,6 +40,7 @@ class SimulatedSystemFiles final : public SystemFiles {
 class SimulatedPlatform final : public Platform,
                                 public DiskService,
                                 public MediaRegistry,
+                                public RawDevices,
                                 public SystemPrograms {
  public:
   SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock);
@@ -48,6 +49,7 @@ class SimulatedPlatform final : public Platform,
   // The roles.
   DiskService &diskService() override { return *this; }
   MediaRegistry &mediaRegistry() override { return *this; }
+  RawDevices &rawDevices() override { return *this; }
   RunLoop &runLoop() override { return _runLoop; }
   Clock &clock() override { return *_clock; }
   SystemFiles &systemFiles() override { return _systemFiles; }
@@ -68,6 +70,10 @@ class SimulatedPlatform final : public Platform,
   void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
   QStringList mediaNames() const override;
   QStringList mediaNamesOnDisk(const QString &wholeDisk) const override;
+  bool isPrivileged() const override { return _machine.isPrivileged; }
+  std::optional<quint32> fileSystemSubtype(const QString &mountPoint) const override;
+  std::optional<quint32> physicalBlockSize(const QString &bsdName) const override;
+  std::optional<quint32> logicalBlockSize(const QString &bsdName) const override;
   /// There are /bin/df, /sbin/mount and /sbin/umount, the last for forced unmounts only. Whatever
   /// refuses a mount by the service refuses it by the program.
   ProgramRun run(const QString &path, const QStringList &arguments) override;
@@ -114,6 +120,9 @@ class SimulatedPlatform final : public Platform,
   };
 
   Found find(const QString &bsdName);
+  std::optional<Place> placeOfVolume(const QString &mountPoint) const;
+  /// Null for a partition.
+  const SimulatedDisk *wholeDisk(const QString &bsdName) const;
   /// After disks have come or gone.
   void learnPlaces();
 

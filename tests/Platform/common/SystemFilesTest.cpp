@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "DiskArbitrator/SystemVersion.h"
 #include "Platform/common/BinaryPropertyList.h"
 #include "Platform/common/FileSystemFiles.h"
 #include "Platform/common/PropertyList.h"
@@ -98,6 +100,25 @@ TEST(SystemFiles, AnswerForTheFileAsItIsNow) {
   EXPECT_EQ(files.propertyList("/v.plist").value("ProductVersion"), "10.9");
   QFile::remove(name);
   EXPECT_TRUE(files.propertyList("/v.plist").isEmpty());
+}
+
+TEST(SystemVersion, IsReadFromTheFirstFileThatIsThere) {
+  const QTemporaryDir root;
+  const FileSystemFiles files(root.path());
+  const QString folder = root.filePath("System/Library/CoreServices");
+  ASSERT_TRUE(QDir().mkpath(folder));
+  EXPECT_EQ(minorVersion(files), 0);
+  write(folder + "/ServerVersion.plist", xmlWithVersion("10.7"));
+  EXPECT_EQ(minorVersion(files), 7);
+  write(folder + "/SystemVersion.plist", xmlWithVersion("10.9.5"));
+  EXPECT_EQ(minorVersion(files), 9);
+  const QByteArray number =
+      "<plist><dict><key>ProductVersion</key><real>10.9</real></dict></plist>";
+  for (const QByteArray &malformed :
+       {QByteArray(), number, xmlWithVersion("10.9").first(80), QByteArray(20'000'000, ' ')}) {
+    write(folder + "/SystemVersion.plist", malformed);
+    EXPECT_EQ(minorVersion(files), 0);
+  }
 }
 
 TEST(SystemFiles, APipeInAFilesPlaceIsNotWaitedFor) {

@@ -1,0 +1,40 @@
+// What the service and the kernel say of a real file system and device.
+
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "disks/DiskTest.h"
+
+namespace {
+
+class Probes : public DiskTest {};
+
+}  // namespace
+
+TEST_F(Probes, TellTheSizesThatTheKernelTells) {
+  const QString device = addSystemPartition("SIZES");
+  const CurrentPlatform current(*platform);
+  const QString disk = device.section('p', 0, -2);
+  const QByteArray physical = DiskLab::run("blockdev", {"--getpbsz", disk}).trimmed();
+  EXPECT_EQ(DiskArbitrator::findSectorSize(nameOf(device)), "Physical " + physical + "-bytes");
+  const QByteArray logical = DiskLab::run("blockdev", {"--getss", disk}).trimmed();
+  EXPECT_EQ(platform->rawDevices().logicalBlockSize(nameOf(disk)), logical.toUInt());
+}
+
+// No kernel is needed that mounts FAT: it is written over a file system while that is mounted.
+TEST_F(Probes, TellTheWidthOfFATAsTheServiceReadsIt) {
+  const QString device = addSystemPartition("COVERED");
+  const QString name = nameOf(device);
+  const CurrentPlatform current(*platform);
+  EXPECT_EQ(DiskArbitrator::findFileSystemPersonality(name), "ext4");
+  ASSERT_EQ(mount(name), kDAReturnSuccess);
+  for (const char *width : {"12", "16", "32"}) {
+    const QString image = DiskLab::imageFile(width);
+    DiskLab::run("mkfs.vfat", {"-F", width, "-C", image, "16384"});
+    DiskLab::run("dd", {"if=" + image, "of=" + device, "bs=64K", "count=1", "conv=fsync"});
+    DiskLab::run("udevadm", {"trigger", "--action=change", "--settle", device});
+    const QString answer = QString("Fat") + width;
+    EXPECT_TRUE(waitFor([&] {
+      return value(name, kDADiskDescriptionVolumeKindKey) == "msdos" &&
+             DiskArbitrator::findFileSystemPersonality(name) == answer;
+    })) << DiskArbitrator::findFileSystemPersonality(name).value_or("").toStdString();
+  }
+}
