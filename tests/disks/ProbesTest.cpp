@@ -7,6 +7,10 @@ namespace {
 
 class Probes : public DiskTest {};
 
+QByteArray queried(const QStringList &words) {
+  return DiskLab::run(QCoreApplication::applicationDirPath() + "/keldra-query", words).trimmed();
+}
+
 }  // namespace
 
 TEST_F(Probes, TellTheSizesThatTheKernelTells) {
@@ -37,4 +41,12 @@ TEST_F(Probes, TellTheWidthOfFATAsTheServiceReadsIt) {
              DiskArbitrator::findFileSystemPersonality(name) == answer;
     })) << DiskArbitrator::findFileSystemPersonality(name).value_or("").toStdString();
   }
+}
+
+TEST_F(Probes, AreAnsweredFromOutside) {
+  const QString device = addSystemPartition("OUTSIDE");
+  const QString name = nameOf(device);
+  EXPECT_EQ(queried({"findDeviceNode", name}), "\"" + device.toUtf8() + "\"");
+  ASSERT_EQ(mount(name), kDAReturnSuccess);
+  EXPECT_EQ(queried({"findBSDName", mountPointOf(name)}), "\"" + name.toUtf8() + "\"");
 }
