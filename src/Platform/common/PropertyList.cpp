@@ -20,9 +20,9 @@ PropertyList parse(const QByteArray &bytes) {
   plist_t root = nullptr;
   const auto length = static_cast<uint32_t>(bytes.size());
   if (plist_is_binary(bytes.constData(), length) != 0) {
-    if (!isBinaryPropertyListBounded(bytes)) return {nullptr, plist_free};
+    if (!isSoundBinaryPropertyList(bytes)) return {nullptr, plist_free};
     plist_from_bin(bytes.constData(), length, &root);
-  } else {
+  } else if (!bytes.contains('\0')) {  // over a text with one, the library ends the program
     plist_from_xml(bytes.constData(), length, &root);
   }
   return {root, plist_free};

@@ -18,6 +18,18 @@ QByteArray xmlWithVersion(const QByteArray &version) {
          version + "</string><key>Build</key><integer>7</integer></dict></plist>";
 }
 
+// {"a": "b"}
+const QByteArray kSmallestBinary = QByteArray::fromHex(
+    "62706c6973743030"
+    "d10102"
+    "5161"
+    "5162"
+    "080b0d"
+    "0000000000000101"
+    "0000000000000003"
+    "0000000000000000"
+    "000000000000000f");
+
 void write(const QString &name, const QByteArray &bytes) {
   QFile file(name);
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -31,18 +43,7 @@ TEST(PropertyLists, AreReadInBothForms) {
   EXPECT_EQ(fromXml.value("ProductVersion"), "10.11.6");
   EXPECT_EQ(fromXml.value("Build").toInt(), 7);
 
-  // The smallest binary one: {"a": "b"}.
-  const QByteArray binary = QByteArray::fromHex(
-      "62706c6973743030"
-      "d10102"
-      "5161"
-      "5162"
-      "080b0d"
-      "0000000000000101"
-      "0000000000000003"
-      "0000000000000000"
-      "000000000000000f");
-  EXPECT_EQ(dictionaryFromPropertyList(binary).value("a"), "b");
+  EXPECT_EQ(dictionaryFromPropertyList(kSmallestBinary).value("a"), "b");
 }
 
 TEST(PropertyLists, ThatAreNoneAreEmpty) {
@@ -51,6 +52,14 @@ TEST(PropertyLists, ThatAreNoneAreEmpty) {
         QByteArray(100, '\0'), QByteArray("<plist><array><string>a</string></array></plist>"),
         QByteArray(R"({"a": 1})")}) {
     EXPECT_TRUE(dictionaryFromPropertyList(bytes).isEmpty()) << bytes.constData();
+  }
+}
+
+// The library would end the program.
+TEST(PropertyLists, WithANulInATextAreEmpty) {
+  for (QByteArray bytes : {kSmallestBinary, xmlWithVersion("b")}) {
+    bytes[bytes.lastIndexOf('b')] = '\0';
+    EXPECT_TRUE(dictionaryFromPropertyList(bytes).isEmpty());
   }
 }
 
@@ -83,9 +92,9 @@ TEST(PropertyLists, ThatWouldTakeAllMemoryOrStackAreEmpty) {
     return bytes + table + number(0x0302, 8) + number(objects.size(), 8) + number(0, 8) +
            number(bytes.size(), 8);
   };
-  EXPECT_TRUE(isBinaryPropertyListBounded(nestedBinary(12, 2)));
-  EXPECT_FALSE(isBinaryPropertyListBounded(nestedBinary(60, 2))) << "2 to the 60th objects";
-  EXPECT_FALSE(isBinaryPropertyListBounded(nestedBinary(60000, 1)));
+  EXPECT_TRUE(isSoundBinaryPropertyList(nestedBinary(12, 2)));
+  EXPECT_FALSE(isSoundBinaryPropertyList(nestedBinary(60, 2))) << "2 to the 60th objects";
+  EXPECT_FALSE(isSoundBinaryPropertyList(nestedBinary(60000, 1)));
   EXPECT_TRUE(dictionaryFromPropertyList(nestedBinary(60, 2)).isEmpty());
 }
 
