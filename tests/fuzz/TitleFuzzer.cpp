@@ -1,0 +1,27 @@
+// What is painted and printed of button titles, which hold the names of volumes.
+
+#include <QList>
+#include <algorithm>
+
+#include "Foundation/Text.h"
+#include "Interface/PlainText.h"
+#include "Query/Answers.h"
+#include "fuzz/Fuzzer.h"
+
+namespace {
+
+bool isHarmlessText(const QString &text) {
+  const auto characters = text.toUcs4();
+  return std::all_of(characters.begin(), characters.end(), isHarmless);
+}
+
+}  // namespace
+
+void fuzz(const QByteArray &bytes) {
+  const QString title = QStringLiteral("open /") + QString::fromUtf8(bytes);
+  mustHold(isHarmlessText(printable(title)) && isHarmlessText(quoted(title)));
+  const QString bare = withoutMarkup(title);
+  mustHold(isHarmlessText(bare) && !bare.contains(u'<') && !bare.contains(u'&'));
+  mustHold(lastPathComponent(title).size() <= title.size());
+  leadingInteger(title);
+}
