@@ -89,7 +89,10 @@ void InfoWindow::setFacts(const Facts &facts) {
   _rows = new QFormLayout(_table);
   _rows->setContentsMargins(0, 0, 0, 0);
   _rows->setHorizontalSpacing(Look(this).margin());
-  for (const auto &[subject, value] : facts) _rows->addRow(subject, makeValue(value));
+  _rows->setLabelAlignment(Qt::AlignLeading | Qt::AlignTop);
+  for (const auto &[subject, value] : facts) {
+    if (!value.isEmpty()) _rows->addRow(subject, makeValue(value));
+  }
   adjustSize();
 }
 

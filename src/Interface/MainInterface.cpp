@@ -1,5 +1,6 @@
 #include "Interface/MainInterface.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -23,7 +24,7 @@ MainInterface::MainInterface()
       _infoWindow(std::make_unique<InfoWindow>()) {
   registerPictures();
   _popover->setWindowTitle(u"Keldra"_s);
-  _popover->setWindowIcon(QIcon(u":/Keldra.png"_s));
+  QApplication::setWindowIcon(QIcon(u":/Keldra.png"_s));
   _popover->setContentView(makeContent());
   _openAction = _menu->addAction(tr("Open Keldra"));
   _menu->addSeparator();

@@ -29,6 +29,11 @@ PopoverPlacement placePopover(const QSize &panel, const QRect &anchor, Qt::Edge 
   const int tip = anchor.center().x();
   place.moveLeft(clamped(tip - panel.width() / 2, available.left() + metrics.screenMargin,
                          available.right() + 1 - metrics.screenMargin - panel.width()));
+  const bool isBeside = anchor.right() < available.left() || anchor.left() > available.right();
+  if (isBeside) {
+    place.moveTop(clamped(anchor.center().y() - panel.height() / 2, highest, lowest));
+    return {place, std::nullopt, 0};
+  }
   const int arrowX =
       clamped(tip - place.left(), metrics.arrowInset, panel.width() - metrics.arrowInset);
   return {place, over ? Qt::BottomEdge : Qt::TopEdge, arrowX};

@@ -20,6 +20,7 @@ struct PopoverMetrics {
 
 /// Places a panel of this size at the anchor, on its `preferredEdge` (top or bottom), or on the
 /// other side when only that one has room. `available` is the part of the screen that is free for
-/// windows; the panel lies within it where it fits. A null anchor: in the middle, without an arrow.
+/// windows; the panel lies within it where it fits. An anchor in a bar at the side of the screen has
+/// it beside it, a null one in the middle, both without an arrow.
 PopoverPlacement placePopover(const QSize &panel, const QRect &anchor, Qt::Edge preferredEdge,
                               const QRect &available, const PopoverMetrics &metrics);

@@ -101,6 +101,8 @@ const QVector<Operation> &operations() {
       ofReference("findMountPointLegacy"_L1, DA::findMountPointLegacy,
                   "Where it is mounted, as /bin/df says."_L1),
       ofReference("isMountPointValid"_L1, DA::isMountPointValid, "Whether it is mounted."_L1),
+      ofReference("findProcessesUsing"_L1, DA::findProcessesUsing,
+                  "The processes that use it while it is mounted."_L1),
       ofReference("findDeviceNode"_L1, DA::findDeviceNode, "What other programs call it."_L1),
       ofReference("findPartitionSchemeMap"_L1, DA::findPartitionSchemeMap,
                   "The partition scheme of its disk."_L1),

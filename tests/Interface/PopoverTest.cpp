@@ -50,6 +50,16 @@ TEST(PopoverPlacementTest, WithoutAnAnchorInTheMiddle) {
   EXPECT_EQ(place.panel.center(), kScreen.center());
 }
 
+TEST(PopoverPlacementTest, BesideAnItemInABarAtTheSide) {
+  const QRect screen(30, 0, 1220, 800);  // a bar on either side
+  const PopoverPlacement left = at({3, 500, 24, 24}, Qt::BottomEdge, screen);
+  EXPECT_EQ(left.arrowEdge, std::nullopt);
+  EXPECT_EQ(left.panel, QRect(36, 311, 470, 400));
+  const PopoverPlacement right = at({1253, 780, 24, 24}, Qt::BottomEdge, screen);
+  EXPECT_EQ(right.arrowEdge, std::nullopt);
+  EXPECT_EQ(right.panel, QRect(774, 394, 470, 400));
+}
+
 TEST(PopoverPlacementTest, TooSmallAScreenShowsTheTop) {
   const QRect small(0, 0, 320, 200);
   const PopoverPlacement place = at({300, 0, 20, 20}, Qt::BottomEdge, small);

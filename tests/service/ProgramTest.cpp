@@ -16,6 +16,8 @@ class MockedPlatform final : public Platform {
 
   DiskService &diskService() override { return _disks; }
   MediaRegistry &mediaRegistry() override { return _disks; }
+  RawDevices &rawDevices() override { return _rest.rawDevices(); }
+  SystemPrograms &systemPrograms() override { return _rest.systemPrograms(); }
   RunLoop &runLoop() override { return _rest.runLoop(); }
   Clock &clock() override { return _rest.clock(); }
   SystemFiles &systemFiles() override { return _rest.systemFiles(); }
@@ -23,6 +25,7 @@ class MockedPlatform final : public Platform {
   UserDefaults &userDefaults() override { return _rest.userDefaults(); }
   QStringList processesUsing(const QString & /*mountPoint*/) const override { return {}; }
   QString volumesFolder() const override { return folder.path(); }
+  QString legacyVolumesFolder() const override { return folder.path(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
  private:
