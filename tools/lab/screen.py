@@ -1,8 +1,11 @@
-"""A person's hands and eyes on an X screen: pointer, keyboard, pictures, colours and the icons in the tray."""
+"""A person's hands and eyes on an X screen: pointer, keyboard, pictures, colours and the items in the tray."""
 
 import re
 import subprocess
 import time
+
+import accessibility
+import tray
 
 
 def _run(*words):
@@ -14,10 +17,21 @@ def _pixels(place=None):
     return _run("import", "-window", "root", *crop, "-depth", "8", "rgb:-")
 
 
-def click(place):
-    """A left click in the middle of (left, top, width, height)."""
+def size():
+    width, height = _run("xdotool", "getdisplaygeometry").split()
+    return int(width), int(height)
+
+
+def place_of(node, _window):
+    """Where a widget of the popover is on the screen: (left, top, width, height)."""
+    return node.place()
+
+
+def click(place, button=1, times=1):
+    """In the middle of (left, top, width, height)."""
     left, top, width, height = place
-    _run("xdotool", "mousemove", str(left + width // 2), str(top + height // 2), "click", "1")
+    _run("xdotool", "mousemove", str(left + width // 2), str(top + height // 2),
+         "click", "--repeat", str(times), "--delay", "60", str(button))
 
 
 def press(key):
@@ -32,10 +46,40 @@ def take_picture(file_name):
     _run("import", "-window", "root", str(file_name))
 
 
-def tray_icon(window_class):
-    """Where the tray shows that program's icon, or None."""
-    for panel in _run("xdotool", "search", "--all", "--class", "--name", "^(trayer|panel)$").split():
-        tree = _run("xwininfo", "-tree", "-id", panel).decode()
+def colours(place):
+    """Of the pixels there, row by row, as (red, green, blue)."""
+    pixels = _pixels(place)
+    return list(zip(pixels[0::3], pixels[1::3], pixels[2::3]))
+
+
+def ink_colour(place):
+    """"red" or "blue" if that is the colour of the writing there, else None."""
+    triples = colours(place)
+    red = sum(r - max(g, b) > 80 for r, g, b in triples)
+    blue = sum(b - r > 80 for r, g, b in triples)
+    if max(red, blue) < 20:
+        return None
+    return "red" if red > blue else "blue"
+
+
+def tray_item(window_class):
+    """Where the tray shows that program's item, or None."""
+    return docked_icon(window_class) or _item_in_panel()
+
+
+def _trays():
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "^trayer$"], capture_output=True,
+                          stdin=subprocess.DEVNULL, check=False).stdout.split()
+
+
+def has_trayer():
+    return bool(_trays())
+
+
+def docked_icon(window_class):
+    """Of the X11 protocol for trays: the program's own window in the tray's."""
+    for tray_window in _trays():
+        tree = _run("xwininfo", "-tree", "-id", tray_window).decode()
         icon = re.search(rf'" "{window_class}"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)
         if icon:
             width, height, left, top = map(int, icon.groups())
@@ -43,12 +87,11 @@ def tray_icon(window_class):
     return None
 
 
-def ink_colour(place):
-    """"red" or "blue" if that is the colour of the writing there, else None."""
-    pixels = _pixels(place)
-    triples = list(zip(pixels[0::3], pixels[1::3], pixels[2::3]))
-    red = sum(r - max(g, b) > 80 for r, g, b in triples)
-    blue = sum(b - r > 80 for r, g, b in triples)
-    if max(red, blue) < 20:
+# A panel paints the items of StatusNotifierItem itself. Its only one is the last of what the panel shows.
+def _item_in_panel():
+    panel = accessibility.find_application("xfce4-panel") or accessibility.find_application("lxqt-panel")
+    if not panel or not tray.items():
         return None
-    return "red" if red > blue else "blue"
+    shown = [node.place() for node in panel.descendants() if node.role in ("filler", "push button")]
+    place = next((place for place in reversed(shown) if place[2] > 1), None)
+    return tuple(place) if place else None

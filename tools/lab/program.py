@@ -1,0 +1,127 @@
+"""The running program under a person's hands: what its popover shows is waited for, and its controls are clicked.
+
+    program = Program(["bin/keldra-demo", "machine.json"], screen)
+    program.open()
+    program.click("mount disk0s1")
+    program.wait_for_view("it should be mounted", lambda view: view.mounted_at("disk0s1"))
+    program.end()
+
+`screen` is the module for the desktop in use: screen.py or wayland_screen.py. What does not come true in time raises
+`Failure`.
+"""
+
+import contextlib
+import subprocess
+import time
+
+import accessibility
+from popover import View
+
+# A refused unmount takes the program some five seconds.
+PATIENCE_S = 15
+_POLL_S = 0.03
+
+
+class Failure(Exception):
+    """What should have been was not."""
+
+
+class Program:
+    def __init__(self, command, screen):
+        self._screen = screen
+        self._process = subprocess.Popen(command, stdin=subprocess.DEVNULL)
+
+    def window(self):
+        """The popover's, or None while it is closed."""
+        program = accessibility.find_application("keldra")
+        for node in program.children() if program else []:
+            if node.is_showing() and any(child.role == "list" or child.name == "Quit" for child in node.descendants()):
+                return node
+        return None
+
+    def view(self):
+        """None while the popover is closed."""
+        window = self.window()
+        return View(window) if window else None
+
+    def place(self, control=None):
+        """Of the popover or of a control in it, on the screen."""
+        window = self.wait_for("the popover should be open", self.window)
+        return self._screen.place_of(control or window, window)
+
+    def wait_for(self, what, condition):
+        """The first true value of `condition`, which may ask for things that come and go."""
+        deadline = time.monotonic() + PATIENCE_S
+        while True:
+            with contextlib.suppress(accessibility.Gone, subprocess.CalledProcessError):
+                if value := condition():
+                    return value
+            if self._process.poll() is not None:
+                raise Failure(f"{what}, but the program ended with status {self._process.returncode}")
+            if time.monotonic() > deadline:
+                raise Failure(what)
+            time.sleep(_POLL_S)
+
+    def wait_for_view(self, what, condition):
+        def looked():
+            view = self.view()
+            return view if view and condition(view) else None
+        return self.wait_for(what, looked)
+
+    def wait_until_closed(self):
+        self.wait_for("the popover should be closed", lambda: self.window() is None)
+
+    def wait_for_item(self):
+        """Where the program's item is in the tray."""
+        return self.wait_for("an item should appear in the tray", lambda: self._screen.tray_item("keldra"))
+
+    def open(self):
+        """By a click on the item."""
+        clicked = float("-inf")
+
+        # A click that comes right after the popover closed counts as part of what closed it: click again, then.
+        def opened():
+            nonlocal clicked
+            window = self.window()
+            item = self._screen.tray_item("keldra")
+            if not window and item and time.monotonic() > clicked + 1:
+                self._screen.click(item)
+                clicked = time.monotonic()
+            return window
+        self.wait_for("the popover should open", opened)
+        return self.wait_for_view("the popover should show its controls", lambda view: "Quit" in view.controls)
+
+    def click(self, title):
+        view = self.wait_for_view(f'there should be "{title}" to click',
+                                  lambda view: view.button(title) or title in view.controls)
+        self._screen.click(self.place(view.button(title) or view.controls[title]))
+
+    def focus(self, title):
+        """By the keyboard alone."""
+        for _ in range(60):
+            view = self.wait_for_view("the popover should be open", lambda view: True)
+            control = view.button(title) or view.controls.get(title)
+            if control and control.is_focused():
+                return
+            self._screen.press("Tab")
+        raise Failure(f'the Tab key should reach "{title}"')
+
+    def wait_for_end(self):
+        try:
+            status = self._process.wait(PATIENCE_S)
+        except subprocess.TimeoutExpired:
+            raise Failure("the program should end") from None
+        if status != 0:
+            raise Failure(f"the program should end with status 0, not {status}")
+
+    def is_running(self):
+        return self._process.poll() is None
+
+    def end(self):
+        """In any case, and at once if need be."""
+        if self._process.poll() is None:
+            self._process.terminate()
+            with contextlib.suppress(subprocess.TimeoutExpired):
+                self._process.wait(5)
+            self._process.kill()
+            self._process.wait()
