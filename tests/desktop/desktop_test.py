@@ -1,0 +1,117 @@
+"""What the tests on private desktops share: a machine, the program on it, and panels that come and go.
+
+Each test file is a program of its own, run on a private desktop: FILE_test.py KELDRA_DEMO [PANEL [-k TEST]...]. It
+ends with 77 and a reason where what it needs is not installed.
+"""
+
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+LAB = pathlib.Path(__file__).resolve().parents[2] / "tools" / "lab"
+sys.path.insert(0, str(LAB))
+import accessibility  # noqa: E402
+import tray  # noqa: E402
+from program import Program  # noqa: E402
+
+PROGRAM = sys.argv[1]
+
+
+def partition(name, **more):
+    return {"slice": 1, "media": "EFI System Partition", "volume": {"kind": "msdos", "name": name}, **more}
+
+
+def machine(*partitions):
+    return {"disks": [{"unit": unit, "media": f"Disk {unit}", "scheme": "GUID_partition_scheme", "partitions": [esp]}
+                      for unit, esp in enumerate(partitions)]}
+
+
+# disk0s1 obliges at once, disk1s1 after a while, and disk2s1 refuses after a while.
+MACHINE = machine(partition("EFI"), partition("SLOW", delay=1200),
+                  partition("LOCKED", delay=1200, refuse={"mount": "not privileged"}))
+
+
+class DesktopTest(unittest.TestCase):
+    screen = None  # the module for the desktop in use
+
+    def start(self, *command):
+        quiet = subprocess.DEVNULL
+        process = subprocess.Popen(command, stdin=quiet, stdout=quiet, stderr=quiet)
+        self.addCleanup(self.end, process)
+        return process
+
+    def wait_for(self, what, condition):
+        deadline = time.monotonic() + 10
+        while not condition():
+            self.assertLess(time.monotonic(), deadline, what)
+            time.sleep(0.03)
+
+    @staticmethod
+    def end(process):
+        """At once, as by a crash."""
+        process.kill()
+        process.wait()
+
+    def start_panel(self, kind, edge="top"):
+        """And waits for its tray."""
+        panel = self.start(LAB / "panel", kind, edge)
+        self.wait_for("there should be a tray", tray.has_host if kind != "trayer" else self.screen.has_trayer)
+        return panel
+
+    def start_program(self):
+        """And waits until it is up, which is not to say that there is a tray."""
+        with tempfile.NamedTemporaryFile("w", suffix=".json", delete=False) as file:
+            json.dump(MACHINE, file)
+        self.addCleanup(os.unlink, file.name)
+        program = Program([PROGRAM, file.name], self.screen)
+        self.addCleanup(program.end)
+        program.wait_for("the program should be up", self.is_up)
+        return program
+
+    @staticmethod
+    def is_up():
+        program = accessibility.find_application("keldra")
+        return program and program.children()
+
+    def launch_again(self):
+        """The exit status of a second program, which leaves everything to the first."""
+        return subprocess.run([PROGRAM], stdin=subprocess.DEVNULL, timeout=10, check=False).returncode
+
+    def assert_open(self, program):
+        program.wait_for("the popover should be open", program.window)
+
+    def assert_stays(self, condition, what):
+        """For longer than a click takes to have its effects."""
+        deadline = time.monotonic() + 0.5
+        while time.monotonic() < deadline:
+            self.assertTrue(condition(), what)
+            time.sleep(0.03)
+
+    def assert_stays_open(self, program):
+        self.assert_open(program)
+        self.assert_stays(program.window, "the popover should stay open")
+
+    def assert_stays_closed(self, program):
+        program.wait_until_closed()
+        self.assert_stays(lambda: not program.window(), "the popover should stay closed")
+
+    def assert_on_screen(self, place):
+        left, top, width, height = place
+        screen_width, screen_height = self.screen.size()
+        self.assertTrue(left >= 0 and top >= 0 and left + width <= screen_width and top + height <= screen_height,
+                        f"{place} should be on the screen")
+
+
+def main(*needed):
+    """Runs the tests of the file."""
+    missing = [tool for tool in needed if not shutil.which(tool)]
+    if missing:
+        print(f"not possible here: there is no {missing[0]}", file=sys.stderr)
+        sys.exit(77)
+    unittest.main(argv=[sys.argv[0], *sys.argv[3:]], verbosity=2)

@@ -1,0 +1,105 @@
+"""The popover on the item in a panel's tray: tray_test.py KELDRA_DEMO trayer|xfce|lxqt."""
+
+import sys
+
+from desktop_test import DesktopTest, main
+
+import screen
+
+KIND = sys.argv[2]
+
+
+def centre(place):
+    left, top, width, height = place
+    return left + width // 2, top + height // 2
+
+
+class TrayTest(DesktopTest):
+    screen = screen
+
+    def open_program(self, edge="top"):
+        """A program with its popover open, in a tray that was there before."""
+        self.start_panel(KIND, edge)
+        program = self.start_program()
+        program.open()
+        return program
+
+    def test_program_comes_before_the_panel(self):
+        program = self.start_program()
+        self.start_panel(KIND)
+        program.open()
+
+    def test_panel_is_killed_and_comes_back(self):
+        panel = self.start_panel(KIND)
+        program = self.start_program()
+        for _ in range(2):
+            program.wait_for_item()
+            self.end(panel)
+            program.wait_for("the item should be gone", lambda: not screen.tray_item("keldra"))
+            panel = self.start_panel(KIND)
+        program.open()
+
+    def test_hangs_under_the_item(self):
+        place, item = self.open_at("top")
+        self.assertLess(abs(place[1] - item[1] - item[3]), 12, f"{place} should begin under {item}")
+        self.assert_arrow(place, centre(item)[0], place[1] + 4)
+
+    def test_stands_on_the_item(self):
+        place, item = self.open_at("bottom")
+        self.assertLess(abs(item[1] - place[1] - place[3]), 12, f"{place} should begin over {item}")
+        self.assert_arrow(place, centre(item)[0], place[1] + place[3] - 5)
+
+    def test_item_at_the_left(self):
+        self.open_at("left")
+
+    def test_item_at_the_right(self):
+        self.open_at("right")
+
+    def open_at(self, edge):
+        program = self.open_program(edge)
+        place, item = program.place(), screen.tray_item("keldra")
+        self.assert_on_screen(place)
+        return place, item
+
+    def assert_arrow(self, place, x, y):
+        """The popover's colour at x, and not beside it."""
+        ground = screen.colours((place[0] + 30, place[1] + 30, 1, 1))
+        row = screen.colours((x - 15, y, 31, 1))
+        self.assertEqual([row[15]], ground, "the arrow should be on the item")
+        self.assertNotIn(ground[0], (row[0], row[30]), "the arrow should be narrow")
+
+    def test_click_mounts(self):
+        program = self.open_program()
+        program.click("mount disk0s1")
+        view = program.wait_for_view("disk0s1 should be mounted", lambda view: view.mounted_at("disk0s1"))
+        path = view.mounted_at("disk0s1")
+        program.wait_for_view("the status line should say so", lambda view: view.status == f"disk0s1 mouted at {path}")
+
+    def test_clicks_on_the_item(self):
+        program = self.open_program()
+        item = screen.tray_item("keldra")
+        self.assert_stays_open(program)  # so that the next click is not the second of a double click
+        screen.click(item)
+        self.assert_stays_closed(program)
+        screen.click(item)
+        self.assert_stays_open(program)
+        screen.press("Escape")
+        self.assert_stays_closed(program)
+        screen.click(item, times=2)
+        self.assert_stays_open(program)
+
+    def test_menu_of_the_item(self):
+        self.start_panel(KIND)
+        program = self.start_program()
+        left, top, width, height = item = program.wait_for_item()
+        below = (left - 20, top + height + 2, width + 20, 20)
+        before = screen.colours(below)
+        screen.click(item, button=3)
+        program.wait_for("a menu should open", lambda: screen.colours(below) != before)
+        screen.press("Down")
+        screen.press("Return")  # "Open Keldra"
+        self.assert_stays_open(program)
+
+
+if __name__ == "__main__":
+    main({"xfce": "xfce4-panel", "lxqt": "lxqt-panel"}.get(KIND, KIND))

@@ -1,0 +1,67 @@
+"""The popover where no program may place its windows or watch others' input: wayland_test.py KELDRA_DEMO."""
+
+import subprocess
+
+from desktop_test import DesktopTest, main
+
+import wayland_screen
+
+
+class WaylandTest(DesktopTest):
+    screen = wayland_screen
+
+    def setUp(self):
+        wayland_screen.hands()  # plugged in before the program looks
+
+    def test_second_launch_and_keyboard(self):
+        program = self.start_program()
+        self.assertEqual(self.launch_again(), 0)
+        self.assert_stays_open(program)
+        program.focus("mount disk0s1")
+        wayland_screen.press("space")
+        program.wait_for_view("disk0s1 should be mounted", lambda view: view.mounted_at("disk0s1"))
+        wayland_screen.press("Escape")
+        self.assert_stays_closed(program)
+
+    def test_bar_is_killed_and_comes_back(self):
+        program = self.start_program()
+        bar = self.start_panel("swaybar")
+        program.open()
+        self.end(bar)
+        self.start_panel("swaybar")
+        wayland_screen.press("Escape")
+        program.wait_until_closed()
+        program.open()
+
+    def test_clicks(self):
+        self.start_panel("swaybar")
+        program = self.start_program()
+        program.open()
+        program.click("mount disk0s1")
+        program.wait_for_view("disk0s1 should be mounted", lambda view: view.mounted_at("disk0s1"))
+        self.assert_stays_open(program)  # so that the next click is not the second of a double click
+        item = wayland_screen.tray_item("keldra")
+        wayland_screen.click(item)
+        self.assert_stays_closed(program)
+        wayland_screen.click(item)
+        self.assert_stays_open(program)
+
+    def test_popover_has_no_arrow(self):
+        """Which would leave less room at its side than there is elsewhere."""
+        self.start_panel("swaybar")
+        program = self.start_program()
+        program.open()
+        rows = next(node for node in program.window().descendants() if node.role == "list")
+        (left, top, _, _), (window_left, window_top, _, _) = rows.place(), program.window().place()
+        self.assertEqual(top - window_top, left - window_left)
+
+    def test_activation_elsewhere_closes_it(self):
+        program = self.start_program()
+        self.launch_again()
+        self.assert_stays_open(program)
+        subprocess.run(["swaymsg", "workspace", "elsewhere"], check=True, capture_output=True)
+        self.assert_stays_closed(program)
+
+
+if __name__ == "__main__":
+    main("swaybar")
