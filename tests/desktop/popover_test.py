@@ -53,8 +53,7 @@ class PopoverTest(DesktopTest):
         self.open_other_program(program)
         for button in (1, 3):
             self.launch_again()
-            self.assert_open(program)
-            screen.click(program.place(program.view().controls["Status"]), button=button)
+            screen.click(program.place("Status"), button=button)
             self.assert_stays_open(program)
             screen.click(OTHER, button=button)
             self.assert_stays_closed(program)

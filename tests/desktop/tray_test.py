@@ -63,10 +63,10 @@ class TrayTest(DesktopTest):
 
     def assert_arrow(self, place, x, y):
         """The popover's colour at x, and not beside it."""
-        ground = screen.colours((place[0] + 30, place[1] + 30, 1, 1))
-        row = screen.colours((x - 15, y, 31, 1))
-        self.assertEqual([row[15]], ground, "the arrow should be on the item")
-        self.assertNotIn(ground[0], (row[0], row[30]), "the arrow should be narrow")
+        ground, arrow, *beside = (screen.colours((*pixel, 1, 1))[0] for pixel in (
+            (place[0] + 30, place[1] + 30), (x, y), (x - 15, y), (x + 15, y)))
+        self.assertEqual(arrow, ground, "the arrow should be on the item")
+        self.assertNotIn(ground, beside, "the arrow should be narrow")
 
     def test_click_mounts(self):
         program = self.open_program()

@@ -44,10 +44,14 @@ class Program:
         window = self.window()
         return View(window) if window else None
 
-    def place(self, control=None):
-        """Of the popover or of a control in it, on the screen."""
-        window = self.wait_for("the popover should be open", self.window)
-        return self._screen.place_of(control or window, window)
+    def place(self, title=None):
+        """Of the popover, or of the control in it that has the title, on the screen."""
+        def found():
+            window = self.window()
+            view = View(window) if window and title else None
+            control = view.button(title) or view.controls.get(title) if view else window
+            return self._screen.place_of(control, window) if control else None
+        return self.wait_for(f'there should be "{title}"' if title else "the popover should be open", found)
 
     def wait_for(self, what, condition):
         """The first true value of `condition`, which may ask for things that come and go."""
@@ -92,9 +96,7 @@ class Program:
         return self.wait_for_view("the popover should show its controls", lambda view: "Quit" in view.controls)
 
     def click(self, title):
-        view = self.wait_for_view(f'there should be "{title}" to click',
-                                  lambda view: view.button(title) or title in view.controls)
-        self._screen.click(self.place(view.button(title) or view.controls[title]))
+        self._screen.click(self.place(title))
 
     def focus(self, title):
         """By the keyboard alone."""

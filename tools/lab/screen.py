@@ -1,5 +1,9 @@
-"""A person's hands and eyes on an X screen: pointer, keyboard, pictures, colours and the items in the tray."""
+"""A person's hands and eyes on an X screen: pointer, keyboard, pictures, colours and the items in the tray.
 
+Lengths and places are as programs know them, which need not know of a screen's scale.
+"""
+
+import os
 import re
 import subprocess
 import time
@@ -7,19 +11,24 @@ import time
 import accessibility
 import tray
 
+_SCALE = int(os.environ.get("QT_SCALE_FACTOR", 1))
+
 
 def _run(*words):
     return subprocess.run(words, check=True, capture_output=True, stdin=subprocess.DEVNULL).stdout
 
 
+def _crop(place):
+    return ("-crop", "{2}x{3}+{0}+{1}".format(*(_SCALE * length for length in place))) if place else ()
+
+
 def _pixels(place=None):
-    crop = ("-crop", "{2}x{3}+{0}+{1}".format(*place)) if place else ()
-    return _run("import", "-window", "root", *crop, "-depth", "8", "rgb:-")
+    return _run("import", "-window", "root", *_crop(place), "-depth", "8", "rgb:-")
 
 
 def size():
     width, height = _run("xdotool", "getdisplaygeometry").split()
-    return int(width), int(height)
+    return int(width) // _SCALE, int(height) // _SCALE
 
 
 def place_of(node, _window):
@@ -30,7 +39,7 @@ def place_of(node, _window):
 def click(place, button=1, times=1):
     """In the middle of (left, top, width, height)."""
     left, top, width, height = place
-    _run("xdotool", "mousemove", str(left + width // 2), str(top + height // 2),
+    _run("xdotool", "mousemove", str(_SCALE * (left + width // 2)), str(_SCALE * (top + height // 2)),
          "click", "--repeat", str(times), "--delay", "60", str(button))
 
 
@@ -38,12 +47,21 @@ def press(key):
     _run("xdotool", "key", key)
 
 
-def take_picture(file_name):
-    """Of the whole screen, once it has come to rest."""
+def hide_window(name):
+    """Once it is there."""
+    _run("xdotool", "search", "--sync", "--onlyvisible", "--name", f"^{name}", "windowunmap")
+
+
+def move_pointer(x, y):
+    _run("xdotool", "mousemove", str(_SCALE * x), str(_SCALE * y))
+
+
+def take_picture(file_name, place=None):
+    """Of that place or the whole screen, once it has come to rest."""
     before, deadline = None, time.monotonic() + 3
-    while (now := _pixels()) != before and time.monotonic() < deadline:
+    while (now := _pixels(place)) != before and time.monotonic() < deadline:
         before = now
-    _run("import", "-window", "root", str(file_name))
+    _run("import", "-window", "root", *_crop(place), "+repage", str(file_name))
 
 
 def colours(place):
@@ -82,7 +100,7 @@ def docked_icon(window_class):
         tree = _run("xwininfo", "-tree", "-id", tray_window).decode()
         icon = re.search(rf'" "{window_class}"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)
         if icon:
-            width, height, left, top = map(int, icon.groups())
+            width, height, left, top = (int(length) // _SCALE for length in icon.groups())
             return left, top, width, height
     return None
 

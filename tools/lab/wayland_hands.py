@@ -47,9 +47,13 @@ class Hands:
         self._send_keymap()
         self._wait()
 
-    def click(self, x, y):
+    def move(self, x, y):
         self._send(_POINTER, 1, self._now(), x, y, *self._size)
         self._send(_POINTER, 4)
+        self._wait()
+
+    def click(self, x, y):
+        self.move(x, y)
         for state in (1, 0):
             self._send(_POINTER, 2, self._now(), _LEFT_BUTTON, state)
             self._send(_POINTER, 4)

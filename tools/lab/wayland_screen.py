@@ -54,12 +54,22 @@ def press(key):
     hands().press(key)
 
 
-def take_picture(file_name):
-    """Of the whole screen, once it has come to rest."""
+def hide_window(name):
+    """Wherever a program asks for it to be: out of sight."""
+    _run("swaymsg", f'for_window [title="^{name}"] move to scratchpad')
+
+
+def move_pointer(x, y):
+    hands().move(x, y)
+
+
+def take_picture(file_name, place=None):
+    """Of that place or the whole screen, once it has come to rest."""
+    part = ("-g", "{},{} {}x{}".format(*place)) if place else ()
     before, deadline = None, time.monotonic() + 3
-    while (now := _run("grim", "-t", "ppm", "-")) != before and time.monotonic() < deadline:
+    while (now := _run("grim", *part, "-t", "ppm", "-")) != before and time.monotonic() < deadline:
         before = now
-    _run("grim", str(file_name))
+    _run("grim", *part, str(file_name))
 
 
 def tray_item(_name):

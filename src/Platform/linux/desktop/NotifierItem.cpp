@@ -25,11 +25,16 @@ std::optional<QPoint> scaledPlace(const QPoint &native) {
   return std::nullopt;
 }
 
-// Panels that do not know the place say 0, 0. There the pointer is the better guess, where a
-// program may know that.
-QRect placeOfClick(const QPoint &native) {
+// A panel tells the place in the window system's units or in scaled ones, and does not say which: the
+// pointer tells, where a program may know it. Panels that do not know the place say 0, 0.
+QRect placeOfClick(const QPoint &told) {
   const QPoint pointer = QCursor::pos();
-  const QPoint place = native.isNull() ? pointer : scaledPlace(native).value_or(pointer);
+  const QPoint scaled = scaledPlace(told).value_or(told);
+  const auto distance = [&pointer](const QPoint &place) {
+    return (place - pointer).manhattanLength();
+  };
+  QPoint place = distance(told) < distance(scaled) ? told : scaled;
+  if (told.isNull()) place = pointer;
   return place.isNull() ? QRect() : QRect(place, QSize(1, 1));
 }
 
