@@ -5,6 +5,7 @@ import subprocess
 from desktop_test import DesktopTest, main
 from notification_service import NotificationService
 
+import accessibility
 import screen
 
 OTHER = (950, 550, 200, 150)
@@ -20,10 +21,15 @@ class PopoverTest(DesktopTest):
         return program
 
     def open_other_program(self, program):
-        """Its window has the place OTHER."""
+        """Its window, which is the active one, has the place OTHER."""
         self.start("xev", "-geometry", "{2}x{3}+{0}+{1}".format(*OTHER))
-        search = ["xdotool", "search", "--onlyvisible", "--name", "^Event Tester$"]
-        return program.wait_for("another program's window should open", lambda: subprocess.check_output(search)).strip()
+        name = ["xdotool", "getactivewindow", "getwindowname"]
+        program.wait_for("another program's window should open",
+                         lambda: subprocess.check_output(name).strip() == b"Event Tester")
+        # A loss of activation that came later would close a popover which has opened meanwhile.
+        windows = accessibility.find_application("keldra").children()
+        program.wait_for("the program should have noticed", lambda: not any(window.is_active() for window in windows))
+        return subprocess.check_output(["xdotool", "getactivewindow"]).strip()
 
     def test_second_launch_opens_the_popover_in_the_middle(self):
         program = self.open_program()

@@ -92,10 +92,11 @@ class TrayTest(DesktopTest):
         self.start_panel(KIND)
         program = self.start_program()
         left, top, width, height = item = program.wait_for_item()
-        below = (left - 20, top + height + 2, width + 20, 20)
+        below = (left - 60, top + height + 2, width + 60, 60)
         before = screen.colours(below)
         screen.click(item, button=3)
         program.wait_for("a menu should open", lambda: screen.colours(below) != before)
+        screen.wait_for_rest(below)  # its entries come from the program, later
         screen.press("Down")
         screen.press("Return")  # "Open Keldra"
         self.assert_stays_open(program)

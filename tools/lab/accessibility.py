@@ -61,6 +61,9 @@ class Node:
         return bool((low | high << 32) >> number & 1)
 
     # The numbers are the protocol's.
+    def is_active(self):
+        return self._has_state(1)
+
     def is_checked(self):
         return self._has_state(4)
 

@@ -56,11 +56,17 @@ def move_pointer(x, y):
     _run("xdotool", "mousemove", str(_SCALE * x), str(_SCALE * y))
 
 
-def take_picture(file_name, place=None):
-    """Of that place or the whole screen, once it has come to rest."""
+def wait_for_rest(place=None):
+    """Until nothing changes there any more, though not for ever."""
     before, deadline = None, time.monotonic() + 3
     while (now := _pixels(place)) != before and time.monotonic() < deadline:
         before = now
+        time.sleep(0.1)
+
+
+def take_picture(file_name, place=None):
+    """Of that place or the whole screen, once it has come to rest."""
+    wait_for_rest(place)
     _run("import", "-window", "root", *_crop(place), "+repage", str(file_name))
 
 
