@@ -7,7 +7,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QPushButton>
+#include <QSessionManager>
 #include <QSocketNotifier>
+#include <array>
 #include <cerrno>
 #include <csignal>
 
@@ -22,14 +24,15 @@ namespace {
 
 int signalPipe[2] = {-1, -1};
 
-/// A signal asks for the same end as the Quit button: in the event loop, when no row action is
-/// under way.
+/// In the event loop, as often as it comes: the person may want to stay.
 void quitOnSignals(AppDelegate &delegate) {
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0) return;
   for (const int end : signalPipe) fcntl(end, F_SETFD, FD_CLOEXEC);
   auto *notifier = new QSocketNotifier(signalPipe[1], QSocketNotifier::Read, &delegate);
-  QObject::connect(notifier, &QSocketNotifier::activated, &delegate, [notifier, &delegate] {
-    notifier->setEnabled(false);
+  QObject::connect(notifier, &QSocketNotifier::activated, &delegate, [&delegate] {
+    std::array<char, 64> signalsSoFar{};
+    [[maybe_unused]] const auto count =
+        read(signalPipe[1], signalsSoFar.data(), signalsSoFar.size());
     delegate.closeApp();
   });
   struct sigaction action {};
@@ -41,6 +44,24 @@ void quitOnSignals(AppDelegate &delegate) {
   };
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) sigaction(number, &action, nullptr);
 }
+
+/// What the platform quits the program by, which would end it unasked.
+class PlatformQuit : public QObject {
+ public:
+  explicit PlatformQuit(AppDelegate &delegate) : QObject(&delegate), _delegate(delegate) {
+    qApp->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject *watched, QEvent *event) override {
+    if (watched != qApp || event->type() != QEvent::Quit) return false;
+    _delegate.closeApp();
+    event->ignore();
+    return true;
+  }
+
+ private:
+  AppDelegate &_delegate;
+};
 
 /// The windows are dark or light as the person likes them.
 void followInterfaceStyle(const Desktop &desktop) {
@@ -90,6 +111,16 @@ void connectOutlets(MainInterface &interface, AppDelegate &delegate) {
                    &AppDelegate::showPopover);
 }
 
+void quitWithTheSystem(AppDelegate &delegate) {
+  quitOnSignals(delegate);
+  new PlatformQuit(delegate);
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &delegate,
+                   [&delegate](QSessionManager &session) {
+                     const auto mayAsk = [&session] { return session.allowsInteraction(); };
+                     if (!delegate.sessionMayEnd(mayAsk)) session.cancel();
+                   });
+}
+
 int runApplication(Platform &platform, Desktop &desktop) {
   configureApplication();
   if (!desktop.becomeOnlyInstance()) return EXIT_SUCCESS;
@@ -98,7 +129,7 @@ int runApplication(Platform &platform, Desktop &desktop) {
   AppDelegate delegate(platform, desktop);
   MainInterface interface;
   connectOutlets(interface, delegate);
-  quitOnSignals(delegate);
+  quitWithTheSystem(delegate);
   delegate.applicationDidFinishLaunching();
   return QApplication::exec();
 }

@@ -12,5 +12,9 @@ int runApplication(Platform &platform, Desktop &desktop);
 /// Gives the delegate the objects of the interface, and the controls their actions.
 void connectOutlets(MainInterface &interface, AppDelegate &delegate);
 
+/// From now on a signal, the end of the session and the platform's own Quit ask for the same end as the
+/// Quit button.
+void quitWithTheSystem(AppDelegate &delegate);
+
 /// What our QApplication is set up with; called once, after it is made.
 void configureApplication();

@@ -19,6 +19,7 @@
 
 #include "AppDelegate/RowRecord.h"
 #include "Foundation/MainQueue.h"
+#include "Interface/Application.h"
 #include "Interface/Popover.h"
 #include "Interface/TableView.h"
 #include "Platform/Desktop.h"
@@ -27,8 +28,12 @@
 class CheckBox;
 class EmptyView;
 class InfoWindow;
+class ManagedObjectContext;
+class ManagedObjectModel;
+class PersistentStoreCoordinator;
 class Platform;
 class QMenu;
+class QUndoStack;
 class RowButton;
 class StatusItem;
 class TextField;
@@ -73,8 +78,14 @@ class AppDelegate : public QObject,
 
   // Start-up and end.
   void applicationDidFinishLaunching();
-  /// The Quit button. While a row action is under way, the program ends when it is over.
+  /// The Quit button, and whatever else asks for the program's end: it ends, from the event loop, unless
+  /// `applicationShouldTerminate` says no. While a row action is under way, that is asked when it is
+  /// over; while it is being asked already, not once more.
   void closeApp();
+  /// Whether the user's session may end, and the program with it. `mayAsk` tells whether the person may
+  /// be shown dialogs, and is called only when there may be something to ask; without them, unsaved
+  /// changes are saved or, when that fails, keep the session.
+  bool sessionMayEnd(const std::function<bool()> &mayAsk);
 
   // The partition list.
 
@@ -132,11 +143,31 @@ class AppDelegate : public QObject,
   /// Opens the project's page in the browser.
   void visitWebSite();
 
+  // The saved data: a store of objects that comes into being when it is first asked for, and costs
+  // nothing before. What cannot be set up is null after the person has been told why, and is tried anew
+  // the next time.
+
+  /// Made, when it is missing, as the store is set up.
+  QString applicationDocumentsDirectory() const;
+  ManagedObjectModel *managedObjectModel();
+  PersistentStoreCoordinator *persistentStoreCoordinator();
+  ManagedObjectContext *managedObjectContext();
+  /// Commits what is being edited and saves. Failures are shown in dialogs, so not during a row action;
+  /// nothing is lost by them.
+  void saveAction();
+  /// The context's own.
+  QUndoStack *windowWillReturnUndoManager(const QWidget *window);
+  /// Commits and saves a store that is in use, and asks the person when that fails.
+  TerminateReply applicationShouldTerminate(Application &application);
+
   /// Puts the picture that suits the interface style and the screen on the status item.
   void darkModeAndRetina();
 
  private:
   class RowAction;
+
+  std::optional<Error> setUpStore();
+  bool mayTerminate();
 
   /// `siblingLines` holds the lines of the disks that had one before, by their names.
   static RowRecord recordOf(const QString &bsdName, QHash<QString, QString> &siblingLines);
@@ -152,11 +183,17 @@ class AppDelegate : public QObject,
   Platform &_platform;
   Desktop &_desktop;
   MainQueue _mainQueue;
+  Application _application;
+  /// While `applicationShouldTerminate` is being asked.
+  bool _isTerminating = false;
 
   qint64 _lastSelectedRow = -1;
   QVector<RowRecord> _tableViewContents;
   std::unique_ptr<StatusItem> topBarItem;
   bool _showAll = false;
+  std::unique_ptr<PersistentStoreCoordinator> _persistentStoreCoordinator;
+  std::unique_ptr<ManagedObjectModel> _managedObjectModel;
+  std::unique_ptr<ManagedObjectContext> _managedObjectContext;
   std::unique_ptr<EventMonitor> _popoverTransiencyMonitor;
 
   QMenu *_menu = nullptr;

@@ -6,6 +6,9 @@
 #include "Interface/StatusItem.h"
 #include "Interface/TextField.h"
 #include "Platform/Platform.h"
+#include "SavedData/ManagedObjectContext.h"
+#include "SavedData/ManagedObjectModel.h"
+#include "SavedData/PersistentStoreCoordinator.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,9 +68,4 @@ void AppDelegate::applicationDidFinishLaunching() {
   _tableView->setDataSource(this);
   refreshListsOrLog();
   addRefreshObserver();
-}
-
-void AppDelegate::closeApp() {
-  // A nested wait looks at its own flag only, so the program ends when a row action's wait is over.
-  QCoreApplication::exit(0);
 }

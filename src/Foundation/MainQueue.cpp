@@ -24,8 +24,9 @@ void MainQueue::schedule() {
 
 void MainQueue::runJobs() {
   _isScheduled = false;
-  // Jobs that these jobs queue run in a turn of their own.
-  for (std::size_t count = _jobs.size(); count > 0 && _holds == 0; --count) {
+  // Jobs that these jobs queue run in a turn of their own; a job that turns the event loop, as a dialog
+  // does, may have had the rest run already.
+  for (std::size_t count = _jobs.size(); count > 0 && !_jobs.empty() && _holds == 0; --count) {
     const Job job = std::move(_jobs.front());
     _jobs.pop_front();
     job();

@@ -138,6 +138,10 @@ class Platform {
   /// The folder below which ESPs are mounted on an old system: "/Volumes", on a real machine.
   virtual QString legacyVolumesFolder() const = 0;
 
+  /// The folder where programs keep data of this user, each below a name of its own. It need not be
+  /// there.
+  virtual QString applicationSupportFolder() const = 0;
+
   /// Where mounts, unmounts and renames of volumes are posted, under the names below, whoever
   /// caused them. Posted from the run loop, never from inside a question.
   virtual NotificationCenter &workspaceNotificationCenter() = 0;

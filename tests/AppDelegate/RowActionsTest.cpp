@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <QFile>
 #include <QHelpEvent>
 #include <QTimer>
 #include <QToolTip>
 
+#include "support/AsAnybody.h"
 #include "support/OpenedFolders.h"
 #include "support/TestMachine.h"
 
@@ -25,18 +25,6 @@ QString toolTipOf(QWidget *widget) {
   QApplication::sendEvent(widget, &event);
   return QToolTip::text();
 }
-
-/// While it lives, this process may do what anybody may.
-class AsAnybody {
- public:
-  AsAnybody() { EXPECT_TRUE(getuid() != 0 || setresuid(kNobody, kNobody, 0) == 0); }
-  ~AsAnybody() { EXPECT_TRUE(getuid() != kNobody || setresuid(0, 0, 0) == 0); }
-  AsAnybody(const AsAnybody &) = delete;
-  AsAnybody &operator=(const AsAnybody &) = delete;
-
- private:
-  static constexpr uid_t kNobody = 65534;
-};
 
 void later(std::function<void()> action) {
   QTimer::singleShot(5, qApp, std::move(action));

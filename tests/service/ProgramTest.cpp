@@ -26,6 +26,7 @@ class MockedPlatform final : public Platform {
   QStringList processesUsing(const QString & /*mountPoint*/) const override { return {}; }
   QString volumesFolder() const override { return folder.path(); }
   QString legacyVolumesFolder() const override { return folder.path(); }
+  QString applicationSupportFolder() const override { return _rest.applicationSupportFolder(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
  private:

@@ -74,6 +74,9 @@ class LinuxPlatform final : public Platform {
   }
   QString volumesFolder() const override { return mountFolderOfUser(); }
   QString legacyVolumesFolder() const override { return u"/Volumes"_s; }
+  QString applicationSupportFolder() const override {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
  private:

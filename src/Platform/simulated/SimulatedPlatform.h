@@ -59,6 +59,7 @@ class SimulatedPlatform final : public Platform,
   QStringList processesUsing(const QString &mountPoint) const override;
   QString volumesFolder() const override { return _volumes.path(); }
   QString legacyVolumesFolder() const override { return _volumes.path(); }
+  QString applicationSupportFolder() const override { return _applicationSupport.path(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
   Presence presence() const override { return _machine.presence; }
@@ -156,6 +157,7 @@ class SimulatedPlatform final : public Platform,
   std::map<int, Request> _requests;
   int _lastRequest = 0;
   QTemporaryDir _volumes;
+  QTemporaryDir _applicationSupport;
   std::unique_ptr<Clock> _clock;
   SimulatedSystemFiles _systemFiles;
   SimulatedLoginItems _loginItems;

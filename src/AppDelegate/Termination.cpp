@@ -1,0 +1,62 @@
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
+#include "AppDelegate/AppDelegate.h"
+#include "Foundation/Error.h"
+#include "Foundation/SystemLog.h"
+#include "SavedData/ManagedObjectContext.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Stands in where nobody can be asked: an error keeps the program, as if it might recover.
+class UnattendedApplication : public Application {
+ public:
+  bool presentError(const Error &error) override {
+    systemLog(error.description());
+    return true;
+  }
+};
+
+}  // namespace
+
+void AppDelegate::closeApp() {
+  // The queue rests while a row action is under way.
+  _mainQueue.async([this] {
+    if (mayTerminate()) QCoreApplication::exit(0);
+  });
+}
+
+bool AppDelegate::mayTerminate() {
+  if (_isTerminating) return false;
+  const QScopedValueRollback underWay(_isTerminating, true);
+  return applicationShouldTerminate(_application) == TerminateReply::Now;
+}
+
+bool AppDelegate::sessionMayEnd(const std::function<bool()> &mayAsk) {
+  if (!_managedObjectContext) return true;
+  // The session waits for the answer. During a row action input is swallowed, and one alert is enough.
+  if (!_busyPartition && !_isTerminating && mayAsk()) return mayTerminate();
+  UnattendedApplication unattended;
+  return applicationShouldTerminate(unattended) == TerminateReply::Now;
+}
+
+TerminateReply AppDelegate::applicationShouldTerminate(Application &application) {
+  if (!_managedObjectContext) return TerminateReply::Now;
+  if (!_managedObjectContext->commitEditing()) {
+    systemLog(u"AppDelegate:applicationShouldTerminate: unable to commit editing to terminate"_s);
+    return TerminateReply::Cancel;
+  }
+  if (!_managedObjectContext->hasChanges()) return TerminateReply::Now;
+  const std::optional<Error> error = _managedObjectContext->save();
+  if (!error) return TerminateReply::Now;
+  if (application.presentError(*error)) return TerminateReply::Cancel;
+  // The first button keeps the program and the second one quits, whatever they say: deliberately.
+  const int answer = Application::runAlert(
+      tr("Could not save changes while quitting. Quit anyway?"),
+      tr("Quitting now will lose any changes you have made since the last successful save"),
+      {tr("Quit anyway"), tr("Cancel")});
+  return answer == Application::kAlertFirstButtonReturn ? TerminateReply::Cancel
+                                                        : TerminateReply::Now;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+/// Why something could not be done, in words for a person and in numbers for a program.
+struct Error {
+  QString domain;  // whose numbers `code` belongs to
+  int code = 0;
+  QString localizedDescription;
+  QString localizedFailureReason = {};           // empty where there is no more to say
+  std::shared_ptr<const Error> underlying = {};  // what caused it; null where that is not known
+
+  /// All of it in one line, for the log.
+  QString description() const {
+    QString text = QStringLiteral("%1 (%2 %3)").arg(localizedDescription, domain).arg(code);
+    if (!localizedFailureReason.isEmpty()) text += QStringLiteral(": ") + localizedFailureReason;
+    if (underlying) text += QStringLiteral(": ") + underlying->description();
+    return text;
+  }
+};
+
+// Domains and codes of what goes wrong with files.
+inline const QString kPOSIXErrorDomain = QStringLiteral("NSPOSIXErrorDomain");
+inline const QString kCocoaErrorDomain = QStringLiteral("NSCocoaErrorDomain");
+inline constexpr int kFileReadCorruptFile = 259;
+inline constexpr int kFileWriteUnknown = 512;
+
+/// What the system said by this error number.
+inline Error posixError(int number) {
+  return {kPOSIXErrorDomain, number, qt_error_string(number)};
+}

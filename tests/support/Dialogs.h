@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+/// While it lives, answers each dialog that comes up with the next of these buttons, named by its title;
+/// "Escape" and "close" are ways to do without. A dialog that there is no answer for is closed.
+class Dialogs : public QObject {
+ public:
+  explicit Dialogs(const QStringList &answers) : _answers(answers) {
+    connect(&_timer, &QTimer::timeout, this, [this] {
+      auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+      if (box != nullptr && box->isVisible()) answer(*box);
+    });
+    _timer.start(1);
+  }
+
+  /// What each said.
+  QStringList texts, informativeTexts, titles;
+  /// Called before each answer.
+  std::function<void()> meanwhile = [] {};
+
+ private:
+  void answer(QMessageBox &box) {
+    const QString answer = _answers.value(texts.size(), "close");
+    texts += box.text();
+    informativeTexts += box.informativeText();
+    QStringList buttons;
+    for (const QAbstractButton *button : box.buttons()) buttons += button->text().remove(u'&');
+    titles += buttons.join(u'|');
+    meanwhile();
+    for (QAbstractButton *button : box.buttons()) {
+      if (button->text().remove(u'&') == answer) return button->click();
+    }
+    answer == "Escape" ? QTest::keyClick(&box, Qt::Key_Escape) : void(box.close());
+  }
+
+  QStringList _answers;
+  QTimer _timer;
+};
