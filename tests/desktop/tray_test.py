@@ -49,11 +49,15 @@ class TrayTest(DesktopTest):
         self.assertLess(abs(item[1] - place[1] - place[3]), 12, f"{place} should begin over {item}")
         self.assert_arrow(place, centre(item)[0], place[1] + place[3] - 5)
 
-    def test_item_at_the_left(self):
-        self.open_at("left")
+    def test_stands_beside_an_item_at_the_left(self):
+        place, item = self.open_at("left")
+        self.assertLess(abs(place[0] - item[0] - item[2]), 12, f"{place} should begin beside {item}")
+        self.assertTrue(place[1] < centre(item)[1] < place[1] + place[3], f"{place} should be level with {item}")
 
-    def test_item_at_the_right(self):
-        self.open_at("right")
+    def test_stands_beside_an_item_at_the_right(self):
+        place, item = self.open_at("right")
+        self.assertLess(abs(item[0] - place[0] - place[2]), 12, f"{place} should begin beside {item}")
+        self.assertTrue(place[1] < centre(item)[1] < place[1] + place[3], f"{place} should be level with {item}")
 
     def open_at(self, edge):
         program = self.open_program(edge)
