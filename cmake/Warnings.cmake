@@ -1,4 +1,4 @@
-# One interface target with the rules that every target of ours is compiled under.
+# One interface target with the rules that every target of ours is compiled and linked under.
 add_library(keldra-rules INTERFACE)
 target_compile_options(keldra-rules INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Woverloaded-virtual
@@ -10,4 +10,6 @@ target_include_directories(keldra-rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(KELDRA_SANITIZERS)
   target_compile_options(keldra-rules INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(keldra-rules INTERFACE -fsanitize=address,undefined)
+elseif(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  include(cmake/Hardening.cmake)
 endif()
