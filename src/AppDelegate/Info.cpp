@@ -33,7 +33,7 @@ void AppDelegate::showInfo() {
       {tr("Version"), _versionLabel->stringValue()},
       {tr("Licence"), u"MIT"_s},
       {tr("Web site"), kWebAddress},
-      {tr("Stands on"), u"Qt %1, libplist"_s.arg(QLatin1StringView(qVersion()))},
+      {tr("Stands on"), u"Qt %1, libplist, OpenJPEG"_s.arg(QLatin1StringView(qVersion()))},
       {tr("System"), u"%1, %2 %3"_s.arg(QSysInfo::prettyProductName(), QSysInfo::kernelType(),
                                         QSysInfo::kernelVersion())},
       {tr("Disk service"), u"%1, %2"_s.arg(disks.name(), presenceInWords(disks.presence()))},

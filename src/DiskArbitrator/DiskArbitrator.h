@@ -118,7 +118,9 @@ class DiskArbitrator {
   /// tells no more. "N/A" when it cannot be asked, "Not Priviliged" when this is not root.
   static std::optional<QString> findSectorSize(const QString &reference);
 
-  /// The picture for a partition. Null when even the caution icon cannot be loaded.
+  /// The picture for a partition: the volume's own icon while it is mounted, else its driver's for
+  /// the medium, else the caution icon. Null when the volume has an icon file that can be read but
+  /// does not decode, or when even the caution icon cannot be loaded.
   static QImage findVolumeIcon(const QString &partition);
 
   /// The second number of the system's product version, 15 for "10.15". 0 when it cannot be read.

@@ -1,6 +1,48 @@
+#include <QFileInfo>
+
+#include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
 
-QImage DiskArbitrator::findVolumeIcon(const QString & /*partition*/) {
-  return Platform::current().systemFiles().image(QStringLiteral(
-      "/System/Library/CoreServices/CoreTypes.bundle/Contents/Resources/AlertCautionIcon.icns"));
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Where a volume's own icon would be. Absent while it is not mounted.
+std::optional<QString> volumeIconPath(const QString &partition) {
+  const auto mountPoint = DiskArbitrator::findMountPoint(partition);
+  if (!mountPoint) return std::nullopt;
+  return *mountPoint +
+         (mountPoint->endsWith(u'/') ? u".VolumeIcon.icns"_s : u"/.VolumeIcon.icns"_s);
+}
+
+/// Null when the description names no picture, or one that is not there.
+QImage mediaIconOf(const QString &partition, const std::optional<QString> &volumeIcon) {
+  const Platform &platform = Platform::current();
+  const QVariantMap record = descriptionValue(partition, kDADiskDescriptionMediaIconKey).toMap();
+  const auto bundle = platform.driverBundle(record.value(kCFBundleIdentifierKey).toString());
+  if (!bundle) return {};
+  const SystemFiles &files = Platform::current().systemFiles();
+  const QFileInfo file(record.value(kIOBundleResourceFileKey).toString());
+  const auto resource = files.bundleResource(*bundle, file.completeBaseName(), file.suffix());
+  if (resource) return files.image(*resource).value_or(QImage());
+  // A bundle that does not open leaves the path as it was before: that of the volume's own icon.
+  return volumeIcon ? platform.imageOnVolume(*volumeIcon).value_or(QImage()) : QImage();
+}
+
+}  // namespace
+
+QImage DiskArbitrator::findVolumeIcon(const QString &partition) {
+  const SystemFiles &files = Platform::current().systemFiles();
+  const QString caution = files
+                              .bundleResource(u"/System/Library/CoreServices/CoreTypes.bundle"_s,
+                                              u"AlertCautionIcon"_s, u"icns"_s)
+                              .value_or(QString());
+
+  const std::optional<QString> volumeIcon = volumeIconPath(partition);
+  // Whatever can be read there is the answer, also if it does not decode.
+  const auto own = volumeIcon ? Platform::current().imageOnVolume(*volumeIcon) : std::nullopt;
+  if (own) return *own;
+
+  const QImage ofMedia = mediaIconOf(partition, volumeIcon);
+  return ofMedia.isNull() ? files.image(caution).value_or(QImage()) : ofMedia;
 }

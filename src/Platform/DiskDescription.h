@@ -29,6 +29,12 @@ inline const QString kDADiskDescriptionMediaWritableKey =
     QStringLiteral("DAMediaWritable");  // bool
 inline const QString kDADiskDescriptionMediaEjectableKey =
     QStringLiteral("DAMediaEjectable");  // bool
+inline const QString kDADiskDescriptionMediaIconKey =
+    QStringLiteral("DAMediaIcon");  // QVariantMap, under the two keys below
+
+// Which picture stands for the media: a driver bundle and the name of a file among its resources.
+inline const QString kCFBundleIdentifierKey = QStringLiteral("CFBundleIdentifier");      // QString
+inline const QString kIOBundleResourceFileKey = QStringLiteral("IOBundleResourceFile");  // QString
 
 // The volume on it. Kind and UUID are known from the file system's own header, name and path while
 // mounted.

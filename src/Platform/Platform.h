@@ -105,8 +105,15 @@ class SystemFiles {
   /// none.
   virtual QVariantMap propertyList(const QString &path) const = 0;
 
-  /// The largest picture in an image file. Null when there is no such file or it does not decode.
-  virtual QImage image(const QString &path) const = 0;
+  /// The largest picture in an icon file, null when what the file holds does not decode. Absent when
+  /// there is nothing to read: no such file, one that this user may not read, no plain file, or
+  /// one far larger than any icon. Decoding blocks for some milliseconds.
+  virtual std::optional<QImage> image(const QString &path) const = 0;
+
+  /// The path of a resource of this name and type (which is how its file's name ends) in a bundle;
+  /// empty when the bundle has none. Absent when there is no bundle at that path.
+  virtual std::optional<QString> bundleResource(const QString &bundle, const QString &name,
+                                                const QString &type) const = 0;
 };
 
 /// One machine. Owns its roles, which live as long as it does.
@@ -126,6 +133,13 @@ class Platform {
   virtual SystemPrograms &systemPrograms() = 0;
   virtual LoginItems &loginItems() = 0;
   virtual UserDefaults &userDefaults() = 0;
+
+  /// Where, among the system files, the driver bundle with this identifier is. Absent when there is
+  /// none.
+  virtual std::optional<QString> driverBundle(const QString &identifier) const = 0;
+
+  /// The picture in an icon file on a mounted volume, by its path there; as `SystemFiles::image`.
+  virtual std::optional<QImage> imageOnVolume(const QString &path) const = 0;
 
   /// "name (process number)" of each process that has a file or folder below this mount point open,
   /// runs from there or works there, as far as the system lets this user know. Blocks for some

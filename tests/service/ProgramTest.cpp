@@ -23,6 +23,12 @@ class MockedPlatform final : public Platform {
   SystemFiles &systemFiles() override { return _rest.systemFiles(); }
   LoginItems &loginItems() override { return _rest.loginItems(); }
   UserDefaults &userDefaults() override { return _rest.userDefaults(); }
+  std::optional<QString> driverBundle(const QString &identifier) const override {
+    return _rest.driverBundle(identifier);
+  }
+  std::optional<QImage> imageOnVolume(const QString &path) const override {
+    return _rest.imageOnVolume(path);
+  }
   QStringList processesUsing(const QString & /*mountPoint*/) const override { return {}; }
   QString volumesFolder() const override { return folder.path(); }
   QString legacyVolumesFolder() const override { return folder.path(); }

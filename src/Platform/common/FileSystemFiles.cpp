@@ -1,11 +1,13 @@
 #include "Platform/common/FileSystemFiles.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <QFile>
-#include <QImageReader>
+#include <QFileInfo>
 #include <utility>
 
+#include "Platform/common/IconImage.h"
 #include "Platform/common/PropertyList.h"
 
 namespace {
@@ -14,23 +16,25 @@ namespace {
 // one.
 constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 
-QVariantMap readPropertyList(const QString &name) {
-  QFile file(name);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  return dictionaryFromPropertyList(file.read(kLargestFile));
+bool isPlainFile(const struct stat &status) {
+  return S_ISREG(status.st_mode) && status.st_size <= kLargestFile;
 }
 
-QImage readLargestImage(const QString &name) {
-  QImage largest;
-  QImageReader reader(name);
-  for (int index = 0; index < qMax(1, reader.imageCount()); ++index) {
-    // Plain formats hold one picture and cannot jump; reading them is the same as jumping to the
-    // first.
-    if (index > 0 && !reader.jumpToImage(index)) break;
-    const QImage image = reader.read();
-    if (image.width() > largest.width()) largest = image;
+/// Absent for what is no plain file of a sensible size, also if it has become so since it was looked
+/// at.
+std::optional<QByteArray> bytesOf(const QString &name) {
+  // Opening a pipe would wait for somebody at its other end.
+  const int descriptor =
+      open(QFile::encodeName(name).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  QFile file;
+  if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
+    return std::nullopt;
   }
-  return largest;
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0 || !isPlainFile(status)) return std::nullopt;
+  QByteArray bytes = file.read(status.st_size);
+  if (file.error() != QFileDevice::NoError) return std::nullopt;
+  return bytes;
 }
 
 }  // namespace
@@ -42,18 +46,25 @@ bool FileSystemFiles::exists(const QString &path) const {
 }
 
 QVariantMap FileSystemFiles::propertyList(const QString &path) const {
-  return read<QVariantMap>(_propertyLists, path, readPropertyList);
+  return read<QVariantMap>(_propertyLists, path, dictionaryFromPropertyList)
+      .value_or(QVariantMap());
 }
 
-QImage FileSystemFiles::image(const QString &path) const {
-  return read<QImage>(_images, path, readLargestImage);
+std::optional<QImage> FileSystemFiles::image(const QString &path) const {
+  return read<QImage>(_images, path, iconFromBytes);
 }
 
-/// Absent for what is no plain file of a sensible size: opening a pipe would wait for ever.
+std::optional<QString> FileSystemFiles::bundleResource(const QString &bundle, const QString &name,
+                                                       const QString &type) const {
+  if (!QFileInfo(_root + bundle).isDir()) return std::nullopt;
+  const QString path = bundle + QStringLiteral("/Contents/Resources/") + name + u'.' + type;
+  return exists(path) ? path : QString();
+}
+
 std::optional<FileSystemFiles::Stamp> FileSystemFiles::stampOf(const QString &file) {
   struct stat status {};
   if (stat(QFile::encodeName(file).constData(), &status) != 0) return std::nullopt;
-  if (!S_ISREG(status.st_mode) || status.st_size > kLargestFile) return std::nullopt;
+  if (!isPlainFile(status)) return std::nullopt;
 #ifdef __APPLE__
   const timespec changed = status.st_ctimespec;
 #else
@@ -63,17 +74,16 @@ std::optional<FileSystemFiles::Stamp> FileSystemFiles::stampOf(const QString &fi
 }
 
 template <typename Content>
-Content FileSystemFiles::read(Memory<Content> &memory, const QString &path,
-                              const std::function<Content(const QString &)> &reader) const {
+std::optional<Content> FileSystemFiles::read(Memory<Content> &memory, const QString &path,
+                                             Content (*decode)(const QByteArray &)) const {
   const QString file = _root + path;
   const std::optional<Stamp> stamp = stampOf(file);
-  if (!stamp.has_value()) {
-    memory.remove(path);
-    return {};
-  }
-  const auto known = memory.constFind(path);
-  if (known != memory.constEnd() && known->stamp == *stamp) return known->content;
-  const Content content = reader(file);
-  memory.insert(path, {*stamp, content});
+  const Remembered<Content> *known = memory.object(path);
+  if (known != nullptr && known->stamp == stamp) return known->content;
+  memory.remove(path);
+  const std::optional<QByteArray> bytes = stamp ? bytesOf(file) : std::nullopt;
+  if (!bytes) return std::nullopt;
+  const Content content = decode(*bytes);
+  memory.insert(path, new Remembered<Content>{*stamp, content});
   return content;
 }

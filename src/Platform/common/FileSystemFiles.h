@@ -4,10 +4,9 @@
 //
 // What a file held is remembered until the file's identity, size or time of change is another one,
 // so that an answer is always that of the file as it is now, and asking again costs one system
-// call.
+// call. Files may be hostile: nothing is waited for, and nothing is read without end.
 
-#include <QHash>
-#include <functional>
+#include <QCache>
 
 #include "Platform/Platform.h"
 
@@ -18,7 +17,9 @@ class FileSystemFiles final : public SystemFiles {
 
   bool exists(const QString &path) const override;
   QVariantMap propertyList(const QString &path) const override;
-  QImage image(const QString &path) const override;
+  std::optional<QImage> image(const QString &path) const override;
+  std::optional<QString> bundleResource(const QString &bundle, const QString &name,
+                                        const QString &type) const override;
 
  private:
   struct Stamp {
@@ -32,14 +33,17 @@ class FileSystemFiles final : public SystemFiles {
     Content content;
   };
   template <typename Content>
-  using Memory = QHash<QString, Remembered<Content>>;
+  using Memory = QCache<QString, Remembered<Content>>;
+  /// Volumes come and go, and nobody says which files will never be asked for again.
+  static constexpr qsizetype kMostRemembered = 64;
 
   static std::optional<Stamp> stampOf(const QString &file);
+  /// Absent when there are no bytes to be had.
   template <typename Content>
-  Content read(Memory<Content> &memory, const QString &path,
-               const std::function<Content(const QString &)> &reader) const;
+  std::optional<Content> read(Memory<Content> &memory, const QString &path,
+                              Content (*decode)(const QByteArray &)) const;
 
   QString _root;
-  mutable Memory<QVariantMap> _propertyLists;
-  mutable Memory<QImage> _images;
+  mutable Memory<QVariantMap> _propertyLists{kMostRemembered};
+  mutable Memory<QImage> _images{kMostRemembered};
 };

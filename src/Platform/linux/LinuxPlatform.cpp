@@ -11,6 +11,7 @@
 #include "Foundation/NotificationCenter.h"
 #include "Platform/common/ChildPrograms.h"
 #include "Platform/common/FileSystemFiles.h"
+#include "Platform/common/MediaIcon.h"
 #include "Platform/common/QtRunLoop.h"
 #include "Platform/common/SettingsDefaults.h"
 #include "Platform/common/SystemClock.h"
@@ -69,6 +70,12 @@ class LinuxPlatform final : public Platform {
   SystemPrograms &systemPrograms() override { return _systemPrograms; }
   LoginItems &loginItems() override { return _loginItems; }
   UserDefaults &userDefaults() override { return _userDefaults; }
+  std::optional<QString> driverBundle(const QString &identifier) const override {
+    return shippedDriverBundle(_systemFiles, identifier);
+  }
+  std::optional<QImage> imageOnVolume(const QString &path) const override {
+    return _volumeFiles.image(path);
+  }
   QStringList processesUsing(const QString &mountPoint) const override {
     return processesUsingVolume(mountPoint);
   }
@@ -85,6 +92,7 @@ class LinuxPlatform final : public Platform {
   SystemClock _clock;
   FileSystemFiles _systemFiles;
   ChildPrograms _systemPrograms;
+  FileSystemFiles _volumeFiles{QString()};
   XdgLoginItems _loginItems;
   SettingsDefaults _userDefaults;
   LinuxDiskService _disks;

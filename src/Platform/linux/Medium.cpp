@@ -1,5 +1,6 @@
 #include "Platform/linux/Medium.h"
 
+#include "Platform/common/MediaIcon.h"
 #include "Platform/linux/BlockDevices.h"
 #include "Platform/linux/MediumNames.h"
 
@@ -28,9 +29,21 @@ QString deviceNode(const ServiceObject &block) {
   return preferred.isEmpty() ? block.fileName(kBlockInterface, u"Device"_s) : preferred;
 }
 
+StorageKind storageKindOf(const ServiceObject &disk, const ServiceObject &drive) {
+  if (disk.has(kLoopInterface)) return StorageKind::DiskImage;
+  if (drive.flag(kDriveInterface, u"Optical"_s)) return StorageKind::Optical;
+  // Sticks and cards are what is plugged, also those that do not call themselves removable.
+  for (const QString &property : {u"Removable"_s, u"MediaRemovable"_s}) {
+    if (drive.flag(kDriveInterface, property)) return StorageKind::Removable;
+  }
+  const auto bus = drive.text(kDriveInterface, u"ConnectionBus"_s).value_or(QString());
+  return bus.isEmpty() ? StorageKind::Internal : StorageKind::Removable;
+}
+
 void describeDevice(DiskDescription &description, const ServiceObject &disk,
                     const ServiceObject &drive) {
   insertKnown(description, kDADiskDescriptionDeviceProtocolKey, protocolOf(disk, drive));
+  description.insert(kDADiskDescriptionMediaIconKey, mediaIcon(storageKindOf(disk, drive)));
   const bool isLoop = disk.has(kLoopInterface);
   const bool isRemovable = drive.flag(kDriveInterface, u"Removable"_s);
   const bool isEjectable = isLoop || isRemovable || drive.flag(kDriveInterface, u"Ejectable"_s);

@@ -2,6 +2,8 @@
 
 #include <QUrl>
 
+#include "Platform/common/MediaIcon.h"
+
 namespace {
 
 void insertText(DiskDescription &description, const QString &key, const QString &text) {
@@ -13,6 +15,13 @@ void insertUUID(DiskDescription &description, const QString &key, const QString 
     description.insert(key, QVariant::fromValue(*uuid));
 }
 
+StorageKind storageKindOf(const SimulatedDisk &disk) {
+  if (disk.protocol == QLatin1StringView("Virtual Interface")) return StorageKind::DiskImage;
+  if (disk.protocol == QLatin1StringView("ATAPI")) return StorageKind::Optical;
+  const bool isPlugged = disk.isEjectable || disk.protocol == QLatin1StringView("USB");
+  return isPlugged ? StorageKind::Removable : StorageKind::Internal;
+}
+
 }  // namespace
 
 DiskDescription describe(const SimulatedDisk &disk) {
@@ -22,6 +31,7 @@ DiskDescription describe(const SimulatedDisk &disk) {
       {kDADiskDescriptionMediaWritableKey, disk.isWritable},
       {kDADiskDescriptionMediaEjectableKey, disk.isEjectable},
       {kDADiskDescriptionDeviceInternalKey, disk.isInternal},
+      {kDADiskDescriptionMediaIconKey, disk.icon.value_or(mediaIcon(storageKindOf(disk)))},
   };
   insertText(description, kDADiskDescriptionMediaNameKey, disk.media);
   insertText(description, kDADiskDescriptionMediaContentKey, disk.scheme);

@@ -47,6 +47,8 @@ struct SimulatedDisk {
   bool isInternal = false;
   std::optional<quint32> physicalBlockSize;
   std::optional<quint32> logicalBlockSize;
+  /// Its picture; absent for the one that fits what else is known of it.
+  std::optional<QVariantMap> icon;
   QVector<SimulatedPartition> partitions;
 
   QString bsdName() const { return QStringLiteral("disk%1").arg(unit); }

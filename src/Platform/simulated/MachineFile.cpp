@@ -190,6 +190,11 @@ SimulatedDisk readDisk(Reader &reader) {
   disk.isInternal = reader.flag(u"internal"_s, false);
   disk.physicalBlockSize = reader.count(u"physicalBlockSize"_s);
   disk.logicalBlockSize = reader.count(u"logicalBlockSize"_s);
+  if (auto icon = reader.object(u"icon"_s)) {
+    disk.icon = {{kCFBundleIdentifierKey, icon->text(u"bundle"_s)},
+                 {kIOBundleResourceFileKey, icon->text(u"file"_s)}};
+    icon->expectNothingElse();
+  }
   QSet<int> slices;
   reader.forEach(u"partitions"_s, [&](Reader &each) {
     disk.partitions.append(readPartition(each));

@@ -14,7 +14,8 @@
 //   machine     "productVersion", "root" (whether its user is, as is the rule), "service",
 //               "answersAfter"
 //   disk        "uuid", "protocol", "device", "writable", "ejectable", "internal",
-//               "physicalBlockSize", "logicalBlockSize" (in bytes)
+//               "physicalBlockSize", "logicalBlockSize" (in bytes),
+//               "icon" (a driver's "bundle" and the "file" in it)
 //   partition   "content", "uuid", "device", "mishap"
 //   volume      "uuid", "subtype" (0, 1 and 2 are FAT12, FAT16 and FAT32), "usedBy" (a list of
 //               processes, such as "vim (4711)")

@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "Platform/common/MediaIcon.h"
 #include "Platform/common/SystemFilesRoot.h"
 #include "Platform/simulated/Describe.h"
 
@@ -21,8 +22,14 @@ QVariantMap SimulatedSystemFiles::propertyList(const QString &path) const {
   return dictionary;
 }
 
-QImage SimulatedSystemFiles::image(const QString &path) const {
+std::optional<QImage> SimulatedSystemFiles::image(const QString &path) const {
   return _shipped.image(path);
+}
+
+std::optional<QString> SimulatedSystemFiles::bundleResource(const QString &bundle,
+                                                            const QString &name,
+                                                            const QString &type) const {
+  return _shipped.bundleResource(bundle, name, type);
 }
 
 SimulatedPlatform::SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock)
@@ -69,6 +76,14 @@ std::optional<quint32> SimulatedPlatform::physicalBlockSize(const QString &bsdNa
 std::optional<quint32> SimulatedPlatform::logicalBlockSize(const QString &bsdName) const {
   const SimulatedDisk *disk = wholeDisk(bsdName);
   return disk == nullptr ? std::nullopt : disk->logicalBlockSize;
+}
+
+std::optional<QString> SimulatedPlatform::driverBundle(const QString &identifier) const {
+  return shippedDriverBundle(_systemFiles, identifier);
+}
+
+std::optional<QImage> SimulatedPlatform::imageOnVolume(const QString &path) const {
+  return _volumeFiles.image(path);
 }
 
 QStringList SimulatedPlatform::processesUsing(const QString &mountPoint) const {

@@ -30,7 +30,9 @@ class SimulatedSystemFiles final : public SystemFiles {
 
   bool exists(const QString &path) const override;
   QVariantMap propertyList(const QString &path) const override;
-  QImage image(const QString &path) const override;
+  std::optional<QImage> image(const QString &path) const override;
+  std::optional<QString> bundleResource(const QString &bundle, const QString &name,
+                                        const QString &type) const override;
 
  private:
   FileSystemFiles _shipped;
@@ -56,6 +58,8 @@ class SimulatedPlatform final : public Platform,
   SystemPrograms &systemPrograms() override { return *this; }
   SimulatedLoginItems &loginItems() override { return _loginItems; }
   SimulatedDefaults &userDefaults() override { return _userDefaults; }
+  std::optional<QString> driverBundle(const QString &identifier) const override;
+  std::optional<QImage> imageOnVolume(const QString &path) const override;
   QStringList processesUsing(const QString &mountPoint) const override;
   QString volumesFolder() const override { return _volumes.path(); }
   QString legacyVolumesFolder() const override { return _volumes.path(); }
@@ -160,6 +164,7 @@ class SimulatedPlatform final : public Platform,
   QTemporaryDir _applicationSupport;
   std::unique_ptr<Clock> _clock;
   SimulatedSystemFiles _systemFiles;
+  FileSystemFiles _volumeFiles{QString()};
   SimulatedLoginItems _loginItems;
   SimulatedDefaults _userDefaults;
   QtRunLoop _runLoop;

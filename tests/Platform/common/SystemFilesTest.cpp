@@ -135,14 +135,25 @@ TEST(SystemFiles, APipeInAFilesPlaceIsNotWaitedFor) {
   ASSERT_EQ(mkfifo(QFile::encodeName(root.filePath("pipe")).constData(), 0600), 0);
   const FileSystemFiles files(root.path());
   EXPECT_TRUE(files.propertyList("/pipe").isEmpty());
-  EXPECT_TRUE(files.image("/pipe").isNull());
+  EXPECT_FALSE(files.image("/pipe").has_value());
 }
 
-TEST(SystemFiles, ShipWithAVersionAndAPicture) {
+TEST(SystemFiles, ShipWithAVersion) {
   const FileSystemFiles files(systemFilesRoot());
-  const QString services = "/System/Library/CoreServices/";
-  EXPECT_EQ(files.propertyList(services + "SystemVersion.plist").value("ProductVersion"), "10.15");
-  const QImage icon =
-      files.image(services + "CoreTypes.bundle/Contents/Resources/AlertCautionIcon.icns");
-  EXPECT_GE(icon.width(), 256) << "the largest picture of several";
+  const QString file = "/System/Library/CoreServices/SystemVersion.plist";
+  EXPECT_EQ(files.propertyList(file).value("ProductVersion"), "10.15");
+}
+
+TEST(SystemFiles, ABundleIsAFolderWithResources) {
+  const QTemporaryDir root;
+  const QString resources = "/a.bundle/Contents/Resources/";
+  QDir(root.path()).mkpath(root.path() + resources);
+  write(root.path() + resources + "one.icns", "");
+  write(root.filePath("b.bundle"), "");
+  const FileSystemFiles files(root.path());
+  EXPECT_EQ(files.bundleResource("/a.bundle", "one", "icns"), resources + "one.icns");
+  EXPECT_EQ(files.bundleResource("/a.bundle", "two", "icns"), QString());
+  for (const char *bundle : {"/b.bundle", "/c.bundle"}) {
+    EXPECT_FALSE(files.bundleResource(bundle, "one", "icns").has_value()) << bundle;
+  }
 }

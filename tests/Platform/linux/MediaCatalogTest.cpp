@@ -111,6 +111,25 @@ TEST_F(MediaCatalogTest, TakesTheDrivesPropertiesForDiskAndPartitions) {
   EXPECT_EQ(value("disk0s1", kDADiskDescriptionDeviceProtocolKey), "Secure Digital");
 }
 
+TEST_F(MediaCatalogTest, PicksThePictureOfTheMedium) {
+  const auto pictureOf = [&](const QString &name) {
+    return value(name, kDADiskDescriptionMediaIconKey).toMap().value(kIOBundleResourceFileKey);
+  };
+  machine.addDrive(machine.addDisk("sda", 1), {{"ConnectionBus", ""}});
+  machine.addDrive(machine.addDisk("sdb", 2), {{"ConnectionBus", "usb"}});
+  machine.addDrive(machine.addDisk("sdc", 3), {{"MediaRemovable", true}});
+  machine.addDrive(machine.addDisk("sr0", 4), {{"Optical", true}, {"Removable", true}});
+  machine.addPartition(machine.addDisk("md0", 5), 1, kEspType, "");
+  machine.addLoop("loop0", 6, "/images/a.img");
+  update();
+  EXPECT_EQ(pictureOf("disk0"), "Internal.icns");
+  EXPECT_EQ(pictureOf("disk1"), "Removable.icns");
+  EXPECT_EQ(pictureOf("disk2"), "Removable.icns");
+  EXPECT_EQ(pictureOf("disk3"), "Optical.icns");
+  EXPECT_EQ(pictureOf("disk4s1"), "Internal.icns");
+  EXPECT_EQ(pictureOf("disk5"), "DiskImage.icns");
+}
+
 TEST_F(MediaCatalogTest, DescribesTheVolume) {
   const auto disk = machine.addDisk("sda", 1);
   const auto fat = machine.addPartition(disk, 1, kEspType, "");

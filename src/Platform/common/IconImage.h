@@ -1,0 +1,16 @@
+#pragma once
+
+// Pictures out of icon files.
+//
+// Such a file may come from any volume that somebody plugs in, so it is not trusted: what decoding
+// may cost in memory and time is limited by what an icon can need, whatever the file says of itself.
+
+#include <QByteArray>
+#include <QImage>
+
+/// The largest picture in the bytes of an icns file that decodes; also that of a bare PNG or
+/// JPEG 2000 file. Null when there is none.
+QImage iconFromBytes(const QByteArray &bytes);
+
+/// The most that a picture has in width or height; the largest of the icons has as many.
+inline constexpr int kLargestIconSide = 1024;

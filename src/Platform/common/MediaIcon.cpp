@@ -1,0 +1,34 @@
+#include "Platform/common/MediaIcon.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString fileOf(StorageKind kind) {
+  switch (kind) {
+    case StorageKind::Removable:
+      return u"Removable.icns"_s;
+    case StorageKind::DiskImage:
+      return u"DiskImage.icns"_s;
+    case StorageKind::Optical:
+      return u"Optical.icns"_s;
+    case StorageKind::Internal:
+      break;
+  }
+  return u"Internal.icns"_s;
+}
+
+}  // namespace
+
+QVariantMap mediaIcon(StorageKind kind) {
+  return {{kCFBundleIdentifierKey, u"com.brinmoor.Keldra.StorageIcons"_s},
+          {kIOBundleResourceFileKey, fileOf(kind)}};
+}
+
+std::optional<QString> shippedDriverBundle(const SystemFiles &files, const QString &identifier) {
+  const QString bundle = u"/System/Library/Extensions/"_s + identifier + u".kext"_s;
+  if (identifier.isEmpty() || identifier.contains(u'/') || !files.exists(bundle)) {
+    return std::nullopt;
+  }
+  return bundle;
+}

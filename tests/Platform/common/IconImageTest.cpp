@@ -1,0 +1,143 @@
+#include "Platform/common/IconImage.h"
+
+#include <gtest/gtest.h>
+
+#include <QtEndian>
+
+#include "Platform/common/Codestream.h"
+#include "support/IconBytes.h"
+
+namespace {
+
+// 16 times 16 pixels of one colour, half transparent, in boxes of a file.
+const QByteArray kJpeg2000 = QByteArray::fromHex(
+    "0000000c6a5020200d0a870a00000014667479706a703220000000006a703220"
+    "0000004f6a703268000000166968647200000010000000100004070700000000"
+    "000f636f6c720100000000001000000022636465660004000000000001000100"
+    "000002000200000003000300010000000000c56a703263ff4fff510032000000"
+    "0000100000001000000000000000000000001000000010000000000000000000"
+    "04070101070101070101070101ff52000c00000001000104040001ff5c000740"
+    "40484850ff640025000143726561746564206279204f70656e4a504547207665"
+    "7273696f6e20322e352e30ff90000a0000000000470001ff93cfb04814005ca3"
+    "655db000030908d50a18484bff7fc3e618115054af823d4800018484bfcf9868"
+    "115054a3655db0000309097d7c8080808080ffd9");
+const QColor kJpegColor(200, 100, 50, 128);
+const QByteArray kCodestream = kJpeg2000.sliced(kJpeg2000.indexOf("\xff\x4f\xff\x51"));
+
+QByteArray runs(int value, qsizetype count) {
+  QByteArray packed;
+  for (; count >= 130; count -= 130) packed += QByteArray("\xff") + char(value);
+  for (; count > 0; --count) packed += QByteArray(1, '\0') + char(value);
+  return packed;
+}
+
+QByteArray planes(const QList<int> &values, int side) {
+  QByteArray packed;
+  for (const int value : values) packed += runs(value, side * side);
+  return packed;
+}
+
+/// The codestream with some bytes overwritten, counted from the first occurrence of a marker.
+QByteArray patched(const char *marker, qsizetype offset, const QByteArray &bytes) {
+  QByteArray stream = kCodestream;
+  return stream.replace(stream.indexOf(QByteArray::fromHex(marker)) + offset, bytes.size(), bytes);
+}
+
+QByteArray withPrecincts(const QByteArray &sizes) {
+  QByteArray stream = kCodestream;
+  return stream.replace(stream.indexOf("\xff\x52"), 14,
+                        QByteArray::fromHex("ff52000e01000001000104040001" + sizes));
+}
+
+void expectColor(const QImage &image, int side, const QColor &color) {
+  ASSERT_EQ(image.size(), QSize(side, side));
+  const QColor found = image.pixelColor(side - 1, side / 2);
+  EXPECT_NEAR(found.red(), color.red(), 3);
+  EXPECT_NEAR(found.green(), color.green(), 3);
+  EXPECT_NEAR(found.blue(), color.blue(), 3);
+  EXPECT_NEAR(found.alpha(), color.alpha(), 3);
+}
+
+}  // namespace
+
+TEST(IconImage, ReadsEveryKindOfEntry) {
+  const QColor color(10, 20, 30, 40);
+  const QByteArray mask(128 * 128, char(40));
+  expectColor(
+      iconFromBytes(icns({{"is32", planes({10, 20, 30}, 16)}, {"s8mk", mask.first(16 * 16)}})), 16,
+      color);
+  expectColor(
+      iconFromBytes(icns({{"il32", planes({10, 20, 30}, 32)}, {"l8mk", mask.first(32 * 32)}})), 32,
+      color);
+  expectColor(iconFromBytes(icns(
+                  {{"t8mk", mask}, {"it32", QByteArray(4, '\0') + planes({10, 20, 30}, 128)}})),
+              128, color);
+  expectColor(iconFromBytes(icns({{"ih32", QByteArray(3 * 48 * 48, char(70))}})), 48,
+              QColor(70, 70, 70));
+  expectColor(iconFromBytes(icns({{"ic05", "ARGB" + planes({40, 10, 20, 30}, 32)}})), 32, color);
+  expectColor(iconFromBytes(icns({{"ic14", pngOf(512, color)}})), 512, color);
+  expectColor(iconFromBytes(icns({{"ic08", kJpeg2000}})), 16, kJpegColor);
+  expectColor(iconFromBytes(icns({{"ic09", kCodestream}})), 16, kJpegColor);
+  expectColor(iconFromBytes(pngOf(64, color)), 64, color);
+}
+
+TEST(IconImage, TakesTheLargestThatDecodes) {
+  const QByteArray png = pngOf(256, Qt::green);
+  const QByteArray file = icns({{"TOC ", "any"},
+                                {"icp4", pngOf(16, Qt::red)},
+                                {"ic08", png},
+                                {"ic09", "not a picture"},
+                                {"ic10", pngOf(1024, Qt::red).first(60)},
+                                {"ic07", pngOf(128, Qt::red)}});
+  expectColor(iconFromBytes(file), 256, Qt::green);
+  const qsizetype end = file.indexOf(png) + png.size();
+  expectColor(iconFromBytes(file.first(end)), 256, Qt::green);
+  expectColor(iconFromBytes(file.first(end - 1)), 16, Qt::red);
+}
+
+TEST(IconImage, WhatIsNoneIsNull) {
+  QByteArray endless = icns({{"il32", planes({1, 2, 3}, 32)}});
+  qToBigEndian<quint32>(0, endless.data() + 12);
+  for (const QByteArray &bytes :
+       {QByteArray(), QByteArray("icns"), QByteArray("text of some length"), icns({}), endless,
+        icns({{"is32", ""}, {"it32", "abc"}}), icns({{"il32", runs(7, 32 * 32)}}),
+        icns({{"ic04", "ARGB"}}), icns({{"ic08", QByteArray("\x89PNG\r\n\x1a\n")}}),
+        icns({{"ic08", kJpeg2000.first(kJpeg2000.size() - 60)}}), kJpeg2000.first(100)}) {
+    EXPECT_TRUE(iconFromBytes(bytes).isNull()) << bytes.left(40).toHex().constData();
+  }
+}
+
+TEST(IconImage, APngIsReadForItsPixelsAlone) {
+  QImage image(32, 32, QImage::Format_ARGB32);
+  image.fill(Qt::blue);
+  image.setText("Comment", QString(4'000'000, 'x'));
+  const QByteArray png = pngOf(image);
+  ASSERT_LT(png.size(), 10'000) << "a text that is far larger once it is unpacked";
+  expectColor(iconFromBytes(png), 32, Qt::blue);
+  EXPECT_TRUE(iconFromBytes(png).textKeys().isEmpty());
+  EXPECT_TRUE(iconFromBytes(pngOf(kLargestIconSide + 1, Qt::red)).isNull());
+}
+
+TEST(IconImage, ACodestreamThatAsksForTooMuchIsRefusedBeforeItIsDecoded) {
+  const QByteArray small = QByteArray::fromHex("00000001");
+  const QByteArray large = QByteArray::fromHex("00000800");
+  const struct {
+    const char *what;
+    QByteArray stream;
+  } cases[] = {
+      {"wide", patched("ff51", 6, large)},
+      {"high", patched("ff51", 10, large)},
+      {"tiles of one pixel", patched("ff51", 22, small + small)},
+      {"tiles of no width", patched("ff51", 22, QByteArray(4, '\0'))},
+      {"components that are not there", patched("ff51", 38, QByteArray::fromHex("4000"))},
+      {"one sample for many pixels", patched("ff51", 41, QByteArray(1, '\x08'))},
+      {"layers", patched("ff52", 6, QByteArray::fromHex("ffff"))},
+      {"precincts of one pixel", withPrecincts("0000")},
+      {"a header of its own", patched("ff64", 0, QByteArray::fromHex("ff5f"))},
+      {"a tile part within itself", patched("ff90", 6, QByteArray::fromHex("0000000c"))},
+      {"a header without end", patched("ff64", 2, QByteArray::fromHex("ffff"))},
+  };
+  for (const auto &each : cases) EXPECT_FALSE(isModestCodestream(each.stream)) << each.what;
+  EXPECT_TRUE(isModestCodestream(kCodestream));
+  EXPECT_TRUE(isModestCodestream(withPrecincts("8877")));
+}
