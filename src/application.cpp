@@ -77,7 +77,7 @@ void followInterfaceStyle(const Desktop &desktop) {
 void configureApplication() {
   QApplication::setApplicationName(QStringLiteral("keldra"));
   QApplication::setApplicationDisplayName(QStringLiteral("Keldra"));
-  QApplication::setDesktopFileName(QStringLiteral("keldra"));
+  QApplication::setDesktopFileName(QStringLiteral("com.brinmoor.Keldra"));
   // The popover is the only window, and closing it is not quitting.
   QApplication::setQuitOnLastWindowClosed(false);
   installAccessibility();

@@ -116,8 +116,8 @@ void XdgLoginItems::insertOwnItem() {
   const QString entry =
       u"[Desktop Entry]\nType=Application\nName=Keldra\n"
       u"Comment=EFI System Partitions one click away\nExec=%1\nTryExec=%2\n"
-      u"Icon=keldra\nX-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(_program),
-                                                             escaped(_program));
+      u"Icon=com.brinmoor.Keldra\nX-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(_program),
+                                                                          escaped(_program));
   file.write(entry.toUtf8());
   file.commit();
 }

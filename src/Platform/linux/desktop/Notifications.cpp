@@ -1,6 +1,5 @@
 #include "Platform/linux/desktop/Notifications.h"
 
-#include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QGuiApplication>
@@ -15,7 +14,7 @@ void sendNotification(const QDBusConnection &bus, const QString &title, const QS
   constexpr uint kReplacesNone = 0;
   constexpr int kDesktopsChoice = -1;
   call << QGuiApplication::applicationDisplayName() << kReplacesNone
-       << QCoreApplication::applicationName() << title << text << QStringList()
+       << QGuiApplication::desktopFileName() << title << text << QStringList()
        << QVariantMap{{u"desktop-entry"_s, QGuiApplication::desktopFileName()}} << kDesktopsChoice;
   auto *reply = new QDBusPendingCallWatcher(bus.asyncCall(call));
   QObject::connect(reply, &QDBusPendingCallWatcher::finished, reply,
