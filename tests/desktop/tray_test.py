@@ -68,7 +68,7 @@ class TrayTest(DesktopTest):
     def assert_arrow(self, place, x, y):
         """The popover's colour at x, and not beside it."""
         ground, arrow, *beside = (screen.colours((*pixel, 1, 1))[0] for pixel in (
-            (place[0] + 30, place[1] + 30), (x, y), (x - 15, y), (x + 15, y)))
+            (place[0] + 10, place[1] + 40), (x, y), (x - 15, y), (x + 15, y)))
         self.assertEqual(arrow, ground, "the arrow should be on the item")
         self.assertNotIn(ground, beside, "the arrow should be narrow")
 

@@ -125,9 +125,9 @@ TEST_F(MediaCatalogTest, PicksThePictureOfTheMedium) {
   EXPECT_EQ(pictureOf("disk0"), "Internal.icns");
   EXPECT_EQ(pictureOf("disk1"), "Removable.icns");
   EXPECT_EQ(pictureOf("disk2"), "Removable.icns");
-  EXPECT_EQ(pictureOf("disk3"), "Optical.icns");
-  EXPECT_EQ(pictureOf("disk4s1"), "Internal.icns");
-  EXPECT_EQ(pictureOf("disk5"), "DiskImage.icns");
+  EXPECT_EQ(pictureOf("disk3s1"), "Internal.icns");
+  EXPECT_EQ(pictureOf("disk4"), "DiskImage.icns");
+  EXPECT_EQ(pictureOf("disk5"), "Optical.icns");
 }
 
 TEST_F(MediaCatalogTest, DescribesTheVolume) {
