@@ -78,6 +78,6 @@ void AppDelegate::explainEmptyList() {
     _emptyView->setText(tr("No partition here"), tr("Attach a disk to see its partitions."));
   } else {
     _emptyView->setText(tr("No EFI System Partition here"),
-                        tr("Attach a disk that has one, or tick Show all to see every partition."));
+                        tr("Attach a disk that has one, or tick Show all."));
   }
 }

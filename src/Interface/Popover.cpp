@@ -139,7 +139,12 @@ void Popover::place() {
     const int slide = qRound(kSlide * left);
     frame.translate(0, _placement.arrowEdge == Qt::BottomEdge ? slide : -slide);
   }
-  setGeometry(frame);
+  if (windowsCanBePlaced()) {
+    setGeometry(frame);
+  } else {
+    // A desktop of tiles leaves windows of one size alone.
+    setFixedSize(frame.size());
+  }
   arrangeContent();
 }
 
@@ -184,11 +189,12 @@ QPainterPath Popover::outline(qreal inset) const {
   const bool top = _placement.arrowEdge == Qt::TopEdge;
   const qreal base = top ? panel.top() : panel.bottom();
   const qreal tip = top ? base - kArrowHeight + 1 : base + kArrowHeight - 1;
+  const qreal inside = top ? base + 1 : base - 1;  // or the panel's own line would part them
   const qreal x = panel.left() + _placement.arrowX;
   QPainterPath arrow;
-  arrow.moveTo(x - kArrowHeight - 1, base);
+  arrow.moveTo(x - kArrowHeight - 2, inside);
   arrow.lineTo(x, tip);
-  arrow.lineTo(x + kArrowHeight + 1, base);
+  arrow.lineTo(x + kArrowHeight + 2, inside);
   arrow.closeSubpath();
   return path.united(arrow);
 }
@@ -198,7 +204,8 @@ QPixmap Popover::paintedFrame() const {
   const QPainterPath path = outline(0.5);  // a line of one pixel, sharp
   QPixmap frame((QSizeF(size()) * devicePixelRatioF()).toSize());
   frame.setDevicePixelRatio(devicePixelRatioF());
-  frame.fill(Qt::transparent);
+  // Without a compositor, what the smooth edge lets through would be black.
+  frame.fill(_composited ? QColor(Qt::transparent) : look.border());
   QPainter painter(&frame);
   painter.setRenderHint(QPainter::Antialiasing);
   if (_composited) paintShadow(painter, path, look.isDark());

@@ -148,13 +148,13 @@ void TableView::fillRow(qint64 row) {
   _cells[row] = cell;
   placeCell(cell, row);
   cell->show();
+  _scrollBar->raise();  // it lies on the rows' margin
   _delegate->tableView(this, cell, row);
 }
 
 void TableView::placeCell(TableCellView *cell, qint64 row) {
-  const int width = this->width() - (_scrollBar->isHidden() ? 0 : _scrollBar->width());
   const auto top = static_cast<int>(row * rowHeight() - _scrollBar->value());
-  cell->setGeometry(0, top, width, rowHeight());
+  cell->setGeometry(0, top, width(), rowHeight());
 }
 
 int TableView::rowHeight() const {
@@ -251,8 +251,7 @@ void TableView::paintEvent(QPaintEvent *) {
   painter.setRenderHint(QPainter::Antialiasing);
   for (qint64 row = firstRowInView(); row <= lastRowInView(); ++row) {
     const auto top = static_cast<int>(row * rowHeight() - _scrollBar->value());
-    const QRectF place(0, top, width() - (_scrollBar->isHidden() ? 0 : _scrollBar->width()),
-                       rowHeight());
+    const QRectF place(0, top, width(), rowHeight());
     if (row == _selectedRow) {
       painter.setPen(hasFocus() ? QPen(look.accent(), 1) : QPen(Qt::NoPen));
       painter.setBrush(look.selection());

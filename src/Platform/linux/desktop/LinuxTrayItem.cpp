@@ -1,5 +1,7 @@
 #include "Platform/linux/desktop/LinuxTrayItem.h"
 
+#include <QGuiApplication>
+
 #include "Platform/common/QtTrayItem.h"
 #include "Platform/linux/desktop/NotifierItem.h"
 
@@ -12,8 +14,7 @@ LinuxTrayItem::~LinuxTrayItem() = default;
 
 void LinuxTrayItem::follow(bool notifierHostIsPresent) {
   if (!notifierHostIsPresent) {
-    // Qt's own item looks for a panel once, finds none, and keeps to the X11 protocol.
-    if (_item == nullptr || _notifier != nullptr) use(std::make_unique<QtTrayItem>());
+    if (_item == nullptr || _notifier != nullptr) useTrayOfX11();
     _notifier = nullptr;
     return;
   }
@@ -23,6 +24,12 @@ void LinuxTrayItem::follow(bool notifierHostIsPresent) {
     use(std::move(item));
   }
   _notifier->announce();
+}
+
+void LinuxTrayItem::useTrayOfX11() {
+  _item.reset();
+  // Qt's own item looks for a panel once, finds none, and keeps to the X11 protocol.
+  if (QGuiApplication::platformName() == QLatin1String("xcb")) use(std::make_unique<QtTrayItem>());
 }
 
 void LinuxTrayItem::use(std::unique_ptr<TrayItem> item) {

@@ -26,11 +26,12 @@ class LinuxTrayItem final : public TrayItem {
 
  private:
   void follow(bool notifierHostIsPresent);
+  void useTrayOfX11();
   void use(std::unique_ptr<TrayItem> item);
 
   QDBusConnection _bus;
   NotifierHosts _hosts;
-  /// Null until the desktop has told what it has.
+  /// Null where there is no tray, and until the desktop has told what it has.
   std::unique_ptr<TrayItem> _item;
   NotifierItem *_notifier = nullptr;  // _item, when it is one
   QIcon _image;
