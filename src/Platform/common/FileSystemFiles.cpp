@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <utility>
 
 #include "Platform/common/IconImage.h"
@@ -17,13 +18,6 @@ constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 
 bool isPlainFile(const struct stat &status) {
   return S_ISREG(status.st_mode) && status.st_size <= kLargestFile;
-}
-
-/// Asked many times for each row of the list, and cheaper than Qt's own questions.
-std::optional<mode_t> modeOf(const QString &file) {
-  struct stat status {};
-  if (stat(QFile::encodeName(file).constData(), &status) != 0) return std::nullopt;
-  return status.st_mode;
 }
 
 /// Absent for what is no plain file of a sensible size, also if it has become so since it was looked
@@ -48,7 +42,7 @@ std::optional<QByteArray> bytesOf(const QString &name) {
 FileSystemFiles::FileSystemFiles(QString root) : _root(std::move(root)) {}
 
 bool FileSystemFiles::exists(const QString &path) const {
-  return modeOf(_root + path).has_value();
+  return QFile::exists(_root + path);
 }
 
 QVariantMap FileSystemFiles::propertyList(const QString &path) const {
@@ -62,8 +56,7 @@ std::optional<QImage> FileSystemFiles::image(const QString &path) const {
 
 std::optional<QString> FileSystemFiles::bundleResource(const QString &bundle, const QString &name,
                                                        const QString &type) const {
-  const auto mode = modeOf(_root + bundle);
-  if (!mode || !S_ISDIR(*mode)) return std::nullopt;
+  if (!QFileInfo(_root + bundle).isDir()) return std::nullopt;
   const QString path = bundle + QStringLiteral("/Contents/Resources/") + name + u'.' + type;
   return exists(path) ? path : QString();
 }
