@@ -1,6 +1,7 @@
 #include "ESPTableCellView.h"
 
 #include <QHelpEvent>
+#include <QStyle>
 
 #include "Interface/ImageView.h"
 #include "Interface/Look.h"
@@ -59,7 +60,9 @@ bool ESPTableCellView::event(QEvent *event) {
     showToolTip(static_cast<QHelpEvent *>(event)->globalPos());
     return true;
   }
-  if (event->type() == QEvent::FontChange) arrange();
+  const bool isOther =
+      event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange;
+  if (isOther) arrange();
   return TableCellView::event(event);
 }
 
@@ -83,17 +86,20 @@ void ESPTableCellView::arrange() {
   const Look look(this);
   const int margin = look.margin();
   const int image = look.imageSize();
-  imageView()->setGeometry(margin, (height() - image) / 2, image, image);
+  // Mirrored for people who read from right to left.
+  const auto put = [this](QWidget *widget, const QRect &place) {
+    widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+  };
+  put(imageView(), {margin, (height() - image) / 2, image, image});
 
   const QSize button(look.rowButtonWidth(), look.rowButtonHeight());
   const int right = width() - margin - button.width();
   const bool opens = !_openButton->isHidden();
   const int column = opens ? 2 * button.height() + look.rowButtonGap() : button.height();
   const int top = (height() - column) / 2;
-  _mountButton->setGeometry(QRect(QPoint(right, top), button));
-  _openButton->setGeometry(
-      QRect(QPoint(right, top + button.height() + look.rowButtonGap()), button));
+  put(_mountButton, {QPoint(right, top), button});
+  put(_openButton, {QPoint(right, top + button.height() + look.rowButtonGap()), button});
 
   const int left = margin + image + look.scaled(12);
-  textField()->setGeometry(left, 0, right - look.scaled(14) - left, height());
+  put(textField(), {left, 0, right - look.scaled(14) - left, height()});
 }

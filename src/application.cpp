@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSessionManager>
 #include <QSocketNotifier>
+#include <QTranslator>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -74,12 +75,27 @@ void followInterfaceStyle(const Desktop &desktop) {
 
 }  // namespace
 
+namespace {
+
+/// The program's own words in the desktop's language, where somebody has put them beside it.
+void loadTranslation() {
+  auto *translation = new QTranslator(qApp);
+  const QString folder =
+      QApplication::applicationDirPath() + QStringLiteral("/../share/keldra/translations");
+  if (translation->load(QLocale(), QStringLiteral("keldra"), QStringLiteral("_"), folder)) {
+    QApplication::installTranslator(translation);
+  }
+}
+
+}  // namespace
+
 void configureApplication() {
   QApplication::setApplicationName(QStringLiteral("keldra"));
   QApplication::setApplicationDisplayName(QStringLiteral("Keldra"));
   QApplication::setDesktopFileName(QStringLiteral("com.brinmoor.Keldra"));
   // The popover is the only window, and closing it is not quitting.
   QApplication::setQuitOnLastWindowClosed(false);
+  loadTranslation();
   installAccessibility();
 }
 

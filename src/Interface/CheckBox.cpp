@@ -3,6 +3,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <algorithm>
 
 #include "Interface/Look.h"
@@ -63,7 +64,10 @@ void CheckBox::paintEvent(QPaintEvent *) {
   const Look look(this);
   const int side = look.scaled(kBoxSide);
   const int top = (height() - side) / 2;
-  const QRectF box(0.5, top + 0.5, side - 1, side - 1);
+  const auto placed = [this](const QRect &place) {
+    return QStyle::visualRect(layoutDirection(), rect(), place);
+  };
+  const QRectF box = QRectF(placed({0, top, side, side})).adjusted(0.5, 0.5, -0.5, -0.5);
   const qreal radius = look.scaled(4);
   const bool filled = checkState() != Qt::Unchecked;
   const bool ringed = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
@@ -82,14 +86,14 @@ void CheckBox::paintEvent(QPaintEvent *) {
 
   painter.setPen(isEnabled() ? look.text() : look.disabledText());
   painter.setFont(font());
-  const QRect label = rect().adjusted(side + look.scaled(kGap), 0, 0, 0);
-  painter.drawText(label, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, accessibleName());
+  const QFontMetrics metrics(font());
+  const int labelWidth = metrics.horizontalAdvance(accessibleName());
+  const QRect label = placed({side + look.scaled(kGap), 0, labelWidth + 1, height()});
+  painter.drawText(label, Qt::AlignCenter | Qt::TextSingleLine, accessibleName());
   if (ringed) {
-    const QFontMetrics metrics(font());
     painter.setPen(QPen(look.accent(), 1));
     const int underline = label.center().y() + metrics.height() / 2;
-    painter.drawLine(label.left(), underline,
-                     label.left() + metrics.horizontalAdvance(accessibleName()), underline);
+    painter.drawLine(label.left(), underline, label.left() + labelWidth, underline);
   }
 }
 

@@ -49,6 +49,7 @@ void RowTextField::paintEvent(QPaintEvent *) {
   }
 
   QPainter painter(this);
+  const int side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
   int top = std::max(0, (height() - textHeight) / 2);
   for (qsizetype line = 0; line < shown.size(); ++line) {
     painter.setFont(fontOfLine(line));
@@ -59,7 +60,7 @@ void RowTextField::paintEvent(QPaintEvent *) {
     painter.setClipRect(place);
     // A line keeps its direction whatever the names in it are written in.
     painter.drawText(
-        place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
+        place, side | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
         metrics.elidedText(shown[line], line == 0 ? Qt::ElideMiddle : Qt::ElideRight, width()));
     top += place.height();
   }

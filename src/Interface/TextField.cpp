@@ -90,12 +90,13 @@ bool TextField::event(QEvent *event) {
 void TextField::paintEvent(QPaintEvent *) {
   const Look look(this);
   QPainter painter(this);
+  const int side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
   painter.setOpacity(_opacity);
   painter.setFont(look.detailFont());
   painter.setPen(_textColor == TextColor::Red    ? look.red()
                  : _textColor == TextColor::Blue ? look.blue()
                                                  : look.dimText());
   painter.drawText(
-      rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
+      rect(), side | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
       painter.fontMetrics().elidedText(printable(_stringValue), Qt::ElideMiddle, width()));
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "Interface/ImageView.h"
 #include "support/TestMachine.h"
 
 TEST(Rows, SayWhatAPartitionIsAndWhereItLies) {
@@ -61,4 +62,20 @@ TEST(Rows, SelectionIsRememberedAndARefreshLeavesIt) {
   EXPECT_EQ(machine.delegate.lastSelectedRow(), 1);
   machine.delegate.refreshLists();
   EXPECT_EQ(machine.delegate.lastSelectedRow(), 1);
+}
+
+TEST(Rows, AreMirroredForPeopleWhoReadFromRightToLeft) {
+  TestMachine machine(twoEspMachine());
+  const auto mirrored = [&](const QWidget *part) {
+    const QRect place = part->geometry();
+    return QRect(QPoint(machine.cell(0)->width() - 1 - place.right(), place.top()), place.size());
+  };
+  ESPTableCellView *cell = machine.cell(0);
+  const QRect image = mirrored(cell->imageView());
+  const QRect button = mirrored(cell->mountButton());
+  const QRect text = mirrored(cell->textField());
+  machine.interface.popover()->setLayoutDirection(Qt::RightToLeft);
+  EXPECT_EQ(cell->imageView()->geometry(), image);
+  EXPECT_EQ(cell->mountButton()->geometry(), button);
+  EXPECT_EQ(cell->textField()->geometry(), text);
 }
