@@ -28,11 +28,11 @@ QPalette paletteOf(bool dark) {
   return palette;
 }
 
-}  // namespace
-
 bool hasDarkAppearance() {
   return QApplication::palette().color(QPalette::Window).lightnessF() < 0.5F;
 }
+
+}  // namespace
 
 void setDarkAppearance(bool dark) {
   if (dark != hasDarkAppearance()) QApplication::setPalette(paletteOf(dark));

@@ -43,14 +43,11 @@ class Popover : public QWidget {
   /// Not owned. Null for none.
   void setDelegate(PopoverDelegate *delegate) { _delegate = delegate; }
 
-  Behavior behavior() const { return _behavior; }
   void setBehavior(Behavior behavior) { _behavior = behavior; }
 
   /// Whether it appears softly, where the desktop can show that.
-  bool animates() const { return _animates; }
   void setAnimates(bool animates) { _animates = animates; }
 
-  QWidget *contentView() const { return _contentView; }
   /// Takes the view over and destroys the one before.
   void setContentView(QWidget *view);
 

@@ -41,7 +41,6 @@ class RowButton : public QPushButton {
 
   /// The accent look, for the action that the row is there for.
   void setProminent(bool prominent);
-  bool isProminent() const { return _prominent; }
 
   /// Lets go of a button that is held down, without a click.
   void cancelPress();
