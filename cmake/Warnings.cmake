@@ -2,7 +2,8 @@
 add_library(keldra-rules INTERFACE)
 target_compile_options(keldra-rules INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Woverloaded-virtual
-  -Wnon-virtual-dtor -Wcast-align -Wunused -Wformat=2 -Wimplicit-fallthrough -Werror)
+  -Wnon-virtual-dtor -Wcast-align -Wunused -Wformat=2 -Wimplicit-fallthrough -Wsuggest-override
+  -Wzero-as-null-pointer-constant -Werror)
 target_compile_definitions(keldra-rules INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
   QT_NO_FOREACH)
