@@ -8,7 +8,7 @@
 #include "Aims.h"
 #include "LoopDisks.h"
 #include "Measurements.h"
-#include "Platform/linux/LinuxPlatform.h"
+#include "Platform/ThisMachine.h"
 #include "Program.h"
 #include "Report.h"
 #include "application.h"
@@ -34,7 +34,7 @@ void measure(Platform &platform, int partitions, Report &report) {
 }
 
 Report measureAll() {
-  const std::unique_ptr<Platform> platform = makeLinuxPlatform();
+  const std::unique_ptr<Platform> platform = makePlatform();
   const CurrentPlatform current(*platform);
   waitUntil([&] { return platform->diskService().presence() == DiskService::Presence::Answering; },
             u"the disk service"_s);

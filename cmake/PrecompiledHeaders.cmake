@@ -28,7 +28,8 @@ function(precompile_headers name rules)
   set_target_properties(${name} PROPERTIES AUTOMOC OFF)
 endfunction()
 
-# use_precompiled_headers(NAME FOLDER): by all programs and libraries of the folder and those below it.
+# use_precompiled_headers(NAME FOLDER): by all programs and libraries of the folder and those below it that do not use
+# any yet.
 function(use_precompiled_headers name folder)
   if(NOT TARGET ${name})
     return()
@@ -36,7 +37,8 @@ function(use_precompiled_headers name folder)
   get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
   foreach(target ${targets})
     get_target_property(type ${target} TYPE)
-    if(type MATCHES "STATIC_LIBRARY|EXECUTABLE" AND NOT target STREQUAL name)
+    get_target_property(used ${target} PRECOMPILE_HEADERS_REUSE_FROM)
+    if(type MATCHES "STATIC_LIBRARY|EXECUTABLE" AND NOT used AND NOT target STREQUAL name)
       target_compile_definitions(${target} PRIVATE ${KELDRA_LIBRARY_MACROS})
       target_precompile_headers(${target} REUSE_FROM ${name})
     endif()

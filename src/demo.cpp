@@ -6,8 +6,8 @@
 #include <cstdio>
 
 #include "Demo/MachineWindow.h"
+#include "Platform/ThisMachine.h"
 #include "Platform/common/SystemClock.h"
-#include "Platform/linux/desktop/LinuxDesktop.h"
 #include "Platform/simulated/MachineFile.h"
 #include "Platform/simulated/SimulatedPlatform.h"
 #include "application.h"
@@ -33,7 +33,6 @@ int main(int argc, char **argv) {
   MachineWindow window(platform);
   // Shown once the program has told the desktop what it is called.
   QTimer::singleShot(0, &window, &QWidget::show);
-  const std::unique_ptr<Desktop> desktop =
-      makeLinuxDesktop(QStringLiteral("com.brinmoor.Keldra.Demo"));
+  const std::unique_ptr<Desktop> desktop = makeDesktop(QStringLiteral("com.brinmoor.Keldra.Demo"));
   return runApplication(platform, *desktop);
 }

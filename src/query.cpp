@@ -3,13 +3,13 @@
 #include <QCoreApplication>
 #include <cstdio>
 
-#include "Platform/linux/LinuxPlatform.h"
+#include "Platform/ThisMachine.h"
 #include "Query/Query.h"
 
 int main(int argc, char **argv) {
   const QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("keldra-query"));
-  const QueryResult result = runQuery(QCoreApplication::arguments(), makeLinuxPlatform);
+  const QueryResult result = runQuery(QCoreApplication::arguments(), makePlatform);
   std::fputs(result.errors.toUtf8().constData(), stderr);
   std::fputs(result.output.toUtf8().constData(), stdout);
   return result.status;

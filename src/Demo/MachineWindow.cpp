@@ -150,7 +150,8 @@ void MachineWindow::rename() {
   _platform.rename(_tree->selectedName(), _volumeName->text());
 }
 
-void MachineWindow::refuse(std::optional<DAReturn> mount, std::optional<DAReturn> unmount) {
+void MachineWindow::refuse(std::optional<DissenterStatus> mount,
+                           std::optional<DissenterStatus> unmount) {
   _platform.setRefusals(_tree->selectedName(), mount, unmount);
   refresh();
 }

@@ -39,7 +39,7 @@ class MachineWindow : public QWidget {
   void mount();
   void unmount();
   void rename();
-  void refuse(std::optional<DAReturn> mount, std::optional<DAReturn> unmount);
+  void refuse(std::optional<DissenterStatus> mount, std::optional<DissenterStatus> unmount);
 
   void refresh();
   void showSelected();

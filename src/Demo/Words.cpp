@@ -13,10 +13,10 @@ QString tr(const char *text) {
 
 }  // namespace
 
-const QVector<std::optional<DAReturn>> &refusals() {
+const QVector<std::optional<DissenterStatus>> &refusals() {
   static const auto all = [] {
-    QVector<std::optional<DAReturn>> values = {std::nullopt};
-    for (DAReturn status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
+    QVector<std::optional<DissenterStatus>> values = {std::nullopt};
+    for (DissenterStatus status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
       values += status;
     }
     // What services say of dismissed password prompts and of disks that are full or failing.
@@ -28,7 +28,7 @@ const QVector<std::optional<DAReturn>> &refusals() {
   return all;
 }
 
-QString phrase(const std::optional<DAReturn> &refusal) {
+QString phrase(const std::optional<DissenterStatus> &refusal) {
   return refusal ? QString::fromLocal8Bit(daStatus(*refusal)) : tr("as asked");
 }
 

@@ -8,8 +8,8 @@
 #include "Platform/simulated/Machine.h"
 
 /// The refusals that are offered, from the one that is none on.
-const QVector<std::optional<DAReturn>> &refusals();
-QString phrase(const std::optional<DAReturn> &refusal);
+const QVector<std::optional<DissenterStatus>> &refusals();
+QString phrase(const std::optional<DissenterStatus> &refusal);
 
 /// The mishaps that are offered, from the one that is none on.
 const QVector<std::optional<Mishap>> &mishaps();

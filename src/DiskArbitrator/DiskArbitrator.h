@@ -96,7 +96,7 @@ class DiskArbitrator {
   /// YES in every case: the request was carried out. A refusal is announced.
   static bool umountPartition(const QString &partition, bool forceUmount);
   /// How the refusal to unmount a disk is announced.
-  static QString umountRefusal(const QString &disk, DAReturn status);
+  static QString umountRefusal(const QString &disk, DissenterStatus status);
   /// What `mountPartition` does with an ESP on an old system: has it mounted as FAT on the folder at
   /// the path or, where anything is there already, on the first of "PATH 1", "PATH 2" ... that is
   /// not there or empty. No path stands for "EFI" in the folder for volumes. YES when the mount

@@ -86,7 +86,7 @@ void DiskArbitrator::umountCallback(const QString &disk,
   sendNotificationWithMessage(umountRefusal(disk, dissenter->status));
 }
 
-QString DiskArbitrator::umountRefusal(const QString &disk, DAReturn status) {
+QString DiskArbitrator::umountRefusal(const QString &disk, DissenterStatus status) {
   const QString reason = QString::fromLocal8Bit(daStatus(status));
   return u"umount failed for "_s + disk + ", reason: "_L1 + reason;
 }

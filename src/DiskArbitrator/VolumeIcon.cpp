@@ -19,10 +19,10 @@ std::optional<QString> volumeIconPath(const QString &partition) {
 QImage mediaIconOf(const QString &partition, const std::optional<QString> &volumeIcon) {
   const Platform &platform = Platform::current();
   const QVariantMap record = descriptionValue(partition, kDADiskDescriptionMediaIconKey).toMap();
-  const auto bundle = platform.driverBundle(record.value(kCFBundleIdentifierKey).toString());
+  const auto bundle = platform.driverBundle(record.value(kMediaIconBundleKey).toString());
   if (!bundle) return {};
   const SystemFiles &files = Platform::current().systemFiles();
-  const QFileInfo file(record.value(kIOBundleResourceFileKey).toString());
+  const QFileInfo file(record.value(kMediaIconFileKey).toString());
   const auto resource = files.bundleResource(*bundle, file.completeBaseName(), file.suffix());
   if (resource) return files.image(*resource).value_or(QImage());
   // A bundle that does not open leaves the path as it was before: that of the volume's own icon.

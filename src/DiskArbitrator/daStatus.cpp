@@ -14,11 +14,11 @@ constexpr std::array kPhrases = {
 
 }  // namespace
 
-const char *daStatus(DAReturn status) {
-  constexpr DAReturn kErrorNumberBits = 0x3FFF;
-  const DAReturn errorNumber = status & kErrorNumberBits;
+const char *daStatus(DissenterStatus status) {
+  constexpr DissenterStatus kErrorNumberBits = 0x3FFF;
+  const DissenterStatus errorNumber = status & kErrorNumberBits;
   if (status == (errorNumber | kUnixErrorBits)) return std::strerror(static_cast<int>(errorNumber));
 
-  const DAReturn index = status - kDAReturnError;
+  const DissenterStatus index = status - kDAReturnError;
   return index < kPhrases.size() ? kPhrases[index] : "unknown error";
 }

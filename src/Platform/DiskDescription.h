@@ -16,6 +16,10 @@
 
 using DiskDescription = QVariantHash;
 
+// In a namespace, because variables of a Mac's frameworks go by these names, and a linker would take
+// them for the same.
+namespace disk_service {
+
 // The media: a whole disk or a partition, present whether it is mounted or not.
 inline const QString kDADiskDescriptionMediaBSDNameKey =
     QStringLiteral("DAMediaBSDName");  // QString
@@ -33,8 +37,8 @@ inline const QString kDADiskDescriptionMediaIconKey =
     QStringLiteral("DAMediaIcon");  // QVariantMap, under the two keys below
 
 // Which picture stands for the media: a driver bundle and the name of a file among its resources.
-inline const QString kCFBundleIdentifierKey = QStringLiteral("CFBundleIdentifier");      // QString
-inline const QString kIOBundleResourceFileKey = QStringLiteral("IOBundleResourceFile");  // QString
+inline const QString kMediaIconBundleKey = QStringLiteral("CFBundleIdentifier");  // QString
+inline const QString kMediaIconFileKey = QStringLiteral("IOBundleResourceFile");  // QString
 
 // The volume on it. Kind and UUID are known from the file system's own header, name and path while
 // mounted.
@@ -53,6 +57,10 @@ inline const QString kDADiskDescriptionDeviceInternalKey =
 /// Our own: the node by which this system's other tools know the media, such as "/dev/nvme0n1p1".
 /// QString.
 inline const QString kDiskDescriptionDeviceNodeKey = QStringLiteral("KeldraDeviceNode");
+
+}  // namespace disk_service
+
+using namespace disk_service;
 
 /// A universally unique identifier as the disk service hands it out.
 class DiskUUID {

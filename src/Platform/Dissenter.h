@@ -5,29 +5,36 @@
 
 #include <QtGlobal>
 
-using DAReturn = quint32;
+using DissenterStatus = quint32;
 
-inline constexpr DAReturn kDAReturnSuccess = 0;
-inline constexpr DAReturn kDAReturnError = 0xF8DA0001;
-inline constexpr DAReturn kDAReturnBusy = 0xF8DA0002;
-inline constexpr DAReturn kDAReturnBadArgument = 0xF8DA0003;
-inline constexpr DAReturn kDAReturnExclusiveAccess = 0xF8DA0004;
-inline constexpr DAReturn kDAReturnNoResources = 0xF8DA0005;
-inline constexpr DAReturn kDAReturnNotFound = 0xF8DA0006;
-inline constexpr DAReturn kDAReturnNotMounted = 0xF8DA0007;
-inline constexpr DAReturn kDAReturnNotPermitted = 0xF8DA0008;
-inline constexpr DAReturn kDAReturnNotPrivileged = 0xF8DA0009;
-inline constexpr DAReturn kDAReturnNotReady = 0xF8DA000A;
-inline constexpr DAReturn kDAReturnNotWritable = 0xF8DA000B;
-inline constexpr DAReturn kDAReturnUnsupported = 0xF8DA000C;
+// In a namespace for the sake of the backend on a Mac, whose frameworks have the same names.
+namespace disk_service {
+
+inline constexpr DissenterStatus kDAReturnSuccess = 0;
+inline constexpr DissenterStatus kDAReturnError = 0xF8DA0001;
+inline constexpr DissenterStatus kDAReturnBusy = 0xF8DA0002;
+inline constexpr DissenterStatus kDAReturnBadArgument = 0xF8DA0003;
+inline constexpr DissenterStatus kDAReturnExclusiveAccess = 0xF8DA0004;
+inline constexpr DissenterStatus kDAReturnNoResources = 0xF8DA0005;
+inline constexpr DissenterStatus kDAReturnNotFound = 0xF8DA0006;
+inline constexpr DissenterStatus kDAReturnNotMounted = 0xF8DA0007;
+inline constexpr DissenterStatus kDAReturnNotPermitted = 0xF8DA0008;
+inline constexpr DissenterStatus kDAReturnNotPrivileged = 0xF8DA0009;
+inline constexpr DissenterStatus kDAReturnNotReady = 0xF8DA000A;
+inline constexpr DissenterStatus kDAReturnNotWritable = 0xF8DA000B;
+inline constexpr DissenterStatus kDAReturnUnsupported = 0xF8DA000C;
+
+}  // namespace disk_service
+
+using namespace disk_service;
 
 /// The bits that mark a status as a plain Unix error number in its low 14 bits.
-inline constexpr DAReturn kUnixErrorBits = 0xC000;
+inline constexpr DissenterStatus kUnixErrorBits = 0xC000;
 
-constexpr DAReturn unixErrorStatus(int errorNumber) {
-  return kUnixErrorBits | static_cast<DAReturn>(errorNumber);
+constexpr DissenterStatus unixErrorStatus(int errorNumber) {
+  return kUnixErrorBits | static_cast<DissenterStatus>(errorNumber);
 }
 
 struct Dissenter {
-  DAReturn status;
+  DissenterStatus status;
 };

@@ -10,7 +10,7 @@ TEST(daStatus, PutsTheServicesCodesIntoFixedWords) {
   EXPECT_STREQ(daStatus(kDAReturnNoResources), "no Resources");
   EXPECT_STREQ(daStatus(kDAReturnNotPrivileged), "not privileged");
   EXPECT_STREQ(daStatus(kDAReturnUnsupported), "unsupported");
-  for (const DAReturn outside :
+  for (const DissenterStatus outside :
        {0xF8DA0000U, 0xF8DA000DU, kDAReturnSuccess, 0xFFFFFFFFU, 0x1C00DU}) {
     EXPECT_STREQ(daStatus(outside), "unknown error") << outside;
   }

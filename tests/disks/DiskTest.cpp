@@ -4,7 +4,7 @@
 #include <QProcess>
 #include <QUrl>
 
-#include "Platform/linux/LinuxPlatform.h"
+#include "Platform/ThisMachine.h"
 
 void DiskTest::SetUp() {
   if (!DiskLab::isHere()) GTEST_SKIP() << "not in a disk laboratory";
@@ -28,7 +28,7 @@ void DiskTest::TearDown() {
 }
 
 void DiskTest::startPlatform() {
-  platform = makeLinuxPlatform();
+  platform = makePlatform();
   events.clear();
   observe(kNSWorkspaceDidMountNotification, "+");
   observe(kNSWorkspaceDidUnmountNotification, "-");
@@ -101,9 +101,9 @@ QString DiskTest::mountPointOf(const QString &name) const {
   return value(name, kDADiskDescriptionVolumePathKey).toUrl().toLocalFile();
 }
 
-DAReturn DiskTest::answerTo(const std::function<void(DiskService::Completion)> &request) {
+DissenterStatus DiskTest::answerTo(const std::function<void(DiskService::Completion)> &request) {
   int answers = 0;
-  DAReturn status = kDAReturnSuccess;
+  DissenterStatus status = kDAReturnSuccess;
   request([&](const std::optional<Dissenter> &dissenter) {
     ++answers;
     if (dissenter) status = dissenter->status;
@@ -114,13 +114,13 @@ DAReturn DiskTest::answerTo(const std::function<void(DiskService::Completion)> &
   return status;
 }
 
-DAReturn DiskTest::mount(const QString &name) {
+DissenterStatus DiskTest::mount(const QString &name) {
   return answerTo([&](const DiskService::Completion &completion) {
     platform->diskService().mount(name, std::nullopt, completion);
   });
 }
 
-DAReturn DiskTest::unmount(const QString &name, DiskService::UnmountOption option) {
+DissenterStatus DiskTest::unmount(const QString &name, DiskService::UnmountOption option) {
   return answerTo([&](const DiskService::Completion &completion) {
     platform->diskService().unmount(name, option, completion);
   });

@@ -45,9 +45,9 @@ class DiskTest : public testing::Test {
   QString mountPointOf(const QString &name) const;
 
   // Waits for the answer. Success is kDAReturnSuccess.
-  DAReturn mount(const QString &name);
-  DAReturn unmount(const QString &name,
-                   DiskService::UnmountOption option = DiskService::UnmountOption::Default);
+  DissenterStatus mount(const QString &name);
+  DissenterStatus unmount(const QString &name,
+                          DiskService::UnmountOption option = DiskService::UnmountOption::Default);
 
   /// "+PATH", "-PATH" or "~PATH" for a mount, an unmount or a rename; "changed" for an event
   /// without a path.
@@ -58,7 +58,7 @@ class DiskTest : public testing::Test {
   std::unique_ptr<Platform> platform;
 
  private:
-  DAReturn answerTo(const std::function<void(DiskService::Completion)> &request);
+  DissenterStatus answerTo(const std::function<void(DiskService::Completion)> &request);
   void observe(const QString &name, const QString &sign);
 
   QObject _observer;

@@ -38,14 +38,14 @@ TEST_F(Service, KilledDuringACallIsNotReady) {
   for (const auto option :
        {DiskService::UnmountOption::Default, DiskService::UnmountOption::Force}) {
     DiskLab::freezeService();
-    QList<DAReturn> answers;
+    QList<DissenterStatus> answers;
     const auto answer = [&](const auto &dissenter) {
       answers << (dissenter ? dissenter->status : kDAReturnSuccess);
     };
     platform->diskService().mount(name, std::nullopt, answer);
     platform->diskService().unmount(name, option, answer);
     QCoreApplication::processEvents();
-    EXPECT_EQ(answers, QList<DAReturn>{});
+    EXPECT_EQ(answers, QList<DissenterStatus>{});
     DiskLab::killService();
     EXPECT_TRUE(waitFor([&] { return answers.size() == 2; }));
     EXPECT_EQ(answers, (QList{kDAReturnNotReady, kDAReturnNotReady}));

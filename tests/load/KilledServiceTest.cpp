@@ -37,7 +37,7 @@ class KilledService : public DiskTest {
   /// Whether the platform has found the service again: it tells by what it says of a disk that is
   /// not there.
   bool isReady() const {
-    DAReturn status = kDAReturnNotReady;
+    DissenterStatus status = kDAReturnNotReady;
     platform->diskService().mount("disk999", std::nullopt,
                                   [&](const auto &dissenter) { status = dissenter->status; });
     return status != kDAReturnNotReady;

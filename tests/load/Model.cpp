@@ -90,8 +90,8 @@ void Model::rename(const QString &bsdName, const QString &volumeName) {
   if (auto *partition = find(bsdName)) partition->volumeName = volumeName;
 }
 
-void Model::setRefusals(const QString &bsdName, std::optional<DAReturn> mount,
-                        std::optional<DAReturn> unmount) {
+void Model::setRefusals(const QString &bsdName, std::optional<DissenterStatus> mount,
+                        std::optional<DissenterStatus> unmount) {
   auto *partition = find(bsdName);
   if (!partition) return;
   partition->mountRefusal = mount;

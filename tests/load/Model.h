@@ -34,8 +34,8 @@ class Model {
   void unmountFromOutside(const QString &bsdName);
   void rename(const QString &bsdName, const QString &volumeName);
   void setPresence(Presence presence) { _presence = presence; }
-  void setRefusals(const QString &bsdName, std::optional<DAReturn> mount,
-                   std::optional<DAReturn> unmount);
+  void setRefusals(const QString &bsdName, std::optional<DissenterStatus> mount,
+                   std::optional<DissenterStatus> unmount);
   void setDelay(const QString &bsdName, std::chrono::milliseconds delay);
   void setMishap(const QString &bsdName, std::optional<Mishap> mishap);
 

@@ -29,7 +29,7 @@ const QStringList kVolumes = {"EFI",       "EFI", "EFI1",   "Data", "open data",
 const QStringList kOutcomes = {"mounted",   "unmounted",    "refused",
                                "disk gone", "service lost", "nothing to press"};
 
-QString wordsOf(std::optional<DAReturn> refusal) {
+QString wordsOf(std::optional<DissenterStatus> refusal) {
   return refusal ? QString::number(*refusal, 16) : "none";
 }
 
@@ -135,7 +135,7 @@ RandomWalk::Event RandomWalk::changeOfAnswers(const QString &name) {
     return event("mishap", name + ' ' + QString::number(static_cast<int>(mishap)),
                  [name, mishap](auto &world) { world.setMishap(name, mishap); });
   }
-  using Refusal = std::optional<DAReturn>;
+  using Refusal = std::optional<DissenterStatus>;
   const QList<Refusal> refusals = {Refusal(), Refusal(), kDAReturnBusy, kDAReturnNotPrivileged};
   const Refusal mount = _chance.oneOf(refusals);
   const Refusal unmount = _chance.oneOf(refusals);

@@ -36,7 +36,7 @@ const QString kUnknownMethod = "org.freedesktop.DBus.Error.UnknownMethod";
 const struct {
   const char *error;
   const char *message;
-  DAReturn status;
+  DissenterStatus status;
 } kRefusals[] = {
     {"org.freedesktop.UDisks2.Error.AlreadyMounted", "", kDAReturnBusy},
     {"org.freedesktop.UDisks2.Error.DeviceBusy", "", kDAReturnBusy},
@@ -73,7 +73,7 @@ const struct {
     {"com.example.AlreadyMounted", "No space left on device", kDAReturnError},
 };
 
-using Statuses = QList<DAReturn>;
+using Statuses = QList<DissenterStatus>;
 
 class RequestsOfTheService : public ServiceTest {
  public:

@@ -63,13 +63,13 @@ DiskService::Completion ServiceTest::noteIn(const Answers &answers) {
 }
 
 Answers ServiceTest::mount(const QString &name) {
-  const auto answers = std::make_shared<QList<DAReturn>>();
+  const auto answers = std::make_shared<QList<DissenterStatus>>();
   disks->mount(name, std::nullopt, noteIn(answers));
   return answers;
 }
 
 Answers ServiceTest::unmount(const QString &name, DiskService::UnmountOption option) {
-  const auto answers = std::make_shared<QList<DAReturn>>();
+  const auto answers = std::make_shared<QList<DissenterStatus>>();
   disks->unmount(name, option, noteIn(answers));
   return answers;
 }

@@ -15,7 +15,7 @@
 #include "service/PrivateBus.h"
 
 /// The statuses with which a request was completed: one, if all is well.
-using Answers = std::shared_ptr<QList<DAReturn>>;
+using Answers = std::shared_ptr<QList<DissenterStatus>>;
 
 class ServiceTest : public testing::Test {
  public:

@@ -81,7 +81,7 @@ TEST_F(Signals, OfOthersAreNotHeeded) {
       QDBusMessage::createMethodCall("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetId"));
   settle();
   EXPECT_EQ(everything(), right);
-  EXPECT_EQ(*waiting, QList<DAReturn>{});
+  EXPECT_EQ(*waiting, QList<DissenterStatus>{});
   EXPECT_EQ(disks->presence(), DiskService::Presence::Answering);
   EXPECT_EQ(events, QStringList{});
   service.answer(service.take("Mount"));

@@ -3,7 +3,7 @@
 #include "service/ServiceTest.h"
 
 using Presence = DiskService::Presence;
-using Statuses = QList<DAReturn>;
+using Statuses = QList<DissenterStatus>;
 
 namespace {
 

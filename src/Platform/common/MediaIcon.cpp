@@ -21,8 +21,8 @@ QString fileOf(StorageKind kind) {
 }  // namespace
 
 QVariantMap mediaIcon(StorageKind kind) {
-  return {{kCFBundleIdentifierKey, u"com.brinmoor.Keldra.StorageIcons"_s},
-          {kIOBundleResourceFileKey, fileOf(kind)}};
+  return {{kMediaIconBundleKey, u"com.brinmoor.Keldra.StorageIcons"_s},
+          {kMediaIconFileKey, fileOf(kind)}};
 }
 
 std::optional<QString> shippedDriverBundle(const SystemFiles &files, const QString &identifier) {

@@ -1,4 +1,4 @@
-#include "Platform/linux/LinuxPlatform.h"
+#include "Platform/ThisMachine.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -101,6 +101,6 @@ class LinuxPlatform final : public Platform {
 
 }  // namespace
 
-std::unique_ptr<Platform> makeLinuxPlatform() {
+std::unique_ptr<Platform> makePlatform() {
   return std::make_unique<LinuxPlatform>();
 }

@@ -12,8 +12,8 @@ namespace {
 constexpr auto kServicePrefix = "org.freedesktop.UDisks2.Error."_L1;
 constexpr auto kBusPrefix = "org.freedesktop.DBus.Error."_L1;
 
-const QHash<QString, DAReturn> &serviceStatuses() {
-  static const QHash<QString, DAReturn> statuses{
+const QHash<QString, DissenterStatus> &serviceStatuses() {
+  static const QHash<QString, DissenterStatus> statuses{
       {u"AlreadyMounted"_s, kDAReturnBusy},
       {u"DeviceBusy"_s, kDAReturnBusy},
       {u"NotMounted"_s, kDAReturnNotMounted},
@@ -27,8 +27,8 @@ const QHash<QString, DAReturn> &serviceStatuses() {
   return statuses;
 }
 
-const QHash<QString, DAReturn> &busStatuses() {
-  static const QHash<QString, DAReturn> statuses{
+const QHash<QString, DissenterStatus> &busStatuses() {
+  static const QHash<QString, DissenterStatus> statuses{
       {u"ServiceUnknown"_s, kDAReturnNotReady}, {u"NameHasNoOwner"_s, kDAReturnNotReady},
       {u"NoReply"_s, kDAReturnNotReady},        {u"Disconnected"_s, kDAReturnNotReady},
       {u"NoServer"_s, kDAReturnNotReady},       {u"Timeout"_s, kDAReturnNotReady},
@@ -39,8 +39,8 @@ const QHash<QString, DAReturn> &busStatuses() {
 
 // Some refusals have no name of their own: only the message tells them from the rest. The reason
 // stands at its end; before it come names that people have chosen.
-DAReturn statusFromMessage(const QString &message) {
-  const std::array<std::pair<QLatin1StringView, DAReturn>, 3> fragments{{
+DissenterStatus statusFromMessage(const QString &message) {
+  const std::array<std::pair<QLatin1StringView, DissenterStatus>, 3> fragments{{
       {"No space left on device"_L1, unixErrorStatus(ENOSPC)},
       {"Read-only file system"_L1, kDAReturnNotWritable},
       {"write-protected"_L1, kDAReturnNotWritable},
@@ -52,7 +52,7 @@ DAReturn statusFromMessage(const QString &message) {
   return kDAReturnError;
 }
 
-DAReturn statusFromBus(const QString &error, const QString &message, bool objectIsThere) {
+DissenterStatus statusFromBus(const QString &error, const QString &message, bool objectIsThere) {
   if (error == "UnknownObject"_L1) return kDAReturnNotFound;
   if (error == "UnknownMethod"_L1 || error == "UnknownInterface"_L1) {
     const bool isGone = !objectIsThere || message.startsWith("Object does not exist"_L1);
@@ -64,7 +64,8 @@ DAReturn statusFromBus(const QString &error, const QString &message, bool object
 
 }  // namespace
 
-DAReturn refusalStatus(const QString &errorName, const QString &message, bool objectIsThere) {
+DissenterStatus refusalStatus(const QString &errorName, const QString &message,
+                              bool objectIsThere) {
   if (errorName.startsWith(kBusPrefix)) {
     return statusFromBus(errorName.sliced(kBusPrefix.size()), message, objectIsThere);
   }

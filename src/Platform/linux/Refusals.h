@@ -8,4 +8,4 @@
 /// status. `objectIsThere`: whether the service has the object that was asked, as far as is known;
 /// it answers with the same error for an object that is gone and for one that cannot do what was
 /// asked, and not always with words that tell them apart.
-DAReturn refusalStatus(const QString &errorName, const QString &message, bool objectIsThere);
+DissenterStatus refusalStatus(const QString &errorName, const QString &message, bool objectIsThere);

@@ -29,8 +29,8 @@ struct SimulatedPartition {
   /// Absent while it is not mounted.
   std::optional<QString> mountPoint;
   // How the service answers: a refusal stands until it is taken away, a mishap happens once.
-  std::optional<DAReturn> mountRefusal;
-  std::optional<DAReturn> unmountRefusal;
+  std::optional<DissenterStatus> mountRefusal;
+  std::optional<DissenterStatus> unmountRefusal;
   std::chrono::milliseconds delay{0};
   std::optional<Mishap> mishap;
 };

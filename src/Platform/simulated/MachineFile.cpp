@@ -83,14 +83,14 @@ class Reader {
     return texts;
   }
 
-  std::optional<DAReturn> status(const QString &key) {
+  std::optional<DissenterStatus> status(const QString &key) {
     const QJsonValue value = take(key);
     if (value.isUndefined()) return std::nullopt;
     const qint64 number = value.toInteger(-1);
-    if (number > 0 && number <= std::numeric_limits<DAReturn>::max()) {
-      return static_cast<DAReturn>(number);
+    if (number > 0 && number <= std::numeric_limits<DissenterStatus>::max()) {
+      return static_cast<DissenterStatus>(number);
     }
-    for (DAReturn status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
+    for (DissenterStatus status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
       if (value.toString() == QLatin1StringView(daStatus(status))) return status;
     }
     fail(key, u"a status phrase such as \"busy\", or a number, is needed"_s);
@@ -191,8 +191,8 @@ SimulatedDisk readDisk(Reader &reader) {
   disk.physicalBlockSize = reader.count(u"physicalBlockSize"_s);
   disk.logicalBlockSize = reader.count(u"logicalBlockSize"_s);
   if (auto icon = reader.object(u"icon"_s)) {
-    disk.icon = {{kCFBundleIdentifierKey, icon->text(u"bundle"_s)},
-                 {kIOBundleResourceFileKey, icon->text(u"file"_s)}};
+    disk.icon = {{kMediaIconBundleKey, icon->text(u"bundle"_s)},
+                 {kMediaIconFileKey, icon->text(u"file"_s)}};
     icon->expectNothingElse();
   }
   QSet<int> slices;

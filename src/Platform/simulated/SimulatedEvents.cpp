@@ -80,8 +80,8 @@ void SimulatedPlatform::setPresence(Presence presence) {
   }
 }
 
-void SimulatedPlatform::setRefusals(const QString &bsdName, std::optional<DAReturn> mount,
-                                    std::optional<DAReturn> unmount) {
+void SimulatedPlatform::setRefusals(const QString &bsdName, std::optional<DissenterStatus> mount,
+                                    std::optional<DissenterStatus> unmount) {
   SimulatedPartition *partition = find(bsdName).partition;
   if (partition == nullptr) return;
   partition->mountRefusal = mount;

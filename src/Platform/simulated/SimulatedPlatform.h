@@ -102,8 +102,8 @@ class SimulatedPlatform final : public Platform,
   void setPresence(Presence presence);
 
   // How later requests for a partition are answered; absent values are as if nothing had been set.
-  void setRefusals(const QString &bsdName, std::optional<DAReturn> mount,
-                   std::optional<DAReturn> unmount);
+  void setRefusals(const QString &bsdName, std::optional<DissenterStatus> mount,
+                   std::optional<DissenterStatus> unmount);
   void setDelay(const QString &bsdName, std::chrono::milliseconds delay);
   void setMishap(const QString &bsdName, std::optional<Mishap> mishap);
 
@@ -139,7 +139,7 @@ class SimulatedPlatform final : public Platform,
   void strike(Mishap mishap, int unit, std::chrono::milliseconds delay);
   void answer(int number);
   /// Answers requests before their time is over.
-  void endRequests(DAReturn status, const std::function<bool(const Request &)> &concerns);
+  void endRequests(DissenterStatus status, const std::function<bool(const Request &)> &concerns);
 
   QByteArray diskFree() const;
   bool mountByProgram(const QStringList &arguments);

@@ -96,7 +96,7 @@ void SimulatedPlatform::answer(int number) {
   request.completion(dissenter);
 }
 
-void SimulatedPlatform::endRequests(DAReturn status,
+void SimulatedPlatform::endRequests(DissenterStatus status,
                                     const std::function<bool(const Request &)> &concerns) {
   for (auto each = _requests.begin(); each != _requests.end();) {
     if (!concerns(each->second)) {

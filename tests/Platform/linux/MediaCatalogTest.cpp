@@ -113,7 +113,7 @@ TEST_F(MediaCatalogTest, TakesTheDrivesPropertiesForDiskAndPartitions) {
 
 TEST_F(MediaCatalogTest, PicksThePictureOfTheMedium) {
   const auto pictureOf = [&](const QString &name) {
-    return value(name, kDADiskDescriptionMediaIconKey).toMap().value(kIOBundleResourceFileKey);
+    return value(name, kDADiskDescriptionMediaIconKey).toMap().value(kMediaIconFileKey);
   };
   machine.addDrive(machine.addDisk("sda", 1), {{"ConnectionBus", ""}});
   machine.addDrive(machine.addDisk("sdb", 2), {{"ConnectionBus", "usb"}});

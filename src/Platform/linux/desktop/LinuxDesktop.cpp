@@ -1,4 +1,4 @@
-#include "Platform/linux/desktop/LinuxDesktop.h"
+#include "Platform/ThisMachine.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -93,6 +93,6 @@ class LinuxDesktop final : public Desktop {
 
 }  // namespace
 
-std::unique_ptr<Desktop> makeLinuxDesktop(const QString &serviceName) {
+std::unique_ptr<Desktop> makeDesktop(const QString &serviceName) {
   return std::make_unique<LinuxDesktop>(serviceName);
 }
