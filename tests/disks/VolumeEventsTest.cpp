@@ -6,50 +6,6 @@
 
 class Volumes : public DiskTest {};
 
-TEST_F(Volumes, AreToldOfWhoeverMountsThem) {
-  const QString device = addSystemPartition("OUTSIDE");
-  const QString folder = DiskLab::makeFolder("outside");
-  events.clear();
-  DiskLab::run("mount", {device, folder});
-  EXPECT_TRUE(waitFor([&] { return volumeEvents() == QStringList{"+" + folder}; }));
-  EXPECT_EQ(mountPointOf(nameOf(device)), folder);
-  DiskLab::run("umount", {folder});
-  EXPECT_TRUE(waitFor([&] { return volumeEvents() == (QStringList{"+" + folder, "-" + folder}); }));
-}
-
-TEST_F(Volumes, AreToldOfWhenRenamed) {
-  const QString device = addSystemPartition("BEFORE");
-  const QString name = nameOf(device);
-  events.clear();
-  DiskLab::run("e2label", {device, "UNMOUNTED"});
-  EXPECT_TRUE(waitFor([&] { return events.contains("changed"); }));
-  EXPECT_EQ(volumeEvents(), QStringList{});
-
-  ASSERT_EQ(mount(name), kDAReturnSuccess);
-  const QString path = mountPointOf(name);
-  events.clear();
-  DiskLab::run("e2label", {device, "MOUNTED"});
-  DiskLab::run("udevadm", {"trigger", "--action=change", "--settle", device});
-  EXPECT_TRUE(waitFor([&] { return volumeEvents() == QStringList{"~" + path}; }));
-  EXPECT_EQ(value(name, kDADiskDescriptionVolumeNameKey), "MOUNTED");
-  EXPECT_EQ(mountPointOf(name), path);
-}
-
-TEST_F(Volumes, AreToldOfOnceWhenTheirDiskIsPulled) {
-  const QString device = addSystemPartition("PULLED");
-  const QString name = nameOf(device);
-  ASSERT_EQ(mount(name), kDAReturnSuccess);
-  const QString path = mountPointOf(name);
-  events.clear();
-  pullDisk(device.section('p', 0, -2));
-  EXPECT_TRUE(waitFor([&] { return !platform->mediaRegistry().mediaNames().contains(name); }));
-  EXPECT_TRUE(waitFor([&] { return events.contains("changed"); }));
-  EXPECT_EQ(volumeEvents(), QStringList{"-" + path});
-  EXPECT_EQ(platform->diskService().descriptionOfVolume(path), std::nullopt);
-  EXPECT_EQ(mount(name), kDAReturnNotFound);
-  EXPECT_EQ(volumeEvents(), QStringList{"-" + path});
-}
-
 // udev is told that the device was removed; the kernel goes on showing the mount.
 TEST_F(Volumes, OfAPulledDiskAreNotMountedThoughTheKernelStillShowsThem) {
   const QString device = addSystemPartition("STALE");

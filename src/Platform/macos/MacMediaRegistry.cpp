@@ -1,0 +1,51 @@
+#include "Platform/macos/MacMediaRegistry.h"
+
+#include <IOKit/IOBSD.h>
+#include <IOKit/IOKitLib.h>
+#include <IOKit/storage/IOMedia.h>
+
+#include "Platform/macos/Values.h"
+
+namespace {
+
+Owned<io_iterator_t> allMedia() {
+  io_iterator_t media{};
+  // Asking takes the matching dictionary over, also when it fails.
+  const kern_return_t result =
+      IOServiceGetMatchingServices(kIOMasterPortDefault, IOServiceMatching(kIOMediaClass), &media);
+  return result == KERN_SUCCESS ? Owned<io_iterator_t>(media) : Owned<io_iterator_t>();
+}
+
+std::optional<QString> bsdNameOf(const Owned<io_object_t> &medium) {
+  CFMutableDictionaryRef table = nullptr;
+  if (IORegistryEntryCreateCFProperties(medium.get(), &table, kCFAllocatorDefault, 0) !=
+      KERN_SUCCESS) {
+    return std::nullopt;
+  }
+  const Owned<CFMutableDictionaryRef> properties(table);
+  return textOf(referenceIn(properties.get(), QString::fromUtf8(kIOBSDNameKey)));
+}
+
+// "disk1" and "disk1s2" lie on "disk1", and "disk10" does not.
+bool liesOn(const QString &bsdName, const QString &wholeDisk) {
+  if (!bsdName.startsWith(wholeDisk)) return false;
+  return bsdName.size() == wholeDisk.size() || bsdName.at(wholeDisk.size()) == u's';
+}
+
+}  // namespace
+
+QStringList MacMediaRegistry::mediaNames() const {
+  const Owned<io_iterator_t> media = allMedia();
+  QStringList names;
+  if (!media) return names;
+  while (const Owned<io_object_t> medium{IOIteratorNext(media.get())}) {
+    if (const auto name = bsdNameOf(medium)) names += *name;
+  }
+  return names;
+}
+
+QStringList MacMediaRegistry::mediaNamesOnDisk(const QString &wholeDisk) const {
+  QStringList names = mediaNames();
+  names.removeIf([&](const QString &name) { return !liesOn(name, wholeDisk); });
+  return names;
+}

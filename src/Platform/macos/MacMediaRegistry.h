@@ -1,0 +1,10 @@
+#pragma once
+
+#include "Platform/Platform.h"
+
+/// The I/O registry's media objects, in its order.
+class MacMediaRegistry final : public MediaRegistry {
+ public:
+  QStringList mediaNames() const override;
+  QStringList mediaNamesOnDisk(const QString &wholeDisk) const override;
+};

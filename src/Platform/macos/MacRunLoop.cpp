@@ -1,0 +1,18 @@
+#include "Platform/macos/MacRunLoop.h"
+
+#include <CoreFoundation/CoreFoundation.h>
+
+void MacRunLoop::run(const bool &finished) {
+  ++_waits;
+  while (!finished) CFRunLoopRun();
+  --_waits;
+}
+
+// Without a wait under way it would end the program's own loop.
+void MacRunLoop::stop() {
+  if (_waits > 0) CFRunLoopStop(CFRunLoopGetCurrent());
+}
+
+void MacRunLoop::servePending() {
+  CFRunLoopRunInMode(kCFRunLoopDefaultMode, 0, 0);
+}

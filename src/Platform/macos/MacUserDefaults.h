@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Platform/LoginItems.h"
+
+/// The preferences of the application, by its bundle's identifier.
+class MacUserDefaults final : public UserDefaults {
+ public:
+  QVariant object(const QString &key) const override;
+  void setBool(const QString &key, bool value) override;
+  void synchronize() override;
+};

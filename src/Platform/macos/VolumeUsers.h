@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QStringList>
+
+/// As `Platform::processesUsing`.
+QStringList processesUsingVolume(const QString &mountPoint);

@@ -1,0 +1,256 @@
+// What every backend owes the program, whatever machine is behind it.
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "Foundation/NotificationCenter.h"
+#include "conformance/ConformanceMachine.h"
+
+namespace {
+
+using Option = DiskService::UnmountOption;
+
+class Conformance : public testing::Test {
+ protected:
+  void SetUp() override {
+    machine = ConformanceMachine::make();
+    if (!machine) GTEST_SKIP() << "no such machine can be here";
+    esp = machine->disk() + "s1";
+    empty = machine->disk() + "s2";
+    listen(kNSWorkspaceDidMountNotification, "+");
+    listen(kNSWorkspaceDidUnmountNotification, "-");
+    listen(kNSWorkspaceDidRenameVolumeNotification, "~");
+    ASSERT_TRUE(waitFor([&] { return service().presence() == DiskService::Presence::Answering; }));
+  }
+
+  static bool waitFor(const std::function<bool()> &condition) {
+    return QTest::qWaitFor(condition, 10000);
+  }
+
+  DiskService &service() const { return machine->platform().diskService(); }
+  DiskDescription description(const QString &name) const {
+    return service().descriptionOfMedia(name).value_or(DiskDescription());
+  }
+  QVariant value(const QString &name, const QString &key) const {
+    return description(name).value(key);
+  }
+  QString mountPoint() const {
+    return value(esp, kDADiskDescriptionVolumePathKey).toUrl().toLocalFile();
+  }
+
+  DiskService::Completion answer() {
+    return [this](const std::optional<Dissenter> &dissenter) {
+      answers += dissenter ? dissenter->status : kDAReturnSuccess;
+    };
+  }
+  /// The one answer to what was asked.
+  DissenterStatus answered() {
+    EXPECT_TRUE(waitFor([&] { return !answers.isEmpty(); })) << "no answer";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(answers.size(), 1);
+    return std::exchange(answers, {}).value(0);
+  }
+  DissenterStatus mount(const QString &name) {
+    service().mount(name, std::nullopt, answer());
+    return answered();
+  }
+  DissenterStatus unmount(const QString &name, Option option = Option::Default) {
+    service().unmount(name, option, answer());
+    return answered();
+  }
+
+  bool hears(const QStringList &expected) {
+    const bool isHeard = waitFor([&] { return news == expected; });
+    EXPECT_EQ(news, expected);
+    news.clear();
+    return isHeard;
+  }
+
+  std::unique_ptr<ConformanceMachine> machine;
+  QString esp;
+  QString empty;
+  QStringList news;  // "+PATH", "-PATH" and "~PATH" for a mount, an unmount and a rename
+  int changes = 0;   // told without a path
+  QList<DissenterStatus> answers;
+
+ private:
+  void listen(const QString &name, const QString &sign) {
+    machine->platform().workspaceNotificationCenter().addObserver(
+        &_observer, name, [this, sign](const Notification &note) {
+          const QString path = note.userInfo.value(kNSDevicePathKey).toString();
+          path.isEmpty() ? void(++changes) : void(news += sign + path);
+        });
+  }
+
+  QObject _observer;
+};
+
+}  // namespace
+
+TEST_F(Conformance, MediaAreListedAndDescribed) {
+  const QString disk = machine->disk();
+  const QStringList names = machine->platform().mediaRegistry().mediaNames();
+  for (const QString &name : {disk, esp, empty}) {
+    EXPECT_EQ(names.count(name), 1) << name.toStdString();
+    EXPECT_EQ(value(name, kDADiskDescriptionMediaBSDNameKey), name);
+    EXPECT_EQ("disk" + value(name, kDADiskDescriptionMediaBSDUnitKey).toString(), disk);
+    EXPECT_EQ(value(name, kDADiskDescriptionMediaWritableKey), true);
+    EXPECT_EQ(value(name, kDADiskDescriptionVolumePathKey), QVariant());
+    EXPECT_EQ(value(name, kDADiskDescriptionVolumeNameKey), QVariant());
+  }
+  EXPECT_EQ(machine->platform().mediaRegistry().mediaNamesOnDisk(disk),
+            (QStringList{disk, esp, empty}));
+  EXPECT_EQ(value(disk, kDADiskDescriptionMediaContentKey), "GUID_partition_scheme");
+  EXPECT_EQ(value(esp, kDADiskDescriptionMediaNameKey), "EFI System Partition");
+  EXPECT_TRUE(value(esp, kDADiskDescriptionMediaUUIDKey).canConvert<DiskUUID>());
+}
+
+TEST_F(Conformance, WhatIsNotThereIsAbsentAndRefused) {
+  for (const QString name : {"disk999", "disk999s1", "disk", ""}) {
+    EXPECT_EQ(service().descriptionOfMedia(name), std::nullopt) << name.toStdString();
+    EXPECT_EQ(machine->platform().mediaRegistry().mediaNamesOnDisk(name), QStringList{});
+    EXPECT_EQ(mount(name), kDAReturnNotFound) << name.toStdString();
+    EXPECT_EQ(unmount(name), kDAReturnNotFound) << name.toStdString();
+  }
+  EXPECT_EQ(service().descriptionOfVolume("/no/such/volume"), std::nullopt);
+  EXPECT_EQ(mount(empty), kDAReturnUnsupported);
+  EXPECT_EQ(unmount(esp), kDAReturnNotMounted);
+  EXPECT_EQ(news, QStringList{});
+}
+
+TEST_F(Conformance, AMountIsUndoneByAnUnmount) {
+  ASSERT_EQ(mount(esp), kDAReturnSuccess);
+  const QString path = mountPoint();
+  EXPECT_TRUE(hears({"+" + path}));
+  EXPECT_EQ(value(esp, kDADiskDescriptionVolumeNameKey), "EFI");
+  EXPECT_EQ(service().descriptionOfVolume(path), service().descriptionOfMedia(esp));
+  EXPECT_EQ(service().descriptionOfVolume(path + "/"), std::nullopt);
+  EXPECT_EQ(mount(esp), kDAReturnBusy);
+
+  EXPECT_EQ(unmount(esp), kDAReturnSuccess);
+  EXPECT_TRUE(hears({"-" + path}));
+  EXPECT_EQ(mountPoint(), "");
+  EXPECT_EQ(value(esp, kDADiskDescriptionVolumeNameKey), QVariant());
+  EXPECT_EQ(service().descriptionOfVolume(path), std::nullopt);
+}
+
+TEST_F(Conformance, ABusyVolumeIsUnmountedByForceOnly) {
+  ASSERT_EQ(mount(esp), kDAReturnSuccess);
+  const QString path = mountPoint();
+  EXPECT_TRUE(hears({"+" + path}));
+  machine->occupy();
+  EXPECT_EQ(unmount(esp), kDAReturnBusy);
+  EXPECT_EQ(mountPoint(), path);
+  EXPECT_FALSE(machine->platform().processesUsing(path).isEmpty());
+  EXPECT_EQ(unmount(esp, Option::Force), kDAReturnSuccess);
+  EXPECT_TRUE(hears({"-" + path}));
+  EXPECT_EQ(mountPoint(), "");
+}
+
+TEST_F(Conformance, WhatOthersDoIsTold) {
+  machine->mount();
+  EXPECT_TRUE(waitFor([&] { return !mountPoint().isEmpty(); }));
+  EXPECT_TRUE(hears({"+" + mountPoint()}));
+
+  machine->rename("OTHER");
+  EXPECT_TRUE(waitFor([&] { return !news.isEmpty(); }));
+  EXPECT_TRUE(hears({"~" + mountPoint()}));
+  EXPECT_EQ(value(esp, kDADiskDescriptionVolumeNameKey), "OTHER");
+
+  const QString path = mountPoint();
+  machine->unmount();
+  EXPECT_TRUE(hears({"-" + path}));
+
+  changes = 0;
+  machine->rename("UNSEEN");
+  EXPECT_TRUE(waitFor([&] { return changes > 0; })) << "an unmounted volume's name";
+  EXPECT_EQ(news, QStringList{});
+}
+
+TEST_F(Conformance, APulledDiskIsGone) {
+  ASSERT_EQ(mount(esp), kDAReturnSuccess);
+  const QString path = mountPoint();
+  EXPECT_TRUE(hears({"+" + path}));
+  changes = 0;
+  machine->pull();
+  EXPECT_TRUE(hears({"-" + path}));
+  EXPECT_TRUE(waitFor([&] { return changes > 0 && description(esp).isEmpty(); }));
+  EXPECT_FALSE(machine->platform().mediaRegistry().mediaNames().contains(esp));
+  EXPECT_EQ(service().descriptionOfVolume(path), std::nullopt);
+  EXPECT_EQ(mount(esp), kDAReturnNotFound);
+  EXPECT_EQ(news, QStringList{}) << "told once";
+}
+
+TEST_F(Conformance, AWaitEndsWithItsOwnFlagOnly) {
+  RunLoop &loop = machine->platform().runLoop();
+  bool isOuterOver = true;
+  loop.stop();  // nobody waits: nothing is stopped
+  loop.run(isOuterOver);
+
+  isOuterOver = false;
+  QStringList order;
+  QTimer::singleShot(0, [&] {
+    bool isInnerOver = false;
+    QTimer::singleShot(0, [&] {
+      isOuterOver = true;
+      loop.stop();
+    });
+    QTimer::singleShot(5, [&] {
+      isInnerOver = true;
+      loop.stop();
+    });
+    loop.run(isInnerOver);
+    EXPECT_TRUE(isInnerOver);
+    order += "inner";
+    loop.stop();
+  });
+  loop.run(isOuterOver);
+  order += "outer";
+  EXPECT_EQ(order, (QStringList{"inner", "outer"}));
+  loop.servePending();
+}
+
+TEST_F(Conformance, ThePartitionIsMountedWhenTheProgramsWaitIsOver) {
+  const CurrentPlatform current(machine->platform());
+  QStringList refusals;
+  QObject observer;
+  NotificationCenter::defaultCenter().addObserver(
+      &observer, "arbitrator",
+      [&](const Notification &note) { refusals += note.userInfo.value("note").toString(); });
+  EXPECT_TRUE(DiskArbitrator::mountPartition(esp, std::nullopt));
+  const QString path = mountPoint();
+  EXPECT_TRUE(hears({"+" + path}));
+  EXPECT_EQ(DiskArbitrator::findBSDName(path), esp);
+  EXPECT_EQ(DiskArbitrator::findEFIdiskOfTheParentDisk(path), esp);
+  EXPECT_TRUE(DiskArbitrator::umountPartition(esp, false));
+  EXPECT_TRUE(hears({"-" + path}));
+  EXPECT_EQ(refusals, QStringList{});
+}
+
+TEST_F(Conformance, WhatIsKeptForTheUserIsFoundAgain) {
+  UserDefaults &defaults = machine->platform().userDefaults();
+  for (const bool isOn : {true, false}) {
+    defaults.setBool("RunAtload", isOn);
+    defaults.synchronize();
+    EXPECT_EQ(defaults.object("RunAtload").toBool(), isOn);
+  }
+  EXPECT_FALSE(defaults.object("never set").isValid());
+
+  LoginItems &items = machine->platform().loginItems();
+  const auto ownItems = [&] {
+    auto list = items.snapshot().value_or(QVector<LoginItems::Item>());
+    list.removeIf([&](const auto &item) { return item.location != items.ownLocation(); });
+    return list;
+  };
+  EXPECT_TRUE(ownItems().isEmpty());
+  items.insertOwnItem();
+  ASSERT_EQ(ownItems().size(), 1);
+  const LoginItems::Item own = ownItems().first();
+  items.remove(own);
+  items.remove(own);
+  EXPECT_TRUE(ownItems().isEmpty());
+}
