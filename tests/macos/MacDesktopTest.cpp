@@ -1,0 +1,62 @@
+#include <QGuiApplication>
+
+#include "Platform/ThisMachine.h"
+#include "macos/MacMachine.h"
+
+namespace {
+
+class MacDesktop : public MacMachine {
+ protected:
+  std::unique_ptr<Desktop> desktop = makeDesktop({});
+};
+
+}  // namespace
+
+TEST_F(MacDesktop, FollowsTheInterfaceStyle) {
+  int changes = 0;
+  QObject::connect(desktop.get(), &Desktop::interfaceThemeChanged, [&] { ++changes; });
+  EXPECT_FALSE(desktop->interfaceStyle().isValid());
+  mac.globalPreferences = {{"AppleInterfaceStyle", "Dark"}};
+  mac.postDistributedNotification("AppleInterfaceThemeChangedNotification");
+  fake::serve();
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(desktop->interfaceStyle(), "Dark");
+  mac.globalPreferences = {{"AppleInterfaceStyle", fake::Array{"Dark"}}};
+  EXPECT_FALSE(desktop->interfaceStyle().isValid());
+}
+
+TEST_F(MacDesktop, MonitorsPressesAndReleasedKeysOfOtherPrograms) {
+  using fake::Event;
+  for (const auto &[event, isWatched] :
+       {std::pair(Event::LeftMouseDown, true), std::pair(Event::RightMouseDown, true),
+        std::pair(Event::KeyUp, true), std::pair(Event::KeyDown, false)}) {
+    int calls = 0;
+    std::unique_ptr<EventMonitor> monitor;
+    monitor = desktop->addGlobalMonitor([&] {
+      ++calls;
+      monitor.reset();
+    });
+    mac.sendEvent(event);
+    mac.sendEvent(event);
+    EXPECT_EQ(calls, isWatched ? 1 : 0);
+  }
+}
+
+TEST_F(MacDesktop, WatchesItsOwnActivationWhereItMayNotWatchOthers) {
+  mac.allowsEventMonitors = false;
+  int calls = 0;
+  const auto monitor = desktop->addGlobalMonitor([&] { ++calls; });
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+  EXPECT_EQ(calls, 1);
+}
+
+TEST_F(MacDesktop, IsReopenedWhenItIsActivatedThoughItIsActive) {
+  int times = 0;
+  QObject::connect(desktop.get(), &Desktop::reopened, [&] { ++times; });
+  for (const auto state : {Qt::ApplicationActive, Qt::ApplicationInactive, Qt::ApplicationActive}) {
+    emit qGuiApp->applicationStateChanged(state);
+  }
+  EXPECT_EQ(times, 0);
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+  EXPECT_EQ(times, 1);
+}
