@@ -36,8 +36,8 @@ class MacMachine : public testing::Test {
 
   /// What was told since the last call: "+PATH", "-PATH" and "~PATH" for a mount, an unmount and a
   /// rename, "+" for anything else.
-  QStringList told(fake::Mode mode = fake::Mode::Default) {
-    fake::serve(mode);
+  QStringList told() {
+    fake::serve();
     QCoreApplication::processEvents();
     return std::exchange(news, {});
   }

@@ -41,7 +41,8 @@ TEST_F(MacVolumes, AreToldOfWhileAModalWindowIsOpen) {
   start();
   told();
   mac.mount(kEsp, "/Volumes/EFI");
-  EXPECT_EQ(told(fake::Mode::ModalPanel), QStringList{"+/Volumes/EFI"});
+  fake::serve(fake::Mode::ModalPanel);
+  EXPECT_EQ(news, QStringList{"+/Volumes/EFI"});
 }
 
 TEST_F(MacVolumes, GoUnnoticedWithoutAService) {

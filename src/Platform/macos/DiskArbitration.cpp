@@ -114,7 +114,8 @@ std::shared_ptr<DiskArbitration::Request> DiskArbitration::begin(const QString &
 
 // Null when it has been taken before.
 std::shared_ptr<DiskArbitration::Request> DiskArbitration::take(const Request *request) {
-  const auto found = std::ranges::find(_requests, request, &std::shared_ptr<Request>::get);
+  const auto found = std::find_if(_requests.begin(), _requests.end(),
+                                  [&](const auto &each) { return each.get() == request; });
   if (found == _requests.end()) return nullptr;
   std::shared_ptr<Request> taken = std::move(*found);
   _requests.erase(found);

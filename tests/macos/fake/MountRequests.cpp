@@ -47,6 +47,7 @@ void take(DADiskRef about, const Request &request) {
     request.complete(about, disk == nullptr ? kDAReturnBadArgument : kDAReturnNotFound);
   } else if (when == Answer::When::InsideTheCall) {
     request.complete(about, request.carryOut());
+    checked<Disk>(about, "A request that called back");
   } else if (when != Answer::When::Never) {
     // What the service does, it does however the program's run loop runs.
     post({[](const std::string &) { return true; },

@@ -1,0 +1,9 @@
+# Keldra.app, in the folder of the other programs.
+set(KELDRA_BUNDLE_ICON ${PROJECT_SOURCE_DIR}/packaging/macos/Keldra.icns)
+target_sources(keldra PRIVATE ${KELDRA_BUNDLE_ICON})
+set_source_files_properties(${KELDRA_BUNDLE_ICON} TARGET_DIRECTORY keldra
+  PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
+set_target_properties(keldra PROPERTIES
+  OUTPUT_NAME Keldra
+  MACOSX_BUNDLE ON
+  MACOSX_BUNDLE_INFO_PLIST ${PROJECT_SOURCE_DIR}/packaging/macos/Info.plist.in)
