@@ -49,6 +49,8 @@ TableCellView *AppDelegate::tableView(TableView *tableView, const TableColumn &v
   cell->textField()->setLines(linesOf(record));
   cell->imageView()->setImage(record.img);
   cell->setDeviceNode(DiskArbitrator::findDeviceNode(record.ESP).value_or(QString()));
+  // What the buttons show, in words.
+  cell->setAccessibleDescription(record.isMounted ? tr("Mounted") : tr("Not mounted"));
 
   RowButton *mountButton = cell->mountButton();
   mountButton->setTitle((record.isMounted ? u"umount "_s : u"mount "_s) + record.ESP);

@@ -61,6 +61,15 @@ void MachineTree::showMachine(const SimulatedPlatform &platform) {
   }
 }
 
+void MachineTree::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
+  // A tree tells screen readers that it has the keyboard, whether it has or not.
+  if (hasFocus()) {
+    QTreeWidget::currentChanged(current, previous);
+  } else {
+    QAbstractItemView::currentChanged(current, previous);
+  }
+}
+
 QString MachineTree::selectedName() const {
   return currentItem() ? currentItem()->text(kName) : QString();
 }

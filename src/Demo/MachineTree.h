@@ -18,6 +18,9 @@ class MachineTree : public QTreeWidget {
   /// The BSD name of the selected disk or partition. Empty when nothing is selected.
   QString selectedName() const;
 
+ protected:
+  void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+
  private:
   void add(const SimulatedDisk &disk, const QString &state);
 };

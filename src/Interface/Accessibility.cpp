@@ -1,10 +1,13 @@
 #include "Interface/Accessibility.h"
 
 #include <QAbstractButton>
+#include <QAccessibleObject>
 #include <QAccessibleWidget>
 #include <algorithm>
 
+#include "Interface/Announcement.h"
 #include "Interface/Popover.h"
+#include "Interface/RowButton.h"
 #include "Interface/RowTextField.h"
 #include "Interface/TableView.h"
 #include "Interface/TextField.h"
@@ -61,6 +64,10 @@ class AccessibleCell : public QAccessibleWidget {
         table && table->selectedRow() >= 0 && table->cellAtRow(table->selectedRow()) == _cell;
     state.focusable = true;
     state.focused = state.selected && table->hasFocus();
+    for (const QWidget *button : shownButtons()) {
+      const auto *rowButton = qobject_cast<const RowButton *>(button);
+      if (rowButton && rowButton->isBusy()) state.busy = true;
+    }
     return state;
   }
 
@@ -89,6 +96,31 @@ class AccessibleCell : public QAccessibleWidget {
   TableCellView *_cell;
 };
 
+class AccessibleAnnouncement : public QAccessibleObject {
+ public:
+  explicit AccessibleAnnouncement(Announcement *announcement)
+      : QAccessibleObject(announcement), _announcement(announcement) {}
+
+  QAccessible::Role role() const override { return QAccessible::Notification; }
+  QAccessible::State state() const override {
+    QAccessible::State state = parent()->state();
+    state.invisible = state.invisible || _announcement->text().isEmpty();
+    return state;
+  }
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? _announcement->text() : QString();
+  }
+  QAccessibleInterface *parent() const override {
+    return QAccessible::queryAccessibleInterface(_announcement->parent());
+  }
+  int childCount() const override { return 0; }
+  QAccessibleInterface *child(int) const override { return nullptr; }
+  int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+
+ private:
+  Announcement *_announcement;
+};
+
 class AccessibleTextField : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   explicit AccessibleTextField(TextField *field)
@@ -105,6 +137,14 @@ class AccessibleTextField : public QAccessibleWidget, public QAccessibleTextInte
     if (kind == QAccessible::Description || kind == QAccessible::Value)
       return _field->stringValue();
     return QAccessibleWidget::text(kind);
+  }
+
+  int childCount() const override { return announcement() ? 1 : 0; }
+  QAccessibleInterface *child(int index) const override {
+    return index == 0 ? QAccessible::queryAccessibleInterface(announcement()) : nullptr;
+  }
+  int indexOfChild(const QAccessibleInterface *child) const override {
+    return child->object() && child->object() == announcement() ? 0 : -1;
   }
 
   QString text(int startOffset, int endOffset) const override {
@@ -132,6 +172,8 @@ class AccessibleTextField : public QAccessibleWidget, public QAccessibleTextInte
   }
 
  private:
+  Announcement *announcement() const { return _field->findChild<Announcement *>(); }
+
   TextField *_field;
 };
 
@@ -139,6 +181,9 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object) {
   if (auto *table = qobject_cast<TableView *>(object)) return new AccessibleList(table);
   if (auto *cell = qobject_cast<TableCellView *>(object)) return new AccessibleCell(cell);
   if (auto *field = qobject_cast<TextField *>(object)) return new AccessibleTextField(field);
+  if (auto *announcement = qobject_cast<Announcement *>(object)) {
+    return new AccessibleAnnouncement(announcement);
+  }
   if (auto *popover = qobject_cast<Popover *>(object)) {
     return new QAccessibleWidget(popover, QAccessible::Window);
   }

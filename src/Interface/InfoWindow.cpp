@@ -1,10 +1,10 @@
 #include "Interface/InfoWindow.h"
 
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QFormLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -34,19 +34,29 @@ QLabel *makePicture(QWidget *window) {
   return picture;
 }
 
-// To be selected with the mouse, and by the keyboard.
-QLabel *makeValue(const QString &text) {
-  auto *value = new QLabel(printable(text));
-  value->setTextFormat(Qt::PlainText);
-  value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  value->setFocusPolicy(Qt::ClickFocus);
-  value->setWordWrap(true);
-  return value;
-}
+// To be selected with the mouse, and by the keyboard: all of it when the keyboard comes to it, which
+// shows where that is.
+class Value : public QLabel {
+ public:
+  explicit Value(const QString &value) : QLabel(printable(value)) {
+    setTextFormat(Qt::PlainText);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setFocusPolicy(Qt::StrongFocus);
+    setWordWrap(true);
+  }
+
+ protected:
+  void focusInEvent(QFocusEvent *event) override {
+    QLabel::focusInEvent(event);
+    const bool byKeyboard =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byKeyboard) setSelection(0, static_cast<int>(text().size()));
+  }
+};
 
 }  // namespace
 
-InfoWindow::InfoWindow(QWidget *parent) : QWidget(parent, Qt::Dialog) {
+InfoWindow::InfoWindow(QWidget *parent) : QDialog(parent) {
   setWindowTitle(tr("About Keldra"));
   const Look look(this);
   auto *head = new QHBoxLayout;
@@ -64,13 +74,13 @@ InfoWindow::InfoWindow(QWidget *parent) : QWidget(parent, Qt::Dialog) {
   copy->setToolTip(tr("Copies all of it as text, for a report of a fault"));
   connect(copy, &QPushButton::clicked, this,
           [this] { QGuiApplication::clipboard()->setText(text()); });
-  auto *closeButton = new QPushButton(tr("C&lose"), this);
-  closeButton->setDefault(true);
-  connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
+  _closeButton = new QPushButton(tr("C&lose"), this);
+  _closeButton->setDefault(true);
+  connect(_closeButton, &QPushButton::clicked, this, &QWidget::close);
   auto *buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(copy);
-  buttons->addWidget(closeButton);
+  buttons->addWidget(_closeButton);
 
   _table = new QWidget(this);
   auto *layout = new QVBoxLayout(this);
@@ -91,7 +101,7 @@ void InfoWindow::setFacts(const Facts &facts) {
   _rows->setHorizontalSpacing(Look(this).margin());
   _rows->setLabelAlignment(Qt::AlignLeading | Qt::AlignTop);
   for (const auto &[subject, value] : facts) {
-    if (!value.isEmpty()) _rows->addRow(subject, makeValue(value));
+    if (!value.isEmpty()) _rows->addRow(subject, new Value(value));
   }
   adjustSize();
 }
@@ -103,6 +113,7 @@ QString InfoWindow::text() const {
 }
 
 void InfoWindow::makeKeyAndOrderFront() {
+  _closeButton->setFocus();
   show();
   raise();
   activateWindow();
@@ -112,12 +123,4 @@ void InfoWindow::center() {
   QRect place = frameGeometry();
   place.moveCenter(screen()->availableGeometry().center());
   move(place.topLeft());
-}
-
-void InfoWindow::keyPressEvent(QKeyEvent *event) {
-  if (event->key() == Qt::Key_Escape) {
-    close();
-  } else {
-    QWidget::keyPressEvent(event);
-  }
 }

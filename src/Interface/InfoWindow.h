@@ -3,13 +3,14 @@
 // What the program is and what it has found: what a person wants to know, and a report of a fault
 // needs.
 
-#include <QWidget>
+#include <QDialog>
 
 #include "Platform/Desktop.h"
 
 class QFormLayout;
+class QPushButton;
 
-class InfoWindow : public QWidget {
+class InfoWindow : public QDialog {
   Q_OBJECT
 
  public:
@@ -25,11 +26,9 @@ class InfoWindow : public QWidget {
   /// All facts as plain text, a line for each; what the copy button puts on the clipboard.
   QString text() const;
 
- protected:
-  void keyPressEvent(QKeyEvent *event) override;
-
  private:
   Facts _facts;
   QWidget *_table = nullptr;
   QFormLayout *_rows = nullptr;
+  QPushButton *_closeButton = nullptr;
 };

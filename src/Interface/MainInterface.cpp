@@ -63,6 +63,7 @@ QWidget *MainInterface::makeOptions() {
   _runAtLoadCheck = new CheckBox(tr("Launch at login"));
   _statusTextField = new TextField;
   _statusTextField->setAccessibleName(tr("Status"));
+  _statusTextField->setAnnounced();
 
   auto *boxes = new QHBoxLayout;
   boxes->addWidget(_showAllDisksCheck);

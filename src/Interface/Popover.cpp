@@ -80,8 +80,15 @@ void Popover::showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge) {
 void Popover::closeEvent(QCloseEvent *event) {
   _appearance.stop();
   _frame = QPixmap();
+  startAfresh();
   if (isVisible() && _delegate) _delegate->popoverWillClose();
   QWidget::closeEvent(event);
+}
+
+// The next time, the keyboard begins at the top, and shows itself when it is used.
+void Popover::startAfresh() {
+  if (QWidget *focused = focusWidget()) focused->clearFocus();
+  setAttribute(Qt::WA_KeyboardFocusChange, false);
 }
 
 void Popover::changeEvent(QEvent *event) {

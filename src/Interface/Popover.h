@@ -93,7 +93,7 @@ class Popover : public QWidget {
   QPainterPath outline(qreal inset) const;
   QMargins margins() const;
   QPixmap paintedFrame() const;
-  void appear();
+  void startAfresh();
   void applicationStateChanged(Qt::ApplicationState state);
 
   PopoverDelegate *_delegate = nullptr;

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QVariantAnimation>
 
+#include "Interface/Announcement.h"
 #include "Interface/Look.h"
 #include "Interface/PlainText.h"
 
@@ -30,6 +31,11 @@ void TextField::setStringValue(const QString &text) {
   QAccessibleEvent event(this, accessibleName().isEmpty() ? QAccessible::NameChanged
                                                           : QAccessible::DescriptionChanged);
   QAccessible::updateAccessibility(&event);
+  if (_announcement) _announcement->say(text);
+}
+
+void TextField::setAnnounced() {
+  if (!_announcement) _announcement = new Announcement(this);
 }
 
 void TextField::setAnimatedStringValue(const QString &text) {

@@ -7,6 +7,7 @@
 #include <QEasingCurve>
 #include <QWidget>
 
+class Announcement;
 class QVariantAnimation;
 
 class TextField : public QWidget {
@@ -30,6 +31,9 @@ class TextField : public QWidget {
   /// Says more in the tooltip while the field shows this very text.
   void setDetail(const QString &detail, const QString &ofText);
 
+  /// Has screen readers say each new text at once.
+  void setAnnounced();
+
   TextColor textColor() const { return _textColor; }
   void setTextColor(TextColor color);
 
@@ -50,6 +54,7 @@ class TextField : public QWidget {
   QString _detail;
   QString _detailedText;
   TextColor _textColor = TextColor::Normal;
+  Announcement *_announcement = nullptr;
   qreal _opacity = 1.0;
   const QVariantAnimation *_latestFade = nullptr;  // it alone decides the opacity
 };

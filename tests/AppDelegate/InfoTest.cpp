@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QLabel>
 #include <QPushButton>
 
 #include "Interface/InfoWindow.h"
@@ -25,6 +26,12 @@ TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
   machine.platform.setPresence(DiskService::Presence::Absent);
   machine.delegate.showInfo();
   EXPECT_TRUE(window->text().contains("a simulated machine, not there")) << "asked anew";
+
+  machine.settle();
+  QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+  const auto *value = qobject_cast<QLabel *>(window->focusWidget());
+  ASSERT_NE(value, nullptr);
+  EXPECT_EQ(value->selectedText(), "Keldra v1.6") << "by the keyboard";
   QTest::keyClick(window, Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
 }

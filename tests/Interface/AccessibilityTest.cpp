@@ -83,6 +83,22 @@ TEST(AccessibleInterfaceTest, StatusLineIsALabelThatSaysItsText) {
   EXPECT_EQ(status->textInterface()->text(8, -1), "mouted at /media/a");
 }
 
+TEST(AccessibleInterfaceTest, StatusLineAnnouncesWhatItSaysWhileItIsSeen) {
+  const MainInterface interface;
+  TextField *status = interface.statusTextField();
+  QAccessibleInterface *announcement = accessible(status)->child(0);
+  ASSERT_NE(announcement, nullptr);
+  EXPECT_EQ(announcement->role(), QAccessible::Notification);
+  EXPECT_EQ(announcement->parent(), accessible(status));
+  EXPECT_EQ(accessible(status)->indexOfChild(announcement), 0);
+  EXPECT_EQ(accessible(status)->child(1), nullptr);
+  interface.popover()->show();
+  EXPECT_TRUE(announcement->state().invisible) << "there is nothing to say";
+  status->setStringValue("disk0s1 mouted at /media/a");
+  EXPECT_EQ(announcement->text(QAccessible::Name), "disk0s1 mouted at /media/a");
+  EXPECT_FALSE(announcement->state().invisible);
+}
+
 TEST(AccessibleInterfaceTest, EmptyTableGivesWayToItsText) {
   const MainInterface interface;
   interface.emptyView()->setText("No disk service answers", "The list fills as soon as it runs.");

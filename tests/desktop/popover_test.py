@@ -1,4 +1,5 @@
-"""The popover beside other programs, on a desktop without a tray: popover_test.py KELDRA_DEMO."""
+"""The popover beside other programs and in the hands of people who use no pointer or see no screen, on a desktop
+without a tray: popover_test.py KELDRA_DEMO."""
 
 import subprocess
 
@@ -77,6 +78,70 @@ class PopoverTest(DesktopTest):
         self.assert_stays_open(program)
         subprocess.run(["xdotool", "keyup", "a"], check=True)
         self.assert_stays_closed(program)
+
+    def focused(self, window):
+        return next((node for node in window.descendants() if node.is_focused()), None)
+
+    def press(self, program, key, window):
+        """And gives the name of what has the keyboard then."""
+        before = self.focused(window).name
+        screen.press(key)
+
+        def other():
+            node = self.focused(window)
+            return node.name if node and node.name != before else None
+        return program.wait_for(f"the keyboard should leave {before}", other)
+
+    def test_keyboard_comes_to_everything_in_order_and_is_seen(self):
+        program = self.open_program()
+        window = program.window()
+        order = ["Partitions", "mount disk0s1", "mount disk1s1", "mount disk2s1", "Show all", "Force unmount",
+                 "Launch at login", "Info", "Web site", "Quit"]
+        self.assertEqual(self.focused(window).name, order[0])
+        self.assertEqual([self.press(program, "Tab", window) for _ in order], order[1:] + order[:1])
+        for name in order[:0:-1]:
+            self.assertEqual(self.press(program, "shift+Tab", window), name)
+            place = program.place(name)
+            screen.wait_for_rest(place)
+            focused = screen.colours(place)
+            self.press(program, "shift+Tab", window)
+            screen.wait_for_rest(place)
+            self.assertNotEqual(screen.colours(place), focused, f"the keyboard should be seen at {name}")
+            self.press(program, "Tab", window)
+
+    def test_screen_reader_tells_what_happens(self):
+        announcements = accessibility.Announcements()
+        self.addCleanup(announcements.close)
+        program = self.open_program()
+        window = program.window()
+        rows = [node for node in window.descendants() if node.role == "list item"]
+        self.assertEqual([row.description for row in rows], ["Not mounted"] * 3)
+        program.focus("mount disk1s1")
+        screen.press("Return")
+        program.wait_for("the row should be busy", rows[1].is_busy)
+        self.assertEqual(program.view().button("mount disk1s1").description, "Working")
+        path = program.wait_for_view("disk1s1 should be mounted",
+                                     lambda view: view.mounted_at("disk1s1")).mounted_at("disk1s1")
+        program.wait_for("it should be said", lambda: announcements.texts == [f"disk1s1 mouted at {path}"])
+        self.assertEqual(self.focused(window).name, "umount disk1s1")
+        self.assertEqual(rows[1].description, "Mounted")
+        self.assertFalse(rows[1].is_busy())
+
+    def test_info_window_by_keyboard(self):
+        program = self.open_program()
+        program.focus("Info")
+        screen.press("Return")
+        windows = accessibility.find_application("keldra").children
+        about = program.wait_for("the info window should open", lambda: next(
+            (window for window in windows() if window.role == "dialog" and window.is_active()), None))
+        program.wait_for("the keyboard should be there", lambda: self.focused(about))
+        self.assertEqual(self.focused(about).name, "Close")
+        self.assertEqual(self.press(program, "Tab", about), "Keldra v1.6")
+        screen.press("Escape")
+        program.wait_for("the info window should close", lambda: not about.is_showing())
+        self.launch_again()
+        self.assert_open(program)
+        self.assertEqual(self.focused(program.window()).name, "Partitions")
 
 
 if __name__ == "__main__":

@@ -8,6 +8,9 @@ could be out of date, and a widget that has just gone is no trouble. Every opera
 the program is no longer there.
 """
 
+import contextlib
+import threading
+
 from gi.repository import Gio, GLib
 
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
@@ -49,6 +52,10 @@ class Node:
             yield child
             yield from child.descendants()
 
+    @property
+    def description(self):
+        return self._property("Description")
+
     def text(self):
         return self._call("org.a11y.atspi.Text", "GetText", GLib.Variant("(ii)", (0, -1)))[0]
 
@@ -63,6 +70,9 @@ class Node:
     # The numbers are the protocol's.
     def is_active(self):
         return self._has_state(1)
+
+    def is_busy(self):
+        return self._has_state(3)
 
     def is_checked(self):
         return self._has_state(4)
@@ -83,11 +93,48 @@ def _connect():
 
 
 _bus = None
+_REGISTRY = "org.a11y.atspi.Registry"
+
+
+def _connection():
+    global _bus
+    _bus = _bus or _connect()
+    return _bus
 
 
 def find_application(name):
     """The running program of that name, or None."""
-    global _bus
-    _bus = _bus or _connect()
-    registry = Node(_bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
+    registry = Node(_connection(), _REGISTRY, "/org/a11y/atspi/accessible/root")
     return next((program for program in registry.children() if program.name == name), None)
+
+
+class Announcements:
+    """What a screen reader says of its own accord, because a notification appears; for as long as the object lives.
+
+    `texts` grows in a thread of its own."""
+
+    def __init__(self):
+        self.texts = []
+        context = GLib.MainContext()
+        self._loop = GLib.MainLoop(context)
+        # Programs keep quiet about what nobody has asked for.
+        _connection().call_sync(_REGISTRY, "/org/a11y/atspi/registry", _REGISTRY, "RegisterEvent",
+                                GLib.Variant("(sass)", ("object:state-changed:showing", [], "")), None,
+                                Gio.DBusCallFlags.NONE, _PATIENCE_MS, None)
+        context.push_thread_default()
+        self._subscription = _bus.signal_subscribe(None, "org.a11y.atspi.Event.Object", "StateChanged", None, "showing",
+                                                   Gio.DBusSignalFlags.NONE, self._shown)
+        context.pop_thread_default()
+        self._thread = threading.Thread(target=self._loop.run, daemon=True)
+        self._thread.start()
+
+    def _shown(self, bus, owner, path, _interface, _signal, arguments):
+        node = Node(bus, owner, path)
+        with contextlib.suppress(Gone):
+            if arguments[1] and node.role == "notification":
+                self.texts.append(node.name)
+
+    def close(self):
+        _bus.signal_unsubscribe(self._subscription)
+        self._loop.quit()
+        self._thread.join()
