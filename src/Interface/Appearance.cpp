@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QPalette>
 
+#include "Interface/Look.h"
+
 namespace {
 
 // Qt derives the shades in between from the colours of buttons and windows.
@@ -21,10 +23,6 @@ QPalette paletteOf(bool dark) {
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, QColor(0x8c8c8c));
   }
-  // The accent is the desktop's.
-  const QPalette present = QApplication::palette();
-  palette.setColor(QPalette::Highlight, present.color(QPalette::Highlight));
-  palette.setColor(QPalette::HighlightedText, present.color(QPalette::HighlightedText));
   return palette;
 }
 
@@ -35,5 +33,11 @@ bool hasDarkAppearance() {
 }  // namespace
 
 void setDarkAppearance(bool dark) {
-  if (dark != hasDarkAppearance()) QApplication::setPalette(paletteOf(dark));
+  const QPalette present = QApplication::palette();
+  QPalette palette = dark == hasDarkAppearance() ? present : paletteOf(dark);
+  // The accent is the desktop's, in a shade on which its text can be read.
+  const QColor selected = present.color(QPalette::HighlightedText);
+  palette.setColor(QPalette::HighlightedText, selected);
+  palette.setColor(QPalette::Highlight, readableOn(selected, present.color(QPalette::Highlight)));
+  QApplication::setPalette(palette);
 }

@@ -91,7 +91,7 @@ void CheckBox::paintEvent(QPaintEvent *) {
   const QRect label = placed({side + look.scaled(kGap), 0, labelWidth + 1, height()});
   painter.drawText(label, Qt::AlignCenter | Qt::TextSingleLine, accessibleName());
   if (ringed) {
-    painter.setPen(QPen(look.accent(), 1));
+    painter.setPen(QPen(look.accent(), 2));
     const int underline = label.center().y() + metrics.height() / 2;
     painter.drawLine(label.left(), underline, label.left() + labelWidth, underline);
   }

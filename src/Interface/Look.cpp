@@ -46,6 +46,10 @@ QColor readableOn(const QColor &ground, const QColor &wished, qreal ratio) {
   return end;
 }
 
+QColor laidOver(const QColor &ground, const QColor &tint) {
+  return blend(ground, tint, tint.alphaF());
+}
+
 Look::Look(const QWidget *widget) : Look(widget->palette(), widget->font()) {}
 
 Look::Look(const QPalette &palette, const QFont &font) : _palette(palette), _font(font) {
@@ -59,16 +63,21 @@ QColor Look::mixed(const QColor &over, qreal share) const {
   return blend(_ground, over, share);
 }
 
+// Rows may have the selection behind them, which is a little nearer to the texts.
+QColor Look::readable(const QColor &wished) const {
+  return readableOn(_ground, readableOn(selection(), wished));
+}
+
 QColor Look::text() const {
-  return readableOn(_ground, _palette.color(_dark ? QPalette::WindowText : QPalette::Text));
+  return readable(_palette.color(_dark ? QPalette::WindowText : QPalette::Text));
 }
 
 QColor Look::dimText() const {
-  return readableOn(_ground, mixed(text(), 0.62));
+  return readable(mixed(text(), 0.62));
 }
 
 QColor Look::disabledText() const {
-  return mixed(text(), 0.4);
+  return readableOn(_ground, mixed(text(), 0.4));
 }
 
 QColor Look::hairline() const {

@@ -47,6 +47,7 @@ class Look {
   int margin() const { return scaled(16); }
 
  private:
+  QColor readable(const QColor &wished) const;
   QColor mixed(const QColor &over, qreal share) const;
 
   QPalette _palette;
@@ -57,6 +58,9 @@ class Look {
 
 /// How well one colour reads on another, from 1 (not at all) to 21 (black on white).
 qreal contrastRatio(const QColor &one, const QColor &other);
+
+/// What a tint that lets something through makes of the ground.
+QColor laidOver(const QColor &ground, const QColor &tint);
 
 /// The shade of a colour that is nearest to it and reads on the ground with at least this ratio.
 QColor readableOn(const QColor &ground, const QColor &wished, qreal ratio = 4.5);

@@ -153,20 +153,23 @@ void RowButton::paintEvent(QPaintEvent *) {
   paintTitle(painter, look);
 }
 
+QColor RowButton::fill(const Look &look) const {
+  if (!isEnabled() || !(isDown() || underMouse())) return look.buttonFill();
+  return laidOver(look.buttonFill(), isDown() ? look.pressed() : look.hover());
+}
+
 void RowButton::paintFrame(QPainter &painter, const Look &look) const {
   const qreal radius = look.scaled(7);
-  const QRectF frame = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
   const bool accented = _prominent && !_busy && isEnabled();
+  const bool ringed = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+  // The ring stands off the frame, which may have the same colour.
+  const qreal inset = ringed ? 3.5 : 1.5;
   const QColor stroke = accented ? look.accent() : isEnabled() ? look.border() : look.hairline();
   painter.setPen(QPen(stroke, 1));
-  painter.setBrush(look.buttonFill());
-  painter.drawRoundedRect(frame, radius, radius);
-  if (isEnabled() && (isDown() || underMouse())) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(isDown() ? look.pressed() : look.hover());
-    painter.drawRoundedRect(frame, radius, radius);
-  }
-  if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+  painter.setBrush(fill(look));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                          radius - inset + 1.5, radius - inset + 1.5);
+  if (ringed) {
     painter.setPen(QPen(look.accent(), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
@@ -186,10 +189,11 @@ void RowButton::paintTitle(QPainter &painter, const Look &look) const {
   const QString shown = metrics.elidedText(printable(_title), Qt::ElideMiddle, room);
   const int left = (width() - metrics.horizontalAdvance(shown) - spinner - gap) / 2;
 
-  painter.setPen(accented       ? look.accent()
-                 : !isEnabled() ? look.disabledText()
-                 : _busy        ? look.dimText()
-                                : look.text());
+  const QColor wished = accented       ? look.accent()
+                        : !isEnabled() ? look.disabledText()
+                        : _busy        ? look.dimText()
+                                       : look.text();
+  painter.setPen(readableOn(fill(look), wished));
   painter.drawText(rect().adjusted(left + spinner + gap, 0, 0, 0),
                    Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
                    shown);

@@ -60,6 +60,7 @@ class RowButton : public QPushButton {
  private:
   void act();
   void updateSpinner();
+  QColor fill(const Look &look) const;
   void paintFrame(QPainter &painter, const Look &look) const;
   void paintTitle(QPainter &painter, const Look &look) const;
   void paintSpinner(QPainter &painter, const Look &look, const QRectF &place) const;

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QVariantAnimation>
 
+#include "Interface/Appearance.h"
 #include "Interface/Look.h"
 #include "Interface/PlainText.h"
 #include "Interface/TextField.h"
@@ -72,9 +74,32 @@ TEST(LookTest, ColoursReadOnTheirGround) {
     QPalette palette(window);
     palette.setColor(QPalette::Base, window);
     const Look look(palette, QFont());
-    for (const QColor &color :
-         {look.red(), look.blue(), look.accent(), look.text(), look.dimText()}) {
+    for (const QColor &color : {look.red(), look.blue(), look.accent(), look.text(), look.dimText(),
+                                look.disabledText()}) {
       EXPECT_GE(contrastRatio(look.ground(), color), 4.5) << window.name().toStdString();
+    }
+    // The mark of a box and the ring of what has the keyboard.
+    EXPECT_GE(contrastRatio(look.ground(), look.outline()), 3) << window.name().toStdString();
+    EXPECT_GE(contrastRatio(look.selection(), look.accent()), 3) << window.name().toStdString();
+  }
+}
+
+TEST(LookTest, RowsAndWindowsReadInLightAndDark) {
+  using Roles = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
+  for (const bool dark : {true, false}) {
+    setDarkAppearance(dark);
+    const QPalette palette = QApplication::palette();
+    EXPECT_EQ(palette.color(QPalette::Window).lightnessF() < 0.5F, dark);
+    const Look look(palette, QFont());
+    for (const QColor &text : {look.text(), look.dimText()}) {
+      EXPECT_GE(contrastRatio(look.selection(), text), 4.5) << dark;
+    }
+    for (const auto &[text, ground] : {Roles{QPalette::WindowText, QPalette::Window},
+                                       {QPalette::ButtonText, QPalette::Button},
+                                       {QPalette::Text, QPalette::Base},
+                                       {QPalette::HighlightedText, QPalette::Highlight},
+                                       {QPalette::ToolTipText, QPalette::ToolTipBase}}) {
+      EXPECT_GE(contrastRatio(palette.color(text), palette.color(ground)), 4.5) << dark << text;
     }
   }
 }

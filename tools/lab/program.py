@@ -100,10 +100,12 @@ class Program:
 
     def focus(self, title):
         """By the keyboard alone."""
+        def where():
+            view = self.view()
+            control = view and (view.button(title) or view.controls.get(title))
+            return view and ("there" if control and control.is_focused() else "elsewhere")
         for _ in range(60):
-            view = self.wait_for_view("the popover should be open", lambda view: True)
-            control = view.button(title) or view.controls.get(title)
-            if control and control.is_focused():
+            if self.wait_for("the popover should be open", where) == "there":
                 return
             self._screen.press("Tab")
         raise Failure(f'the Tab key should reach "{title}"')
