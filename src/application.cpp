@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QPushButton>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -77,14 +78,18 @@ void followInterfaceStyle(const Desktop &desktop) {
 
 namespace {
 
-/// The program's own words in the desktop's language, where somebody has put them beside it.
-void loadTranslation() {
+bool loadTranslation(const QString &name, const QString &folder) {
   auto *translation = new QTranslator(qApp);
+  if (!translation->load(QLocale(), name, QStringLiteral("_"), folder)) return false;
+  return QApplication::installTranslator(translation);
+}
+
+/// The program's own words in the desktop's language, and with them Qt's, if it has them.
+void loadTranslations() {
   const QString folder =
       QApplication::applicationDirPath() + QStringLiteral("/../share/keldra/translations");
-  if (translation->load(QLocale(), QStringLiteral("keldra"), QStringLiteral("_"), folder)) {
-    QApplication::installTranslator(translation);
-  }
+  if (!loadTranslation(QStringLiteral("keldra"), folder)) return;
+  loadTranslation(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 
 }  // namespace
@@ -95,7 +100,7 @@ void configureApplication() {
   QApplication::setDesktopFileName(QStringLiteral("com.brinmoor.Keldra"));
   // The popover is the only window, and closing it is not quitting.
   QApplication::setQuitOnLastWindowClosed(false);
-  loadTranslation();
+  loadTranslations();
   installAccessibility();
 }
 
@@ -138,7 +143,6 @@ void quitWithTheSystem(AppDelegate &delegate) {
 }
 
 int runApplication(Platform &platform, Desktop &desktop) {
-  configureApplication();
   if (!desktop.becomeOnlyInstance()) return EXIT_SUCCESS;
   const CurrentPlatform current(platform);
   followInterfaceStyle(desktop);

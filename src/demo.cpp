@@ -23,6 +23,7 @@ int refuse(const QString &reason) {
 
 int main(int argc, char **argv) {
   QApplication application(argc, argv);
+  configureApplication();
   const QString fileName = QApplication::arguments().value(
       1,
       QApplication::applicationDirPath() + QStringLiteral("/../share/keldra/machines/laptop.json"));

@@ -5,6 +5,7 @@
 
 int main(int argc, char **argv) {
   QApplication application(argc, argv);
+  configureApplication();
   const std::unique_ptr<Platform> platform = makePlatform();
   const std::unique_ptr<Desktop> desktop = makeDesktop(QStringLiteral("com.brinmoor.Keldra"));
   return runApplication(*platform, *desktop);

@@ -16,11 +16,11 @@ const QString kWebAddress = u"https://keldra.example/"_s;
 QString presenceInWords(DiskService::Presence presence) {
   switch (presence) {
     case DiskService::Presence::Asking:
-      return u"no answer yet"_s;
+      return AppDelegate::tr("no answer yet");
     case DiskService::Presence::Answering:
-      return u"answers"_s;
+      return AppDelegate::tr("answers");
     case DiskService::Presence::Absent:
-      return u"not there"_s;
+      return AppDelegate::tr("not there");
   }
   return {};
 }

@@ -7,9 +7,9 @@
 
 namespace {
 
-QString tr(const char *text) {
-  return QCoreApplication::translate("MachineWindow", text);
-}
+struct Words {
+  Q_DECLARE_TR_FUNCTIONS(Words)
+};
 
 }  // namespace
 
@@ -29,7 +29,7 @@ const QVector<std::optional<DissenterStatus>> &refusals() {
 }
 
 QString phrase(const std::optional<DissenterStatus> &refusal) {
-  return refusal ? QString::fromLocal8Bit(daStatus(*refusal)) : tr("as asked");
+  return refusal ? QString::fromLocal8Bit(daStatus(*refusal)) : Words::tr("as asked");
 }
 
 const QVector<std::optional<Mishap>> &mishaps() {
@@ -40,16 +40,16 @@ const QVector<std::optional<Mishap>> &mishaps() {
 }
 
 QString phrase(const std::optional<Mishap> &mishap) {
-  if (!mishap) return tr("none");
+  if (!mishap) return Words::tr("none");
   switch (*mishap) {
     case Mishap::DiskVanishesBefore:
-      return tr("disk vanishes before");
+      return Words::tr("disk vanishes before");
     case Mishap::DiskVanishesDuring:
-      return tr("disk vanishes during");
+      return Words::tr("disk vanishes during");
     case Mishap::DiskVanishesAfter:
-      return tr("disk vanishes after");
+      return Words::tr("disk vanishes after");
     case Mishap::ServiceDies:
       break;
   }
-  return tr("service dies");
+  return Words::tr("service dies");
 }

@@ -43,6 +43,8 @@ class Value : public QLabel {
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setFocusPolicy(Qt::StrongFocus);
     setWordWrap(true);
+    // Beside its subject, whatever the direction of its letters.
+    setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
   }
 
  protected:
@@ -99,9 +101,13 @@ void InfoWindow::setFacts(const Facts &facts) {
   _rows = new QFormLayout(_table);
   _rows->setContentsMargins(0, 0, 0, 0);
   _rows->setHorizontalSpacing(Look(this).margin());
-  _rows->setLabelAlignment(Qt::AlignLeading | Qt::AlignTop);
   for (const auto &[subject, value] : facts) {
-    if (!value.isEmpty()) _rows->addRow(subject, new Value(value));
+    if (value.isEmpty()) continue;
+    auto *label = new QLabel(subject);
+    label->setAlignment(Qt::AlignTop);
+    auto *shown = new Value(value);
+    label->setBuddy(shown);  // a screen reader says them together
+    _rows->addRow(label, shown);
   }
   adjustSize();
 }

@@ -89,9 +89,11 @@ QWidget *MainInterface::makeFoot() {
 
   auto *layout = new QHBoxLayout(foot);
   // A quiet button's word, not its invisible frame, is in line with what stands above.
-  layout->setContentsMargins(look.margin(), look.scaled(5), look.margin() - look.scaled(10),
-                             look.scaled(5));
+  const int overhang = look.scaled(10);
+  const int margin = look.margin() - overhang;
+  layout->setContentsMargins(margin, look.scaled(5), margin, look.scaled(5));
   layout->setSpacing(look.scaled(2));
+  layout->addSpacing(overhang);
   layout->addWidget(_versionLabel, 1);
   layout->addWidget(_infoButton);
   layout->addWidget(_webSiteButton);

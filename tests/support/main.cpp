@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QTemporaryDir>
 
 #include "application.h"
@@ -18,6 +19,7 @@ int main(int argc, char **argv) {
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
+  QLocale::setDefault(QLocale(QLocale::English));  // whatever the person speaks
   configureApplication();
   return RUN_ALL_TESTS();
 }

@@ -16,8 +16,8 @@ void QtTrayItem::setImage(const QIcon &image) {
 }
 
 QString QtTrayItem::kind() const {
-  return QSystemTrayIcon::isSystemTrayAvailable() ? QStringLiteral("the window system's")
-                                                  : QStringLiteral("none yet");
+  return QSystemTrayIcon::isSystemTrayAvailable() ? TrayItem::tr("the window system's")
+                                                  : TrayItem::tr("none yet");
 }
 
 void QtTrayItem::showMessage(const QString &title, const QString &text) {

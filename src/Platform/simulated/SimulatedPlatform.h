@@ -10,6 +10,7 @@
 // Everything that the machine does is announced from the event loop, in order, before the request
 // that caused it is answered.
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QObject>
 #include <QTemporaryDir>
@@ -67,7 +68,9 @@ class SimulatedPlatform final : public Platform,
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
   Presence presence() const override { return _machine.presence; }
-  QString name() const override { return QStringLiteral("a simulated machine"); }
+  QString name() const override {
+    return QCoreApplication::translate("SimulatedPlatform", "a simulated machine");
+  }
   std::optional<DiskDescription> descriptionOfMedia(const QString &bsdName) const override;
   std::optional<DiskDescription> descriptionOfVolume(const QString &mountPoint) const override;
   void mount(const QString &bsdName, const std::optional<QString> &path,

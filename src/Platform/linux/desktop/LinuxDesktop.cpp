@@ -55,9 +55,9 @@ class LinuxDesktop final : public Desktop {
   }
 
   Facts facts() const override {
-    return {{tr("Tray"), _trayItem ? _trayItem->kind() : QString()},
-            {tr("Windows"), QGuiApplication::platformName()},
-            {tr("Desktop"), qEnvironmentVariable("XDG_CURRENT_DESKTOP")}};
+    return {{Desktop::tr("Tray"), _trayItem ? _trayItem->kind() : QString()},
+            {Desktop::tr("Windows"), QGuiApplication::platformName()},
+            {Desktop::tr("Desktop"), qEnvironmentVariable("XDG_CURRENT_DESKTOP")}};
   }
 
   bool eventFilter(QObject *watched, QEvent *event) override {
