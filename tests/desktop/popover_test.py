@@ -4,10 +4,12 @@ without a tray: popover_test.py KELDRA_DEMO."""
 import subprocess
 
 from desktop_test import DesktopTest, main
+from gi.repository import GLib
 from notification_service import NotificationService
 
 import accessibility
 import screen
+from session_service import SessionService
 
 OTHER = (950, 550, 200, 150)
 
@@ -126,6 +128,22 @@ class PopoverTest(DesktopTest):
         self.assertEqual(self.focused(window).name, "umount disk1s1")
         self.assertEqual(rows[1].description, "Mounted")
         self.assertFalse(rows[1].is_busy())
+
+    def test_follows_the_desktop_into_the_dark_and_back(self):
+        light = GLib.Variant("(v)", (GLib.Variant("v", GLib.Variant("u", 2)),))
+        read = '<method name="Read"><arg type="s" direction="in"/><arg type="s" direction="in"/>' \
+               '<arg type="v" direction="out"/></method>'
+        portal = SessionService("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", read,
+                                lambda *_: light, "org.freedesktop.portal.Settings")
+        self.addCleanup(portal.close)
+        program = self.open_program()
+        left, top, width, height = program.place()
+        ground = (left + width // 3, top + height - 30, 1, 1)
+        for number, is_dark in (1, True), (2, False), (1, True), (0, False):  # the palette is light
+            portal.emit("SettingChanged", GLib.Variant("(ssv)", (
+                "org.freedesktop.appearance", "color-scheme", GLib.Variant("u", number))))
+            program.wait_for(f"{number} should make it {'dark' if is_dark else 'light'}",
+                             lambda: (max(screen.colours(ground)[0]) < 100) == is_dark)
 
     def test_info_window_by_keyboard(self):
         program = self.open_program()

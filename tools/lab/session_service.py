@@ -12,8 +12,8 @@ from gi.repository import Gio, GLib
 class SessionService:
     def __init__(self, name, path, methods, answer, interface=None):
         """The interface has the service's name, if none is given."""
-        interface = interface or name
-        described = Gio.DBusNodeInfo.new_for_xml(f'<node><interface name="{interface}">{methods}</interface></node>')
+        self._path, self._interface = path, interface or name
+        described = Gio.DBusNodeInfo.new_for_xml(f'<node><interface name="{self._interface}">{methods}</interface></node>')
 
         def called(_bus, _sender, _path, _interface, method, arguments, invocation):
             invocation.return_value(answer(method, arguments))
@@ -23,6 +23,9 @@ class SessionService:
         self._name = Gio.bus_own_name_on_connection(self._bus, name, Gio.BusNameOwnerFlags.NONE, None, None)
         self._thread = threading.Thread(target=self._loop.run, daemon=True)
         self._thread.start()
+
+    def emit(self, signal, arguments):
+        self._bus.emit_signal(None, self._path, self._interface, signal, arguments)
 
     def close(self):
         Gio.bus_unown_name(self._name)

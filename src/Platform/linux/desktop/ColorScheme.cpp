@@ -26,7 +26,7 @@ ColorScheme::ColorScheme(const QDBusConnection &bus)
     : _bus(bus), _portal(kPortal, _bus, QDBusServiceWatcher::WatchForRegistration) {
   connect(&_portal, &QDBusServiceWatcher::serviceRegistered, this, &ColorScheme::ask);
   _bus.connect(kPortal, kPath, kSettings, u"SettingChanged"_s, this,
-               SLOT(settingChanged(QString, QString, QDBusVariant)));
+               SLOT(settingChanged(QDBusMessage)));
   ask();
 }
 
@@ -41,9 +41,10 @@ void ColorScheme::ask() {
   });
 }
 
-void ColorScheme::settingChanged(const QString &group, const QString &key,
-                                 const QDBusVariant &value) {
-  if (group == kGroup && key == kKey) take(value.variant());
+// The whole message: Qt 6.4 refuses to connect a slot that takes the value by itself.
+void ColorScheme::settingChanged(const QDBusMessage &change) {
+  const QVariantList arguments = change.arguments();
+  if (arguments.size() == 3 && arguments[0] == kGroup && arguments[1] == kKey) take(arguments[2]);
 }
 
 void ColorScheme::take(const QVariant &value) {

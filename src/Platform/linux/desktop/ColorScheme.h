@@ -3,8 +3,8 @@
 // Whether the person likes windows light or dark, as the desktop's portal tells it.
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusServiceWatcher>
-#include <QDBusVariant>
 #include <QObject>
 
 class ColorScheme final : public QObject {
@@ -24,7 +24,7 @@ class ColorScheme final : public QObject {
 
  private slots:
   void ask();
-  void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+  void settingChanged(const QDBusMessage &change);
 
  private:
   void take(const QVariant &value);

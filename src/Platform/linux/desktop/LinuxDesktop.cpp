@@ -27,7 +27,11 @@ class LinuxDesktop final : public Desktop {
  public:
   explicit LinuxDesktop(const QString &serviceName) : _instance(_bus, serviceName), _scheme(_bus) {
     connect(&_instance, &Instance::activated, this, &Desktop::reopened);
-    connect(&_scheme, &ColorScheme::changed, this, &Desktop::interfaceThemeChanged);
+    connect(&_scheme, &ColorScheme::changed, this, [this] {
+      // The palette that was put over the desktop's own would be taken for it.
+      if (_scheme.preference() == ColorScheme::Preference::None) QApplication::setPalette({});
+      emit interfaceThemeChanged();
+    });
     qApp->installEventFilter(this);
   }
 
