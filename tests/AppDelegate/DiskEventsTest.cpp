@@ -65,11 +65,3 @@ TEST(DiskEvents, ARefusalChangesTheColourAtOnceAndTheTextFollows) {
   EXPECT_EQ(field->textColor(), TextColor::Red);
   EXPECT_EQ(machine.status(), "no");
 }
-
-TEST(DiskEvents, OpeningThePopoverClearsTheStatusLine) {
-  TestMachine machine(twoEspMachine());
-  machine.interface.statusTextField()->setStringValue("old news");
-  machine.delegate.showPopover();
-  EXPECT_EQ(machine.status(), "");
-  EXPECT_EQ(machine.interface.versionLabel()->stringValue(), "Keldra v1.6");
-}

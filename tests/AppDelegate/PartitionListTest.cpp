@@ -27,23 +27,6 @@ TEST(PartitionList, SortsByCodeUnitsNotByNumber) {
   EXPECT_EQ(machine.listed(), QStringList({"disk0s10", "disk0s2", "disk10s1", "disk1s1"}));
 }
 
-TEST(PartitionList, KeepsWhatIsTrueOfEachPartition) {
-  TestMachine machine(twoEspMachine());
-  machine.tickShowAll();
-  const RowRecord mounted = machine.delegate.tableViewContents()[4];
-  EXPECT_EQ(mounted.ESP, "disk1s2");
-  EXPECT_EQ(mounted.parentOf, "disk1");
-  EXPECT_EQ(mounted.parentOfMedia, "WDC Blue: EFI System Partition, Data");
-  EXPECT_TRUE(mounted.isMounted);
-  EXPECT_EQ(mounted.mountPoint, machine.folder("Data"));
-  EXPECT_FALSE(mounted.img.isNull());
-
-  const RowRecord unmounted = machine.delegate.tableViewContents()[0];
-  EXPECT_FALSE(unmounted.isMounted);
-  EXPECT_EQ(unmounted.mountPoint, "(null)");
-  EXPECT_EQ(unmounted.parentOfMedia, "Samsung SSD: EFI System Partition, Recovery HD, System");
-}
-
 TEST(PartitionList, SaysWhyItIsEmpty) {
   TestMachine machine(R"({ "service": "asking" })");
   const auto sentence = [&] {
