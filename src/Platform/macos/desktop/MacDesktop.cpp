@@ -41,8 +41,8 @@ class MacDesktop final : public Desktop {
   }
 
   Facts facts() const override {
-    return {{tr("Tray"), QStringLiteral("NSStatusItem")},
-            {tr("Windows"), QGuiApplication::platformName()}};
+    return {{Desktop::tr("Tray"), QStringLiteral("NSStatusItem")},
+            {Desktop::tr("Windows"), QGuiApplication::platformName()}};
   }
 
   void notify(const QString &title, const QString &text, TrayItem &item) override {
