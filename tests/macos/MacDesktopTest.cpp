@@ -1,4 +1,6 @@
 #include <QGuiApplication>
+#include <QMenu>
+#include <QSystemTrayIcon>
 
 #include "Platform/ThisMachine.h"
 #include "macos/MacMachine.h"
@@ -59,4 +61,21 @@ TEST_F(MacDesktop, IsReopenedWhenItIsActivatedThoughItIsActive) {
   EXPECT_EQ(times, 0);
   emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
   EXPECT_EQ(times, 1);
+}
+
+TEST_F(MacDesktop, ShowsTheMenuAtARightClickOnly) {
+  const std::unique_ptr<TrayItem> item = desktop->makeTrayItem();
+  QMenu menu;
+  menu.addAction("Quit");
+  item->setMenu(&menu);
+  int clicks = 0;
+  QObject::connect(item.get(), &TrayItem::activated, [&] { ++clicks; });
+  auto *icon = item->findChild<QSystemTrayIcon *>();
+  EXPECT_EQ(icon->contextMenu(), nullptr) << "the system would show it at every click";
+  emit icon->activated(QSystemTrayIcon::Trigger);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_FALSE(menu.isVisible());
+  emit icon->activated(QSystemTrayIcon::Context);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_TRUE(menu.isVisible());
 }

@@ -1,13 +1,22 @@
 #include "Platform/common/QtTrayItem.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
-QtTrayItem::QtTrayItem() : _icon(this) {
+QtTrayItem::QtTrayItem(MenuBy menuBy) : _icon(this), _menuBy(menuBy) {
   _icon.setToolTip(QGuiApplication::applicationDisplayName());
-  connect(&_icon, &QSystemTrayIcon::activated, this,
-          [this](QSystemTrayIcon::ActivationReason reason) {
-            if (reason == QSystemTrayIcon::Trigger) emit activated();
-          });
+  connect(&_icon, &QSystemTrayIcon::activated, this, &QtTrayItem::noteClick);
+}
+
+void QtTrayItem::setMenu(QMenu *menu) {
+  _menu = menu;
+  if (_menuBy == MenuBy::Tray) _icon.setContextMenu(menu);
+}
+
+void QtTrayItem::noteClick(QSystemTrayIcon::ActivationReason reason) {
+  if (reason == QSystemTrayIcon::Trigger) emit activated();
+  const bool asksForMenu = reason == QSystemTrayIcon::Context && _menuBy == MenuBy::Us;
+  if (asksForMenu && _menu) _menu->popup(QCursor::pos());
 }
 
 void QtTrayItem::setImage(const QIcon &image) {

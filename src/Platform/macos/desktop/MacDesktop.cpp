@@ -26,7 +26,9 @@ class MacDesktop final : public Desktop {
                                        makeText(kThemeChanged).get(), nullptr);
   }
 
-  std::unique_ptr<TrayItem> makeTrayItem() override { return std::make_unique<QtTrayItem>(); }
+  std::unique_ptr<TrayItem> makeTrayItem() override {
+    return std::make_unique<QtTrayItem>(QtTrayItem::MenuBy::Us);
+  }
 
   std::unique_ptr<EventMonitor> addGlobalMonitor(std::function<void()> handler) override {
     if (auto monitor = makeGlobalMonitor(handler)) return monitor;
