@@ -1,6 +1,5 @@
 // Properties that make no sense, objects that lack their other half, bytes that are no text.
 
-#include <QDBusSignature>
 #include <QDBusVariant>
 #include <QUrl>
 
@@ -13,15 +12,10 @@ const QVariantList kWrongValues = {
     QByteArray("/dev/\xff\xfe"),
     true,
     -1,
-    qint64{-1},
-    short{3},
     12.5,
     link("/org/freedesktop/UDisks2/block_devices/sda"),
-    QVariant::fromValue(QDBusSignature("a{sv}")),
     QVariant::fromValue(QDBusVariant(QVariant::fromValue(QDBusVariant("text")))),
-    QStringList{"a", "list"},
     QVariantMap{{"a", "map"}},
-    QVariantList{1, "two", 3.0},
     QVariant::fromValue(QByteArrayList{"\x80", ""}),
 };
 
@@ -69,7 +63,7 @@ TEST_F(Properties, OfAWrongTypeAreAsGoodAsNone) {
 TEST_F(Properties, MayHoldBytesThatAreNoText) {
   const QByteArray bytes = "/dev/\xff\xc3(\xed\xa0\x80%1&<b>\n";
   const QString text = QString::fromUtf8(bytes);
-  for (const QByteArray &ending : {QByteArray(), QByteArray("\0", 1), QByteArray("\0rest", 5)}) {
+  for (const QByteArray &ending : {QByteArray(), QByteArray("\0rest", 5)}) {
     const QString loop = kServiceRoot + "/block_devices/loop0";
     service.change(loop, kLoopInterface, "BackingFile", bytes + ending);
     service.change(loop, kBlockInterface, "PreferredDevice", bytes + ending);
@@ -104,27 +98,12 @@ TEST_F(Properties, MayLackTheirOtherHalf) {
        {"disk0", "disk0s2", "disk1", "disk2"}},
       {"a partition without a block", without(esp, kBlockInterface), {"disk0", "disk0s2", "disk1"}},
       {"a disk without a block", without(disk, kBlockInterface), {"disk1"}},
-      {"a disk without a table",
-       without(disk, kPartitionTableInterface),
-       {"disk0", "disk0s1", "disk0s2", "disk1"}},
-      {"a table that is not there", onDisk(esp, "/nowhere"), {"disk0", "disk0s2", "disk1"}},
       {"no table", onDisk(esp, "/"), {"disk0", "disk0s2", "disk1"}},
-      {"a partition on itself", onDisk(esp, esp), {"disk0", "disk0s2", "disk1"}},
       {"partitions on each other",
        [&] { onDisk(esp, data)(), onDisk(data, esp)(); },
        {"disk0", "disk1"}},
-      {"a disk that becomes a partition of itself",
-       [&] {
-         service.add(disk, {{kPartitionInterface, {{"Number", 9U}, {"Table", link(disk)}}}});
-       },
-       {"disk1"}},
       {"a drive that is not there",
        [&] { service.change(disk, kBlockInterface, "Drive", link("/nowhere")); },
-       {"disk0", "disk0s1", "disk0s2", "disk1"}},
-      {"a file system without a block",
-       [&] {
-         service.add("/alone", {{kFilesystemInterface, {}}, {"com.example.Odd", {}}});
-       },
        {"disk0", "disk0s1", "disk0s2", "disk1"}},
       {"two partitions of one number",
        [&] { service.change(data, kPartitionInterface, "Number", 1U); },

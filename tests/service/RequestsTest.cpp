@@ -14,15 +14,16 @@ struct DBusMessage;
 struct DBusPendingCall;
 
 namespace {
-std::atomic<int> latestTimeOut = 0;  // of all calls, in milliseconds
-}
+std::atomic<int> callsInTime = 0;
+std::atomic<int> callsWithoutTimeOut = 0;
+}  // namespace
 
 // Takes the place of the bus library's, so that nobody has to wait for a time-out to see that there
 // is none.
 extern "C" unsigned dbus_connection_send_with_reply(DBusConnection *connection,
                                                     DBusMessage *message, DBusPendingCall **pending,
                                                     int timeOut) {
-  latestTimeOut = timeOut;
+  ++(timeOut == std::numeric_limits<int>::max() ? callsWithoutTimeOut : callsInTime);
   static const auto original = reinterpret_cast<decltype(&dbus_connection_send_with_reply)>(
       dlsym(RTLD_NEXT, "dbus_connection_send_with_reply"));
   return original(connection, message, pending, timeOut);
@@ -38,38 +39,24 @@ const struct {
   const char *message;
   DissenterStatus status;
 } kRefusals[] = {
-    {"org.freedesktop.UDisks2.Error.AlreadyMounted", "", kDAReturnBusy},
     {"org.freedesktop.UDisks2.Error.DeviceBusy", "", kDAReturnBusy},
     {"org.freedesktop.UDisks2.Error.NotMounted", "", kDAReturnNotMounted},
     {"org.freedesktop.UDisks2.Error.NotAuthorizedCanObtain", "", kDAReturnNotPrivileged},
     {"org.freedesktop.UDisks2.Error.NotAuthorized", "", kDAReturnNotPermitted},
-    {"org.freedesktop.UDisks2.Error.OptionNotPermitted", "", kDAReturnNotPermitted},
     {"org.freedesktop.UDisks2.Error.NotAuthorizedDismissed", "", unixErrorStatus(ECANCELED)},
-    {"org.freedesktop.UDisks2.Error.Cancelled", "", unixErrorStatus(ECANCELED)},
     {"org.freedesktop.UDisks2.Error.NotSupported", "", kDAReturnUnsupported},
-    {"org.freedesktop.UDisks2.Error.Failed", "Error mounting: wrong fs type", kDAReturnError},
     {"org.freedesktop.UDisks2.Error.Failed", "Error creating mount point: No space left on device",
      unixErrorStatus(ENOSPC)},
     {"org.freedesktop.UDisks2.Error.Failed", "mkdir: Read-only file system", kDAReturnNotWritable},
-    {"org.freedesktop.UDisks2.Error.Failed", "/dev/sdb1 is write-protected", kDAReturnNotWritable},
     {"org.freedesktop.UDisks2.Error.Failed",
      "Error mounting at /media/x: No space left on device: wrong fs type", kDAReturnError},
     {"org.freedesktop.UDisks2.Error.SomethingNew", "", kDAReturnError},
-    {"org.freedesktop.DBus.Error.ServiceUnknown", "", kDAReturnNotReady},
-    {"org.freedesktop.DBus.Error.NameHasNoOwner", "", kDAReturnNotReady},
     {"org.freedesktop.DBus.Error.NoReply", "", kDAReturnNotReady},
-    {"org.freedesktop.DBus.Error.Disconnected", "", kDAReturnNotReady},
-    {"org.freedesktop.DBus.Error.NoServer", "", kDAReturnNotReady},
-    {"org.freedesktop.DBus.Error.Timeout", "", kDAReturnNotReady},
-    {"org.freedesktop.DBus.Error.TimedOut", "", kDAReturnNotReady},
     {"org.freedesktop.DBus.Error.Spawn.ChildExited", "", kDAReturnNotReady},
     {"org.freedesktop.DBus.Error.UnknownMethod", "No such interface", kDAReturnUnsupported},
-    {"org.freedesktop.DBus.Error.UnknownInterface", "No such interface", kDAReturnUnsupported},
     {"org.freedesktop.DBus.Error.UnknownMethod", "Object does not exist at path \"/x\"",
      kDAReturnNotFound},
-    {"org.freedesktop.DBus.Error.UnknownObject", "", kDAReturnNotFound},
     {"org.freedesktop.DBus.Error.AccessDenied", "", kDAReturnNotPermitted},
-    {"org.freedesktop.DBus.Error.InvalidArgs", "", kDAReturnError},
     {"com.example.AlreadyMounted", "No space left on device", kDAReturnError},
 };
 
@@ -110,7 +97,8 @@ TEST_F(RequestsOfTheService, ForWhatTheNextServiceDoesNotKnowAreNotFound) {
   EXPECT_EQ(*mounted, Statuses{kDAReturnNotFound});
 }
 
-TEST_F(RequestsOfTheService, LetThePersonBeAskedForAPassword) {
+TEST_F(RequestsOfTheService, WaitForAPersonsPasswordForAsLongAsItTakes) {
+  callsWithoutTimeOut = 0;
   unmount("disk0s2");
   unmount("disk0s2", DiskService::UnmountOption::Force);
   mount("disk0s1");
@@ -123,17 +111,8 @@ TEST_F(RequestsOfTheService, LetThePersonBeAskedForAPassword) {
   service.take("Unmount");
   const auto options = qdbus_cast<QVariantMap>(service.take("Unmount").arguments().value(0));
   EXPECT_EQ(options.value("force"), true);
-}
-
-TEST_F(RequestsOfTheService, HaveNoTimeOut) {
-  if (latestTimeOut == 0) GTEST_SKIP() << "Qt has found the bus library in another way";
-  mount("disk0s1");
-  ASSERT_TRUE(waitFor([&] { return service.calls.size() == 1; }));
-  EXPECT_EQ(latestTimeOut, std::numeric_limits<int>::max());
-  latestTimeOut = 0;
-  unmount("disk0s2");
-  ASSERT_TRUE(waitFor([&] { return service.calls.size() == 2; }));
-  EXPECT_EQ(latestTimeOut, std::numeric_limits<int>::max());
+  if (callsInTime == 0) GTEST_SKIP() << "Qt has found the bus library in another way";
+  EXPECT_EQ(callsWithoutTimeOut, 3);
 }
 
 TEST_F(RequestsOfTheService, AreAnsweredInWhateverOrderTheServiceLikes) {
@@ -204,21 +183,4 @@ TEST_F(RequestsOfTheService, ForAFileSystemThatIsLookedAtAnewWaitOn) {
   service.refuse(service.take("Mount"), kUnknownMethod, "No such interface");
   settle();
   EXPECT_EQ(*mounted, Statuses{kDAReturnUnsupported});
-}
-
-TEST_F(RequestsOfTheService, WaitForThePersonAndHoldUpNothingElse) {
-  const Answers hanging = mount("disk0s1");
-  const Answers other = unmount("disk0s2");
-  settle();
-  const auto mountCall = service.take("Mount");
-  service.refuse(service.take("Unmount"), kBusy);
-  service.change(esp, kPartitionInterface, "Type", "0x83");
-  settle();
-  EXPECT_EQ(*other, Statuses{kDAReturnBusy});
-  EXPECT_EQ(value("disk0s1", kDADiskDescriptionMediaNameKey), "a partition");
-  EXPECT_EQ(*hanging, Statuses{});
-  service.die();
-  EXPECT_TRUE(waitFor([&] { return !hanging->isEmpty(); }));
-  EXPECT_TRUE(waitFor([&] { return disks->presence() == DiskService::Presence::Absent; }));
-  EXPECT_EQ(*hanging, Statuses{kDAReturnNotReady});
 }

@@ -32,22 +32,10 @@ TEST_F(Signals, ThatAreMalformedOrOfNothingChangeNothing) {
   const QVariant noInterfaces = QVariant::fromValue(InterfaceMap());
   const QStringList none;
   for (const QDBusMessage &message :
-       {interfacesAdded({}),
-        interfacesAdded({link(disk)}),
-        interfacesAdded({disk, noInterfaces}),
-        interfacesAdded({link(disk), label}),
-        interfacesAdded({link(disk), noInterfaces, 1}),
-        interfacesAdded({link("/new"), noInterfaces}),
-        interfacesAdded(
-            {link(kServiceRoot + "/jobs/1"), QVariant::fromValue(InterfaceMap{{"a.b", {}}})}),
-        interfacesRemoved({}),
-        interfacesRemoved({link(disk)}),
-        interfacesRemoved({disk, QStringList{kBlockInterface}}),
-        interfacesRemoved({link(disk), kBlockInterface}),
-        interfacesRemoved({link(disk), none}),
+       {interfacesAdded({link(disk)}), interfacesAdded({disk, noInterfaces}),
+        interfacesAdded({link(disk), label}), interfacesAdded({link("/new"), noInterfaces}),
+        interfacesRemoved({}), interfacesRemoved({link(disk), kBlockInterface}),
         interfacesRemoved({link("/nowhere"), QStringList{kBlockInterface}}),
-        propertiesChanged(data, {}),
-        propertiesChanged(data, {kBlockInterface}),
         propertiesChanged(data, {kBlockInterface, label}),
         propertiesChanged(data, {kBlockInterface, label, "a text"}),
         propertiesChanged(data, {kBlockInterface, QStringList{"IdLabel"}, none}),

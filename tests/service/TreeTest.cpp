@@ -69,15 +69,9 @@ TEST_F(Tree, MayNeverComeOrTooLateAndThenFromASuccessor) {
 
 TEST_F(Tree, ThatIsRefusedOrMakesNoSenseIsNone) {
   const QList<std::function<void(const QDBusMessage &)>> replies = {
-      [&](const auto &question) { service.refuse(question, "com.example.Error", "no"); },
-      [&](const auto &question) {
-        service.refuse(question, "org.freedesktop.DBus.Error.AccessDenied", "no");
-      },
+      [&](const auto &question) { service.refuse(question, "com.example.Error"); },
       [&](const auto &question) { service.answer(question); },
       [&](const auto &question) { service.answer(question, {"a text"}); },
-      [&](const auto &question) {
-        service.answer(question, {QVariantMap{{"a", "map"}}});
-      },
   };
   service.holdsTree = true;
   startProgram();
@@ -128,13 +122,11 @@ TEST_F(Tree, MayBeHugeAndInAFlurry) {
 
 TEST_F(Tree, ComesAnewWithEveryLifeOfTheService) {
   start();
-  for (int life = 1; life <= 10; ++life) {
-    SCOPED_TRACE(life);
+  for (const QString label : {"one", "two", "three"}) {
     const Answers first = mount("disk0s1");
     const Answers second = unmount("disk0s2");
     ASSERT_TRUE(waitFor([&] { return service.calls.size() == 2; }));
-    if (life % 2 == 0) service.answer(service.take("Mount"));
-    if (life % 3 == 0) {  // it lives on for a moment, and nobody listens any more
+    if (label == "two") {  // it lives on for a moment, and nobody listens any more
       service.stepDown();
       ASSERT_TRUE(waitFor([&] { return !second->isEmpty(); }));
       while (!service.calls.isEmpty()) service.answer(service.calls.takeFirst());
@@ -145,13 +137,11 @@ TEST_F(Tree, ComesAnewWithEveryLifeOfTheService) {
     service.die();
     EXPECT_TRUE(waitFor([&] { return !first->isEmpty() && !second->isEmpty(); }));
     service.appear();
-    const QString label = "label " + QString::number(life);
     service.change(data, kBlockInterface, "IdLabel", label);
     EXPECT_TRUE(
         waitFor([&] { return value("disk0s2", kDADiskDescriptionVolumeNameKey) == label; }));
     EXPECT_EQ(names(), kNames);
-    EXPECT_EQ(disks->presence(), Presence::Answering);
-    EXPECT_EQ(first->size(), 1);
+    EXPECT_EQ(*first, Statuses{kDAReturnNotReady});
     EXPECT_EQ(*second, Statuses{kDAReturnNotReady});
   }
   events.removeAll("changed");

@@ -1,0 +1,124 @@
+// What media are called, and what is said of them, after what the service says.
+
+#include "service/ServiceTest.h"
+
+namespace {
+
+class Media : public ServiceTest {
+ public:
+  /// The program starts with the tree as it is now.
+  void look() {
+    service.appear();
+    startProgram();
+    ASSERT_TRUE(waitFor([&] { return !names().isEmpty(); }));
+  }
+  QString drive(const QString &kernelName, const QVariantMap &properties) {
+    const QString path = kServiceRoot + "/drives/" + kernelName;
+    service.tree[path] = {{kDriveInterface, properties}};
+    return path;
+  }
+  QVariant picture(const QString &name) const {
+    return value(name, kDADiskDescriptionMediaIconKey).toMap().value(kMediaIconFileKey);
+  }
+};
+
+}  // namespace
+
+TEST_F(Media, OfPartitionsAreNamedByTypeThenNameThenPurpose) {
+  const struct {
+    const char *type;
+    const char *label;
+    const char *name;
+    const char *content;
+  } kRows[] = {
+      {"c12a7328-f81f-11d2-ba4b-00a0c93ec93b", "efi sYSTEM partition", "EFI System Partition",
+       "C12A7328-F81F-11D2-BA4B-00A0C93EC93B"},
+      {"0xEF", "", "EFI System Partition", "0xEF"},
+      {"0fc63daf-8483-4772-8e79-3d69d8477de4", "Dáten & <b>", "Dáten & <b>",
+       "0FC63DAF-8483-4772-8E79-3D69D8477DE4"},
+      {"0fc63daf-8483-4772-8e79-3d69d8477de4", " ", "Linux filesystem",
+       "0FC63DAF-8483-4772-8E79-3D69D8477DE4"},
+      {"0x82", "", "Linux swap", "0x82"},
+      {"unheard of", "", "Partition", "UNHEARD OF"},
+  };
+  const QString parent = service.addDisk("sdb", 32);
+  uint number = 8;
+  for (const auto &row : kRows) {
+    ++number;
+    const QString path = service.addPartition(parent, number, 32 + number);
+    service.tree[path][kPartitionInterface].insert(
+        QVariantMap{{"Type", row.type}, {"Name", QString(row.label)}});
+    service.tree[path].remove(kFilesystemInterface);
+  }
+  look();
+  number = 8;
+  for (const auto &row : kRows) {
+    const QString name = "disk1s" + QString::number(++number);
+    EXPECT_EQ(value(name, kDADiskDescriptionMediaNameKey), row.name);
+    EXPECT_EQ(value(name, kDADiskDescriptionMediaContentKey), row.content);
+    EXPECT_EQ(value(name, kDADiskDescriptionVolumeKindKey), QVariant()) << "nothing to mount";
+  }
+  EXPECT_EQ(disks->mediaNamesOnDisk("disk1").mid(0, 3),
+            (QStringList{"disk1", "disk1s9", "disk1s10"}));
+  EXPECT_EQ(names().mid(0, 4), (QStringList{"disk0", "disk0s1", "disk0s2", "disk1"}));
+}
+
+TEST_F(Media, OfDisksAreNamedAndPicturedByDriveFileOrMapping) {
+  const struct {
+    const char *device;
+    QVariantMap drive;
+    const char *name;
+    const char *picture;
+    QVariant protocol;
+  } kRows[] = {
+      {"sdb", {{"Vendor", " ACME "}, {"Model", " Disk 9 "}}, "ACME Disk 9", "Internal.icns", {}},
+      {"sdc",
+       {{"Vendor", "Samsung"}, {"Model", "SAMSUNG SSD 990"}, {"ConnectionBus", "usb"}},
+       "SAMSUNG SSD 990",
+       "Removable.icns",
+       "USB"},
+      {"sdd", {{"MediaRemovable", true}}, "sdd", "Removable.icns", {}},
+      {"md0", {}, "vg-root", "Internal.icns", {}},
+      {"loop0", {}, "b\uFFFD lank.img", "DiskImage.icns", "Virtual Interface"},
+      {"sr0", {{"Optical", true}, {"Removable", true}}, "sr0", "Optical.icns", {}},
+  };
+  uint minorNumber = 100;
+  QMap<QString, QString> paths;
+  for (const auto &row : kRows) {
+    paths[row.device] = service.addDisk(row.device, ++minorNumber);
+    drive(row.device, row.drive);
+  }
+  service.tree[paths["md0"]][kBlockInterface]["PreferredDevice"] =
+      QByteArray("/dev/md/vg-root\0", 16);
+  service.tree[paths["loop0"]][kLoopInterface]["BackingFile"] =
+      QByteArray("/images/b\xff lank.img\0", 21);
+  look();
+  int unit = 0;
+  for (const auto &row : kRows) {
+    const QString name = "disk" + QString::number(++unit);
+    EXPECT_EQ(value(name, kDADiskDescriptionMediaNameKey), QString(row.name));
+    EXPECT_EQ(value(name, kDADiskDescriptionDeviceProtocolKey), row.protocol) << row.name;
+    EXPECT_EQ(picture(name), row.picture) << row.name;
+  }
+}
+
+TEST_F(Media, OfADiskTellOfItsDriveAsItIsNow) {
+  service.tree[disk][kBlockInterface]["ReadOnly"] = false;
+  look();
+  EXPECT_EQ(value("disk0", kDADiskDescriptionMediaWritableKey), true);
+  EXPECT_EQ(value("disk0s1", kDADiskDescriptionMediaWritableKey), false);
+  EXPECT_EQ(value("disk0s1", kDADiskDescriptionDeviceInternalKey), false);
+  EXPECT_EQ(value("disk0s1", kDADiskDescriptionMediaEjectableKey), true);
+  service.change(kServiceRoot + "/drives/sda", kDriveInterface, "ConnectionBus", "sdio");
+  settle();
+  EXPECT_EQ(value("disk0s1", kDADiskDescriptionDeviceProtocolKey), "Secure Digital");
+}
+
+TEST_F(Media, ThatHoldNothingAreLeftOut) {
+  const QString loop = service.addDisk("loop0", 32);
+  service.tree[loop][kLoopInterface]["BackingFile"] = QByteArray("\0", 1);
+  service.addDisk("zram0", 33);
+  service.tree[service.addDisk("sr0", 34)][kBlockInterface]["Size"] = 0ULL;
+  look();
+  EXPECT_EQ(names(), (QStringList{"disk0", "disk0s1", "disk0s2"}));
+}
