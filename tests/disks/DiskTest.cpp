@@ -68,11 +68,6 @@ void DiskTest::pullDisk(const QString &disk) {
   DiskLab::pull(disk);
 }
 
-void DiskTest::removeDisk(const QString &disk) {
-  _disks.removeOne(disk);
-  DiskLab::remove(disk);
-}
-
 void DiskTest::format(const QString &device, const QString &label) {
   DiskLab::format(device, "ext4", label);
   EXPECT_TRUE(

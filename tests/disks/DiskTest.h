@@ -30,9 +30,8 @@ class DiskTest : public testing::Test {
   /// A disk with this table, which is removed after the test. Waits until all its partitions are
   /// known.
   QString addDisk(const QString &name, const QByteArray &table, int partitions);
-  // Before the test's end: as a hand would, mounted or not, and in good order.
+  /// Before the test's end, as a hand would, mounted or not.
   void pullDisk(const QString &disk);
-  void removeDisk(const QString &disk);
   /// Formats a partition and waits until that is known.
   void format(const QString &device, const QString &label);
   /// Both for the usual case: a disk with one ESP. Gives the partition's device.

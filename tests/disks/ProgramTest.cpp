@@ -38,22 +38,6 @@ TEST_F(ProgramOnRealDisks, MountsAndUnmountsWithOneClickEach) {
   EXPECT_TRUE(program.says(path + " umounted!"));
 }
 
-TEST_F(ProgramOnRealDisks, FollowsWhatOthersDo) {
-  const QString device = addSystemPartition("OUTSIDE");
-  const QString name = nameOf(device);
-  Program program(*platform);
-  const QString folder = DiskLab::makeFolder("mounted by another");
-  DiskLab::run("mount", {device, folder});
-  EXPECT_TRUE(program.says(name + " mouted at " + folder));
-  EXPECT_EQ(program.title(name), "umount " + name);
-  DiskLab::run("umount", {folder});
-  EXPECT_TRUE(program.says(folder + " umounted!"));
-  EXPECT_EQ(program.title(name), "mount " + name);
-
-  pullDisk(device.section('p', 0, -2));
-  EXPECT_TRUE(waitFor([&] { return program.rowOf(name) == nullptr; }));
-}
-
 TEST_F(ProgramOnRealDisks, AServiceThatDiesOverAClickIsNotWaitedForForEver) {
   const QString name = nameOf(addSystemPartition("DIES"));
   Program program(*platform);
