@@ -24,17 +24,12 @@ const QStringList kHostileNames = {
     QString(QChar(0)) + "\u001b[31m\u009c\t\u0007",
     "\u202Eeman \u2066\u200F\u061C\u2069\u202C",
     "<b>bold</b><img src='/etc/passwd'><br>&lt;&amp;&nbsp;",
-    "&File && &Quit &",
-    "%1 %2 %3 %n %s %@ %% %41",
+    "&File && &Quit & %1 %2 %n %s %@ %%",
     "open /etc",
     "mount disk0s1",
-    "disk0s1",
-    "N/A",
     "(null)",
     "../../etc",
-    "https://host/a?b#c;d",
     QString(QChar(0xD800)) + "\uFDD0\uFFFC\uFFFE" + QString(QChar(0xDC00)),
-    "Z" + QString(300, QChar(0x0301)),
     QString(10240, 'x'),
 };
 
@@ -117,13 +112,6 @@ TEST(HostileNames, NeverMakeAButtonActOnAnotherPartition) {
     EXPECT_EQ(machine.mountButton(1)->title(), "mount disk1s1");
     EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
   }
-}
-
-TEST(HostileNames, AreNoPathsOutsideTheVolumesFolder) {
-  TestMachine machine(machineWith("../../etc"));
-  machine.tickShowAll();
-  machine.click(machine.mountButton(1));
-  EXPECT_EQ(machine.status(), "disk1s1 mouted at " + machine.folder("disk.._.._etc"));
 }
 
 TEST(HostileNames, ArePaintedWithinTheirLine) {

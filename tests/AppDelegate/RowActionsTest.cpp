@@ -110,25 +110,6 @@ TEST(RowActions, MessagesWaitUntilTheActionIsOver) {
   EXPECT_EQ(machine.status(), "mount failed for disk0s1, status Permission denied");
 }
 
-TEST(RowActions, ARefusalStaysRedWhateverHappensMeanwhile) {
-  TestMachine machine(slowMachine(R"("unmount": "busy")"));
-  machine.click(machine.mountButton(0));
-  later([&] { machine.platform.rename("disk0s1", "Other"); });
-  machine.click(machine.mountButton(0));
-  EXPECT_EQ(machine.status(), "umount failed for disk0s1, reason: busy");
-  EXPECT_EQ(machine.statusColor(), TextColor::Red);
-}
-
-TEST(RowActions, QuittingWaitsForTheService) {
-  TestMachine machine(slowMachine());
-  QTimer::singleShot(0, qApp, [&] {
-    later([&] { machine.delegate.closeApp(); });
-    machine.click(machine.mountButton(0));
-    EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
-  });
-  EXPECT_EQ(QCoreApplication::exec(), 0);
-}
-
 TEST(RowActions, TitlesAreReadBackWordByWord) {
   TestMachine machine(twoEspMachine());
   RowButton button;

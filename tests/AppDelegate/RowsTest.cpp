@@ -16,36 +16,6 @@ TEST(Rows, SayWhatAPartitionIsAndWhereItLies) {
   EXPECT_EQ(machine.text(5), "FAT on disk2s1\nparent of disk2,\nStick: FAT");
 }
 
-TEST(Rows, OfferWhatCanBeDoneWithAPartition) {
-  TestMachine machine(twoEspMachine());
-  machine.tickShowAll();
-  EXPECT_EQ(machine.mountButton(0)->title(), "mount disk0s1");
-  EXPECT_TRUE(machine.mountButton(0)->isEnabled());
-  EXPECT_EQ(machine.cell(0)->openButton()->title(), "open (null)");
-  EXPECT_FALSE(machine.cell(0)->openButton()->isEnabled());
-  EXPECT_FALSE(machine.cell(0)->openButton()->isVisible());
-
-  EXPECT_EQ(machine.mountButton(4)->title(), "umount disk1s2");
-  EXPECT_EQ(machine.cell(4)->openButton()->title(), "open " + machine.folder("Data"));
-  EXPECT_TRUE(machine.cell(4)->openButton()->isVisible());
-}
-
-TEST(Rows, RootCannotBeUnmountedAndItsDeadButtonStaysWithIt) {
-  TestMachine machine(twoEspMachine());
-  machine.tickShowAll();
-  EXPECT_EQ(machine.mountButton(2)->title(), "umount disk0s3");
-  EXPECT_FALSE(machine.mountButton(2)->isEnabled());
-
-  // The rows move up and down under the cells; none of the others may come by the disabled button.
-  for (int toggle = 0; toggle < 3; ++toggle) {
-    machine.tickShowAll();
-    for (qint64 row = 0; row < machine.interface.tableView()->numberOfRows(); ++row) {
-      const bool isRoot = machine.mountButton(row)->title() == QStringLiteral("umount disk0s3");
-      EXPECT_EQ(machine.mountButton(row)->isEnabled(), !isRoot) << row;
-    }
-  }
-}
-
 TEST(Rows, RefuseRowsAndColumnsThatAreNotThere) {
   TestMachine machine(twoEspMachine());
   TableView *table = machine.interface.tableView();
