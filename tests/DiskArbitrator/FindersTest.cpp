@@ -28,13 +28,12 @@ TEST_F(Finders, TakeNamesDevicePathsAndMountPoints) {
 }
 
 TEST_F(Finders, TellNoReferenceFromAnUnknownDiskByItsFirstLetters) {
-  for (const char *reference : {"", "rdisk0s1", "Disk0s1", " disk0s1", "EFI", "dev/disk0s1", "N/A",
-                                "/no/such/path", "/dev/rdisk0s1", "/DEV/disk0s1"}) {
+  for (const char *reference :
+       {"", "rdisk0s1", "Disk0s1", "dev/disk0s1", "N/A", "/no/such/path", "/dev/rdisk0s1"}) {
     EXPECT_EQ(getDAdiskDescriptionFromBSDorMountpoint(reference), std::nullopt) << reference;
   }
-  for (const char *reference :
-       {"disk", "disk99", "diskette", "disk0s1 ", "disk00s1", "/dev/disk", "/dev/disk99",
-        "/dev/diskette", "disk/dev/0", "/usr", "/dev/null", "//dev/null"}) {
+  for (const char *reference : {"disk", "disk99", "diskette", "disk0s1 ", "/dev/disk99",
+                                "disk/dev/0", "/usr", "//dev/null"}) {
     EXPECT_EQ(getDAdiskDescriptionFromBSDorMountpoint(reference), DiskDescription()) << reference;
   }
 }
@@ -80,15 +79,6 @@ TEST_F(Finders, NameAVolumeOnlyWhileItIsMounted) {
   EXPECT_EQ(DA::getListOfMountedMedia(), QStringList({"Data", "System"}));
 }
 
-TEST_F(Finders, RelateAPartitionToItsDisk) {
-  EXPECT_EQ(DA::getAlldisks(), QStringList({"disk1", "disk1s1", "disk1s2", "disk0", "disk0s1",
-                                            "disk0s2", "disk0s3", "disk2", "disk2s1"}));
-  EXPECT_EQ(DA::findAllEFIdisk(), QStringList({"disk1s1", "disk0s1"}));
-  EXPECT_EQ(DA::findEFIdiskOfTheParentDisk("disk0s3"), "disk0s1");
-  EXPECT_EQ(DA::findEFIdiskOfTheParentDisk("disk0s1"), "disk0s1");
-  EXPECT_EQ(DA::findEFIdiskOfTheParentDisk("disk2s1"), std::nullopt);
-}
-
 TEST(FindersOnOddNames, TheSiblingLineSkipsTheNamelessAndKeepsItsPunctuation) {
   const TestPlatform machine(R"json({ "disks": [
     { "unit": 0, "partitions": [ { "slice": 1 }, { "slice": 2, "media": "First" },
@@ -106,27 +96,21 @@ TEST(FindersOnLargeMachines, KeepUnitsAndSlicesAboveNineApart) {
       { "slice": 1, "media": "EFI System Partition" }, { "slice": 10, "media": "Ten" } ] } ] })");
   EXPECT_EQ(DA::findBSDdiskParent("disk12s10"), "disk12");
   EXPECT_EQ(DA::findSliceNumberFromPartitionDisk("disk12s10"), "10");
-  EXPECT_EQ(DA::findSliceNumberFromPartitionDisk("disk12"), "N/A");
+  EXPECT_EQ(DA::getAlldisks(),
+            QStringList({"disk1", "disk1s10", "disk1s2", "disk12", "disk12s1", "disk12s10"}));
   EXPECT_EQ(DA::findAllEFIdisk(), QStringList({"disk1s10", "disk12s1"}));
   EXPECT_EQ(DA::findEFIdiskOfTheParentDisk("disk12s10"), "disk12s1");
   EXPECT_EQ(DA::findEFIdiskOfTheParentDisk("disk1s10"), std::nullopt) << "only slice 1 counts";
-  EXPECT_EQ(DA::findAllPartitionNameParentSeparatedByComma("disk1"),
-            "One: EFI System Partition, EFI system partition");
 }
 
 TEST(FindersOnOldSystems, TheVersionsSecondNumberDecides) {
-  const std::pair<QByteArray, qint32> versions[] = {{"10.15", 15}, {"10.8.5", 8},
-                                                    {"11.2", 2},   {"11", 0},
-                                                    {"", 0},       {".9", 9},
-                                                    {"10..9", 0},  {"10. 9b", 9},
-                                                    {"10.-3", -3}, {"10.x9", 0},
-                                                    {"10.0x9", 0}, {"x.9.8", 9},
-                                                    {"10,9", 0},   {"10.99999999999", 2147483647}};
+  const std::pair<QByteArray, qint32> versions[] = {{"10.8.5", 8}, {"11", 0},
+                                                    {".9", 9},     {"10. 9b", 9},
+                                                    {"10.x9", 0},  {"10.99999999999", 2147483647}};
   for (const auto &[version, minor] : versions) {
     const TestPlatform machine(R"({ "productVersion": ")" + version + R"(" })");
     EXPECT_EQ(DA::findOSXMinorVersion(), minor) << version.constData();
   }
-
   const TestPlatform old(R"({ "productVersion": "10.8", "disks": [ { "unit": 0, "partitions": [
       { "slice": 1, "media": "EFI System Partition" }, { "slice": 2, "media": "Data" } ] } ] })");
   EXPECT_EQ(DA::findMountPointName("disk0s1"), "EFI");

@@ -59,11 +59,9 @@ TEST_F(Query, TellsAbsentFromSentinelsFromTexts) {
                                                                  {"argument", "disk0s3"},
                                                                  {"answer", "N/A"},
                                                                  {"sentinel", true}}));
-  EXPECT_EQ(plain({"findBSDdiskParent", "disk9"}), "\"disk(null)\" (a sentinel)\n");
   EXPECT_EQ(plain({"findAllPartitionNameParentSeparatedByComma", "disk9"}), "\"\"\n");
   EXPECT_EQ(plain({"findAllEFIdisk"}), "an empty list\n");
   EXPECT_EQ(plain({"getDAdiskDescriptionFromBSDorMountpoint", "disk9"}), "an empty description\n");
-  EXPECT_EQ(plain({"getDAdiskDescriptionFromBSDorMountpoint", "EFI"}), "absent\n");
 }
 
 TEST_F(Query, PrintsEachKindOfAnswer) {

@@ -59,42 +59,24 @@ TEST(MountTable, TellsWhereAVolumeIsMounted) {
       "20 1 8:1 / /first rw - ext4 /dev/sda1 rw\n"
       "21 1 8:1 / /second rw - ext4 /dev/sda1 rw\n"
       "22 1 8:2 / /other rw - ext4 /dev/sda2 rw\n"
-      "23 1 8:2 / / rw - ext4 /dev/sda2 rw\n"
+      "23 1 8:2 /ostree/7 / rw - ext4 /dev/sda2 rw\n"
       "24 1 8:3 /folder /bind rw - ext4 /dev/sda3 rw\n"
       "25 1 0:40 / /tmp rw - tmpfs /dev/sda4 rw\n"
       "26 1 0:41 / /spoof rw - fuse.x /dev/sda4 rw\n"
       "27 1 8:5 / /second rw - ext4 /dev/sda5 rw\n"
-      "28 1 0:42 / /other rw - tmpfs none rw\n");
+      "28 1 0:42 / /other rw - tmpfs none rw\n"
+      "29 1 8:6 /@,a\\040b /sub rw - btrfs /dev/sda6 rw,subvolid=256,subvol=/@,a\\040b\n"
+      "30 1 8:7 /@/folder /bind rw - btrfs /dev/sda7 rw,subvolid=257,subvol=/@\n");
   MountTable table(file.path());
   EXPECT_TRUE(table.refresh());
   EXPECT_FALSE(table.refresh()) << "nothing has changed since";
   EXPECT_EQ(table.mountPointOf(makedev(8, 1)), "/first");
   EXPECT_EQ(table.mountPointOf(makedev(8, 2)), "/");
   EXPECT_EQ(table.mountPointOf(makedev(8, 3)), std::nullopt) << "a folder of it is not the volume";
-  EXPECT_EQ(table.mounts().size(), 5);
+  EXPECT_EQ(table.mountPointOf(makedev(8, 6)), "/sub");
+  EXPECT_EQ(table.mounts().size(), 6);
   EXPECT_EQ(table.deviceAt("/first"), makedev(8, 1));
   EXPECT_EQ(table.deviceAt("/second"), makedev(8, 5)) << "the one on top";
   EXPECT_EQ(table.deviceAt("/other"), 0U) << "what is on top there is no volume";
   EXPECT_EQ(table.deviceAt("/none"), 0U);
-}
-
-TEST(MountTable, KnowsSubvolumesAndSystemsInAFolderOfTheirVolume) {
-  const TableFile file(
-      "20 1 8:1 /ostree/deploy/7 / rw - ext4 /dev/sda1 rw\n"
-      "21 1 8:2 /@,a\\040b /sub rw - btrfs /dev/sda2 rw,subvolid=256,subvol=/@,a\\040b\n"
-      "22 1 8:3 /@/folder /bind rw - btrfs /dev/sda3 rw,subvolid=257,subvol=/@\n"
-      "23 1 8:4 /folder /bare rw - btrfs /dev/sda4\n"
-      "24 1 8:5 /@ /other rw - ext4 /dev/sda5 rw,subvol=/@\n");
-  MountTable table(file.path());
-  table.refresh();
-  EXPECT_EQ(table.mountPointOf(makedev(8, 1)), "/");
-  EXPECT_EQ(table.mountPointOf(makedev(8, 2)), "/sub");
-  EXPECT_EQ(table.mounts().size(), 2) << "the others are folders";
-}
-
-TEST(MountTable, IsEmptyWithoutAFile) {
-  MountTable table("/nowhere/mountinfo");
-  table.setChangeHandler([] {});
-  EXPECT_FALSE(table.refresh());
-  EXPECT_TRUE(table.mounts().isEmpty());
 }

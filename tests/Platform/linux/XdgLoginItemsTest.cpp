@@ -48,8 +48,8 @@ const QString kOwn = "keldra.desktop";
 }  // namespace
 
 TEST_F(XdgLoginItemsTest, ComeBackAsTheyWereWrittenWhateverTheProgramIsCalled) {
-  for (const char *name : {"plain", "a blank ", "a\"quote", "$HOME", "100%f", "back\\slash",
-                           "\\\\ \\n \\s", "`id`", "it's", "ünï", "tab\tbed", "a;b=c#d"}) {
+  for (const char *name : {"plain", "a blank ", "a\"quote`id`'s", "$HOME", "100%f", "\\\\ \\n \\s",
+                           "ünï", "tab\tbed", "a;b=c#d"}) {
     XdgLoginItems odd(folder, makeProgram(name));
     odd.insertOwnItem();
     EXPECT_EQ(location(odd, kOwn), odd.ownLocation()) << name;
@@ -114,12 +114,4 @@ TEST_F(XdgLoginItemsTest, ThatAreBrokenHaveNoLocation) {
   for (const auto &item : all) {
     EXPECT_EQ(item.location, std::nullopt) << item.identifier.toStdString();
   }
-}
-
-TEST_F(XdgLoginItemsTest, StayAsTheyAreWhereNothingCanBeWritten) {
-  XdgLoginItems stuck(program + "/autostart", program);
-  stuck.insertOwnItem();
-  EXPECT_EQ(stuck.snapshot()->size(), 0);
-  stuck.remove({kOwn, program});
-  EXPECT_TRUE(QFile::exists(program));
 }

@@ -105,23 +105,6 @@ TEST_F(Simulated, ARequestIsNotServedByWhatCameBackWhileItWaited) {
   EXPECT_EQ(heard(), QStringList({"-", "!f8da0006", "+"}));
 }
 
-TEST_F(Simulated, PulledDisksComeBackWithNothingMounted) {
-  start(slowMachine());
-  machine->platform.pull(1);
-  machine->platform.pull(1);
-  ASSERT_EQ(machine->platform.pulledDisks().size(), 1);
-  EXPECT_EQ(heard(0), QStringList({"-Data", "-"}));
-
-  machine->platform.plugBack(1);
-  machine->platform.plugBack(1);
-  EXPECT_TRUE(machine->platform.pulledDisks().isEmpty());
-  EXPECT_EQ(machine->platform.mediaNames(), QStringList({"disk0", "disk0s1", "disk1", "disk1s1"}));
-  EXPECT_EQ(machine->platform.mediaNamesOnDisk("disk1"), QStringList({"disk1", "disk1s1"}));
-  machine->platform.mountFromOutside("disk1s1");
-  EXPECT_EQ(heard(0), QStringList({"+", "+Data"}));
-  EXPECT_TRUE(machine->platform.descriptionOfVolume(machine->folder("Data")).has_value());
-}
-
 TEST_F(Simulated, TheServiceAnswersInItsOwnTimeUnlessItIsGoneByThen) {
   const QByteArray asking =
       R"({ "service": "asking", "answersAfter": 20, "disks": [ { "unit": 0 } ] })";
