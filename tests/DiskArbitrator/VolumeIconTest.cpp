@@ -2,23 +2,17 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <filesystem>
 #include <stdexcept>
 
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "support/Files.h"
 #include "support/IconBytes.h"
 #include "support/TestMachine.h"
 
 namespace {
 
 using DA = DiskArbitrator;
-
-void write(const QString &name, const QByteArray &bytes) {
-  QFile file(name);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(bytes);
-}
 
 QImage shipped(const QString &name) {
   return Platform::current().systemFiles().image("/System/Library/" + name).value_or(QImage());
@@ -39,10 +33,10 @@ TEST(VolumeIcon, IsTheVolumesOwnWhileItIsMounted) {
   const QImage driver = DA::findVolumeIcon("disk1s2");
   EXPECT_EQ(driver, driverIcon("Internal.icns"));
   const QString file = machine.folder("Data") + "/.VolumeIcon.icns";
-  write(file, icns({{"ic08", pngOf(256, Qt::magenta)}}));
+  writeFile(file, icns({{"ic08", pngOf(256, Qt::magenta)}}));
   EXPECT_EQ(DA::findVolumeIcon("disk1s2").pixelColor(0, 0), QColor(Qt::magenta));
   EXPECT_EQ(DA::findVolumeIcon("disk1s1"), driver) << "another one of that disk";
-  write(file, icns({{"ic08", pngOf(256, Qt::cyan)}}));
+  writeFile(file, icns({{"ic08", pngOf(256, Qt::cyan)}}));
   EXPECT_EQ(DA::findVolumeIcon("disk1s2").pixelColor(0, 0), QColor(Qt::cyan)) << "written anew";
   machine.platform.unmountFromOutside("disk1s2");
   EXPECT_EQ(DA::findVolumeIcon("disk1s2"), driver);
@@ -62,7 +56,7 @@ TEST(VolumeIcon, ThatCannotBeReadIsPassedOver) {
     ASSERT_EQ(symlink(target, name.constData()), 0);
     EXPECT_TRUE(isPassedOver()) << "a link to " << target;
   }
-  write(file, "icns");
+  writeFile(file, "icns");
   ASSERT_EQ(truncate(name.constData(), 1LL << 40), 0);
   EXPECT_TRUE(isPassedOver()) << "a file without end";
 }
@@ -72,7 +66,7 @@ TEST(VolumeIcon, ThatDoesNotDecodeEndsTheSearchAndTheRefresh) {
   machine.tickShowAll();
   ASSERT_EQ(machine.listed().size(), 6);
   const QString file = machine.folder("Data") + "/.VolumeIcon.icns";
-  write(file, "no picture");
+  writeFile(file, "no picture");
   EXPECT_TRUE(DA::findVolumeIcon("disk1s2").isNull());
   EXPECT_THROW(machine.delegate.refreshLists(), std::invalid_argument);
   EXPECT_EQ(machine.listed().size(), 4) << "the rows before it";

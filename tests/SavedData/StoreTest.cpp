@@ -2,8 +2,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <csignal>
 #include <cstring>
@@ -11,6 +9,7 @@
 #include "SavedData/ManagedObjectContext.h"
 #include "SavedData/ManagedObjectModel.h"
 #include "SavedData/PersistentStoreCoordinator.h"
+#include "support/Files.h"
 
 namespace {
 
@@ -21,18 +20,8 @@ const char kSmallStore[] =
 class StoreTest : public testing::Test {
  protected:
   StoreTest() {
-    put(folder.filePath("model"), R"({ "Volume": ["note", "label"] })");
+    writeFile(folder.filePath("model"), R"({ "Volume": ["note", "label"] })");
     model = std::make_unique<ManagedObjectModel>(folder.filePath("model"));
-  }
-
-  static void put(const QString &path, const QByteArray &content) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-  }
-
-  static QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
   }
 
   ManagedObjects stored() const {
@@ -155,10 +144,10 @@ TEST_F(StoreTest, WhatIsNotAStoreIsRefusedAndLeftAlone) {
       QByteArray(good).replace("a&#13;", QByteArray(10'000'000, 'a')),
       good + QByteArray(20'000'000, ' '),
   };
-  put(path, good);
+  writeFile(path, good);
   EXPECT_EQ(stored().first().values.value("note"), "a\r<b");
   for (const QByteArray &content : contents) {
-    put(path, content);
+    writeFile(path, content);
     PersistentStoreCoordinator coordinator(*model);
     const auto error = coordinator.addXMLStore(path);
     EXPECT_EQ(error ? error->code : 0, kFileReadCorruptFile) << content.left(300).toStdString();

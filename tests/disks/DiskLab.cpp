@@ -1,7 +1,6 @@
 #include "disks/DiskLab.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
 
 #include <QFile>
 #include <QProcess>
@@ -14,10 +13,6 @@ QString tool(const QString &name) {
 
 QString labFile(const QString &name) {
   return qEnvironmentVariable("KELDRA_LAB") + '/' + name;
-}
-
-QString pidFile() {
-  return labFile("udisksd.pid");
 }
 
 }  // namespace
@@ -81,12 +76,6 @@ void DiskLab::killService() {
   run(tool("disk-service"), {"kill", "udisksd"});
 }
 
-void DiskLab::freezeService() {
-  QFile file(pidFile());
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  ASSERT_EQ(kill(file.readAll().trimmed().toInt(), SIGSTOP), 0);
-}
-
 bool DiskLab::isServiceRunning() {
-  return QFile::exists(pidFile());
+  return QFile::exists(labFile("udisksd.pid"));
 }

@@ -31,8 +31,6 @@ QString makeFolder(const QString &name);
 void startService();
 void stopService();
 void killService();
-/// Makes it deaf until it is killed.
-void freezeService();
 bool isServiceRunning();
 
 }  // namespace DiskLab

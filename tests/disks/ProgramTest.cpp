@@ -1,7 +1,6 @@
 // The whole program, real widgets and all, on real disks.
 
 #include <QFile>
-#include <QTimer>
 
 #include "disks/DiskTest.h"
 #include "disks/Program.h"
@@ -36,22 +35,4 @@ TEST_F(ProgramOnRealDisks, MountsAndUnmountsWithOneClickEach) {
   program.click(name);
   EXPECT_EQ(program.title(name), "mount " + name);
   EXPECT_TRUE(program.says(path + " umounted!"));
-}
-
-TEST_F(ProgramOnRealDisks, AServiceThatDiesOverAClickIsNotWaitedForForEver) {
-  const QString name = nameOf(addSystemPartition("DIES"));
-  Program program(*platform);
-  ASSERT_EQ(mount(name), kDAReturnSuccess);
-  DiskLab::freezeService();
-  QTimer::singleShot(50, [] { DiskLab::killService(); });
-  program.click(name);
-  EXPECT_TRUE(program.says("umount failed for " + name + ", reason: not ready"));
-
-  ASSERT_TRUE(waitForPresence(DiskService::Presence::Absent));
-  DiskLab::startService();
-  ASSERT_TRUE(waitForPresence(DiskService::Presence::Answering));
-  EXPECT_TRUE(waitFor([&] { return program.rowOf(name) != nullptr; }));
-  EXPECT_EQ(program.title(name), "umount " + name);
-  program.click(name);
-  EXPECT_EQ(program.title(name), "mount " + name);
 }

@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 
-#include <QFile>
 #include <csignal>
+
+#include "support/Files.h"
 
 namespace {
 
@@ -26,14 +27,11 @@ constexpr auto kConfiguration = R"(<!DOCTYPE busconfig PUBLIC
 }  // namespace
 
 PrivateBus::PrivateBus() {
-  QFile configuration(_folder.filePath("bus.conf"));
-  EXPECT_TRUE(configuration.open(QIODevice::WriteOnly));
-  configuration.write(QString(kConfiguration).arg(_folder.path()).toUtf8());
-  configuration.close();
+  const QString configuration = _folder.filePath("bus.conf");
+  writeFile(configuration, QString(kConfiguration).arg(_folder.path()).toUtf8());
   _daemon.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
   _daemon.setStandardErrorFile(_folder.filePath("log"));
-  _daemon.start("dbus-daemon",
-                {"--nofork", "--print-address", "--config-file=" + configuration.fileName()});
+  _daemon.start("dbus-daemon", {"--nofork", "--print-address", "--config-file=" + configuration});
   while (_daemon.waitForReadyRead(10000) && !_daemon.canReadLine()) continue;
   _address = _daemon.readLine().trimmed();
   EXPECT_FALSE(_address.isEmpty()) << "no bus: " << _daemon.errorString().toStdString();

@@ -1,11 +1,10 @@
 #include "service/ServiceTest.h"
 
-#include <QFile>
+#include "support/Files.h"
 
 ServiceTest::ServiceTest() {
-  QFile table(folder.filePath("mountinfo"));
-  EXPECT_TRUE(table.open(QIODevice::WriteOnly));
-  table.write("30 1 8:18 / " + mountPoint.toUtf8() + " rw - ext4 /dev/sda2 rw\n");
+  writeFile(folder.filePath("mountinfo"),
+            "30 1 8:18 / " + mountPoint.toUtf8() + " rw - ext4 /dev/sda2 rw\n");
   for (const auto &[name, sign] : {std::pair(kNSWorkspaceDidMountNotification, "+"),
                                    {kNSWorkspaceDidUnmountNotification, "-"},
                                    {kNSWorkspaceDidRenameVolumeNotification, "~"}}) {

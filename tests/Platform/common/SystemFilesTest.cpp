@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "DiskArbitrator/SystemVersion.h"
 #include "Platform/common/BinaryPropertyList.h"
 #include "Platform/common/FileSystemFiles.h"
 #include "Platform/common/PropertyList.h"
+#include "support/Files.h"
 
 namespace {
 
@@ -27,12 +26,6 @@ const QByteArray kSmallestBinary = QByteArray::fromHex(
     "0000000000000003"
     "0000000000000000"
     "000000000000000f");
-
-void write(const QString &name, const QByteArray &bytes) {
-  QFile file(name);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(bytes);
-}
 
 }  // namespace
 
@@ -93,15 +86,14 @@ TEST(SystemVersion, IsReadFromTheFirstFileThatIsThere) {
   const QTemporaryDir root;
   const FileSystemFiles files(root.path());
   const QString folder = root.filePath("System/Library/CoreServices");
-  ASSERT_TRUE(QDir().mkpath(folder));
   EXPECT_EQ(minorVersion(files), 0);
-  write(folder + "/ServerVersion.plist", xmlWithVersion("10.7"));
+  writeFile(folder + "/ServerVersion.plist", xmlWithVersion("10.7"));
   EXPECT_EQ(minorVersion(files), 7);
-  write(folder + "/SystemVersion.plist", xmlWithVersion("10.9.5"));
+  writeFile(folder + "/SystemVersion.plist", xmlWithVersion("10.9.5"));
   EXPECT_EQ(minorVersion(files), 9);
   for (const QByteArray &malformed :
        {xmlWithVersion("10.9").first(80), QByteArray(20'000'000, ' ')}) {
-    write(folder + "/SystemVersion.plist", malformed);
+    writeFile(folder + "/SystemVersion.plist", malformed);
     EXPECT_EQ(minorVersion(files), 0);
   }
 }
@@ -109,9 +101,8 @@ TEST(SystemVersion, IsReadFromTheFirstFileThatIsThere) {
 TEST(SystemFiles, ABundleIsAFolderWithResources) {
   const QTemporaryDir root;
   const QString resources = "/a.bundle/Contents/Resources/";
-  QDir(root.path()).mkpath(root.path() + resources);
-  write(root.path() + resources + "one.icns", "");
-  write(root.filePath("b.bundle"), "");
+  writeFile(root.path() + resources + "one.icns", "");
+  writeFile(root.filePath("b.bundle"), "");
   const FileSystemFiles files(root.path());
   EXPECT_EQ(files.bundleResource("/a.bundle", "one", "icns"), resources + "one.icns");
   EXPECT_EQ(files.bundleResource("/a.bundle", "two", "icns"), QString());

@@ -5,23 +5,7 @@
 
 #include <QTemporaryDir>
 
-namespace {
-
-class TableFile {
- public:
-  explicit TableFile(const QByteArray &text) : _path(_folder.filePath("mountinfo")) {
-    QFile file(_path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-  }
-  const QString &path() const { return _path; }
-
- private:
-  QTemporaryDir _folder;
-  QString _path;
-};
-
-}  // namespace
+#include "support/Files.h"
 
 TEST(MountTable, ReadsLinesWithEscapedNamesAndOptionalFields) {
   const auto lines = parseMountTable(
@@ -55,19 +39,21 @@ TEST(MountTable, LeavesOutMalformedLines) {
 }
 
 TEST(MountTable, TellsWhereAVolumeIsMounted) {
-  const TableFile file(
-      "20 1 8:1 / /first rw - ext4 /dev/sda1 rw\n"
-      "21 1 8:1 / /second rw - ext4 /dev/sda1 rw\n"
-      "22 1 8:2 / /other rw - ext4 /dev/sda2 rw\n"
-      "23 1 8:2 /ostree/7 / rw - ext4 /dev/sda2 rw\n"
-      "24 1 8:3 /folder /bind rw - ext4 /dev/sda3 rw\n"
-      "25 1 0:40 / /tmp rw - tmpfs /dev/sda4 rw\n"
-      "26 1 0:41 / /spoof rw - fuse.x /dev/sda4 rw\n"
-      "27 1 8:5 / /second rw - ext4 /dev/sda5 rw\n"
-      "28 1 0:42 / /other rw - tmpfs none rw\n"
-      "29 1 8:6 /@,a\\040b /sub rw - btrfs /dev/sda6 rw,subvolid=256,subvol=/@,a\\040b\n"
-      "30 1 8:7 /@/folder /bind rw - btrfs /dev/sda7 rw,subvolid=257,subvol=/@\n");
-  MountTable table(file.path());
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("mountinfo");
+  writeFile(path,
+            "20 1 8:1 / /first rw - ext4 /dev/sda1 rw\n"
+            "21 1 8:1 / /second rw - ext4 /dev/sda1 rw\n"
+            "22 1 8:2 / /other rw - ext4 /dev/sda2 rw\n"
+            "23 1 8:2 /ostree/7 / rw - ext4 /dev/sda2 rw\n"
+            "24 1 8:3 /folder /bind rw - ext4 /dev/sda3 rw\n"
+            "25 1 0:40 / /tmp rw - tmpfs /dev/sda4 rw\n"
+            "26 1 0:41 / /spoof rw - fuse.x /dev/sda4 rw\n"
+            "27 1 8:5 / /second rw - ext4 /dev/sda5 rw\n"
+            "28 1 0:42 / /other rw - tmpfs none rw\n"
+            "29 1 8:6 /@,a\\040b /sub rw - btrfs /dev/sda6 rw,subvolid=256,subvol=/@,a\\040b\n"
+            "30 1 8:7 /@/folder /bind rw - btrfs /dev/sda7 rw,subvolid=257,subvol=/@\n");
+  MountTable table(path);
   EXPECT_TRUE(table.refresh());
   EXPECT_FALSE(table.refresh()) << "nothing has changed since";
   EXPECT_EQ(table.mountPointOf(makedev(8, 1)), "/first");

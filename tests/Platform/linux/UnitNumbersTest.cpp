@@ -3,19 +3,12 @@
 #include <gtest/gtest.h>
 #include <sys/sysmacros.h>
 
-#include <QDir>
-#include <QFile>
 #include <QLockFile>
 #include <QTemporaryDir>
 
-namespace {
+#include "support/Files.h"
 
-void writeFile(const QString &path, const QByteArray &text) {
-  QDir().mkpath(QFileInfo(path).path());
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(text);
-}
+namespace {
 
 class UnitNumbersTest : public testing::Test {
  public:

@@ -2,30 +2,24 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
+
+#include "support/Files.h"
 
 namespace {
 
 class XdgLoginItemsTest : public testing::Test {
  public:
   QString makeProgram(const QString &name) {
-    QFile file(root.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return file.fileName();
+    const QString path = root.filePath(name);
+    writeFile(path, {});
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return path;
   }
   void writeEntry(const QString &name, const QString &lines) const {
-    QDir().mkpath(folder);
-    QFile file(folder + '/' + name);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[Desktop Entry]\nType=Application\n" + lines.toUtf8());
+    writeFile(folder + '/' + name, "[Desktop Entry]\nType=Application\n" + lines.toUtf8());
   }
-  QString entry(const QString &name) const {
-    QFile file(folder + '/' + name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-  }
+  QByteArray entry(const QString &name) const { return contentOf(folder + '/' + name); }
   QStringList entries() const { return QDir(folder).entryList(QDir::Files, QDir::Name); }
 
   static std::optional<QString> location(const XdgLoginItems &items, const QString &name) {
@@ -62,7 +56,7 @@ TEST_F(XdgLoginItemsTest, ComeBackAsTheyWereWrittenWhateverTheProgramIsCalled) {
 
 TEST_F(XdgLoginItemsTest, AreQuotedAsTheDesktopsReadThem) {
   XdgLoginItems(folder, makeProgram("a $b%c\\d")).insertOwnItem();
-  const QString path = root.path() + "/a ";
+  const QByteArray path = root.path().toUtf8() + "/a ";
   EXPECT_TRUE(entry(kOwn).contains("\nExec=\"" + path + R"(\\$b%%c\\\\d")" + "\n"));
   EXPECT_TRUE(entry(kOwn).contains("\nTryExec=" + path + R"($b%c\\d)" + "\n"));
 }
@@ -81,7 +75,7 @@ TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
   writeEntry("keldra-1.desktop", "Exec=" + root.filePath("moved") + "\n");
   writeEntry("second.desktop", "Exec=\"" + program + "\" --twice\n");
   writeEntry("third.txt", "Exec=" + program + "\n");
-  const QString before = entry(kOwn);
+  const QByteArray before = entry(kOwn);
   items.insertOwnItem();
   EXPECT_EQ(entry(kOwn), before);
   EXPECT_EQ(location(items, kOwn), other);
