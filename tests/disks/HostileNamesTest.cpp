@@ -1,7 +1,7 @@
 // Names that a stranger has written on a real disk, as the real service hands them on.
 
 #include "disks/DiskTest.h"
-#include "disks/Program.h"
+#include "support/Program.h"
 
 class HostileNamesOnRealDisks : public DiskTest {};
 

@@ -5,7 +5,7 @@
 
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "disks/DiskTest.h"
-#include "disks/Program.h"
+#include "support/Program.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QFile>
 
 #include "disks/DiskTest.h"
-#include "disks/Program.h"
+#include "support/Program.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "disks/DiskTest.h"
-#include "disks/Program.h"
 #include "load/Load.h"
+#include "support/Program.h"
 
 namespace {
 

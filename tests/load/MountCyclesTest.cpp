@@ -7,8 +7,8 @@
 #include <QTimer>
 
 #include "disks/DiskTest.h"
-#include "disks/Program.h"
 #include "load/Load.h"
+#include "support/Program.h"
 
 namespace {
 

@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QVariantAnimation>
-
 #include "Platform/simulated/MachineFile.h"
-#include "application.h"
 
 Machine machineOf(const QByteArray &json) {
   const auto result = readMachineFile(json);
@@ -35,38 +32,4 @@ QByteArray twoEspMachine() {
     { "unit": 2, "media": "Stick", "scheme": "FDisk_partition_scheme", "ejectable": true, "writable": false,
       "partitions": [ { "slice": 1, "media": "FAT", "volume": { "kind": "msdos", "uuid": "12AB-34CD" } } ] }
   ] })";
-}
-
-TestMachine::TestMachine(const QByteArray &json) : TestPlatform(json), delegate(platform, desktop) {
-  connectOutlets(interface, delegate);
-  delegate.applicationDidFinishLaunching();
-  interface.popover()->setAnimates(false);
-  delegate.showPopover();
-  settle();
-}
-
-void TestMachine::settle() {
-  for (int turn = 0; turn < 5; ++turn) QCoreApplication::processEvents();
-}
-
-QString TestMachine::status() {
-  settle();
-  for (int fade = 0; fade < 2; ++fade) {
-    for (auto *animation : interface.statusTextField()->findChildren<QVariantAnimation *>()) {
-      animation->setCurrentTime(animation->duration());
-    }
-  }
-  return interface.statusTextField()->stringValue();
-}
-
-QStringList TestMachine::listed() const {
-  QStringList names;
-  for (const RowRecord &record : delegate.tableViewContents()) names += record.ESP;
-  return names;
-}
-
-ESPTableCellView *TestMachine::cell(qint64 row) const {
-  // The screen may be too small for all rows at once.
-  interface.tableView()->scrollRowToVisible(row);
-  return qobject_cast<ESPTableCellView *>(interface.tableView()->cellAtRow(row));
 }

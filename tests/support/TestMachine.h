@@ -2,17 +2,8 @@
 
 // The whole program, real widgets and all, on a simulated machine whose time is in the test's hand.
 
-#include <QCoreApplication>
-#include <QTest>
-
-#include "AppDelegate/AppDelegate.h"
-#include "ESPTableCellView.h"
-#include "Interface/MainInterface.h"
-#include "Interface/RowButton.h"
-#include "Interface/RowTextField.h"
-#include "Interface/TextField.h"
-#include "Platform/simulated/SimulatedDesktop.h"
 #include "Platform/simulated/SimulatedPlatform.h"
+#include "support/Program.h"
 
 /// Time that goes on by one step at every look at it, so that no wait takes any.
 class SteppingClock final : public Clock {
@@ -46,26 +37,14 @@ class TestPlatform {
   CurrentPlatform current;
 };
 
-class TestMachine : public TestPlatform {
+class TestMachine : public TestPlatform, public Program {
  public:
-  explicit TestMachine(const QByteArray &json);
+  explicit TestMachine(const QByteArray &json) : TestPlatform(json), Program(platform) {}
 
-  /// Serves whatever is waiting in the event loop, until there is nothing more.
-  void settle();
-  /// The status line's text once its fading is over.
-  QString status();
   TextField::TextColor statusColor() const { return interface.statusTextField()->textColor(); }
-
-  QStringList listed() const;
-  ESPTableCellView *cell(qint64 row) const;
   QString text(qint64 row) const { return cell(row)->textField()->stringValue(); }
   RowButton *mountButton(qint64 row) const { return cell(row)->mountButton(); }
-  void click(RowButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
   void tickShowAll() {
     QTest::mouseClick(interface.showAllDisksCheck(), Qt::LeftButton, {}, {8, 8});
   }
-
-  SimulatedDesktop desktop;
-  AppDelegate delegate;
-  MainInterface interface;
 };

@@ -1,0 +1,74 @@
+#pragma once
+
+// The whole program, real widgets and all, with its popover open, on a platform of the test's.
+
+#include <QTest>
+#include <QVariantAnimation>
+
+#include "AppDelegate/AppDelegate.h"
+#include "ESPTableCellView.h"
+#include "Interface/MainInterface.h"
+#include "Interface/RowButton.h"
+#include "Interface/RowTextField.h"
+#include "Interface/TextField.h"
+#include "Platform/simulated/SimulatedDesktop.h"
+#include "application.h"
+
+class Program {
+ public:
+  explicit Program(Platform &platform) : _current(platform), delegate(platform, desktop) {
+    connectOutlets(interface, delegate);
+    delegate.applicationDidFinishLaunching();
+    interface.popover()->setAnimates(false);
+    delegate.showPopover();
+    settle();
+  }
+
+  /// Serves whatever is waiting in the event loop, until there is nothing more.
+  static void settle() {
+    for (int turn = 0; turn < 5; ++turn) QCoreApplication::processEvents();
+  }
+
+  QStringList listed() const {
+    QStringList names;
+    for (const RowRecord &record : delegate.tableViewContents()) names += record.ESP;
+    return names;
+  }
+  /// Null when there is no such row.
+  ESPTableCellView *cell(qint64 row) const {
+    // The screen may be too small for all rows at once.
+    interface.tableView()->scrollRowToVisible(row);
+    return qobject_cast<ESPTableCellView *>(interface.tableView()->cellAtRow(row));
+  }
+  ESPTableCellView *rowOf(const QString &name) const {
+    const qsizetype row = listed().indexOf(name);
+    return row < 0 ? nullptr : cell(row);
+  }
+  QString title(const QString &name) const { return rowOf(name)->mountButton()->title(); }
+
+  static void click(RowButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
+  void click(const QString &name) { click(rowOf(name)->mountButton()); }
+
+  /// The status line's text once its fading is over.
+  QString status() {
+    settle();
+    for (int fade = 0; fade < 2; ++fade) {
+      for (auto *animation : interface.statusTextField()->findChildren<QVariantAnimation *>()) {
+        animation->setCurrentTime(animation->duration());
+      }
+    }
+    return interface.statusTextField()->stringValue();
+  }
+  /// Waits for it.
+  bool says(const QString &text) {
+    return QTest::qWaitFor([&] { return status() == text; }, 10000);
+  }
+
+ private:
+  const CurrentPlatform _current;
+
+ public:
+  SimulatedDesktop desktop;
+  AppDelegate delegate;
+  MainInterface interface;
+};
