@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
+#include <algorithm>
 
 #include "Foundation/Text.h"
 #include "Query/Operations.h"
@@ -37,7 +38,7 @@ class Query : public testing::Test {
 
 bool isHarmlessLine(const QString &line) {
   const auto characters = line.toUcs4();
-  return std::ranges::all_of(characters, isHarmless);
+  return std::all_of(characters.begin(), characters.end(), isHarmless);
 }
 
 }  // namespace
