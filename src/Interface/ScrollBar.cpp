@@ -26,6 +26,6 @@ void ScrollBar::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(isSliderDown() || underMouse() ? look.dimText() : look.border());
+  painter.setBrush(isSliderDown() || underMouse() ? look.dimText() : look.outline());
   painter.drawRoundedRect(handle, handle.width() / 2, handle.width() / 2);
 }
