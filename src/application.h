@@ -16,5 +16,6 @@ void connectOutlets(MainInterface &interface, AppDelegate &delegate);
 /// Quit button.
 void quitWithTheSystem(AppDelegate &delegate);
 
-/// What our QApplication is set up with; called once, after it is made.
+/// What our QApplication is set up with, its language among it; called once, after it is made and before
+/// anything of ours is.
 void configureApplication();
