@@ -56,7 +56,8 @@ class PlatformQuit : public QObject {
 
   bool eventFilter(QObject *watched, QEvent *event) override {
     if (watched != qApp || event->type() != QEvent::Quit) return false;
-    _delegate.closeApp();
+    // Who ends a session wants the answer now, and takes a later one for an objection.
+    if (_delegate.sessionMayEnd([] { return true; })) return false;
     event->ignore();
     return true;
   }

@@ -13,13 +13,20 @@ namespace {
 constexpr int kBoxSide = 16;
 constexpr int kGap = 7;  // between the box and its title
 
+// Another signal takes the place of the first one, which is deprecated later.
+#if QT_VERSION < QT_VERSION_CHECK(6, 7, 0)
+constexpr auto kStateChanged = &QCheckBox::stateChanged;
+#else
+constexpr auto kStateChanged = &QCheckBox::checkStateChanged;
+#endif
+
 }  // namespace
 
 CheckBox::CheckBox(const QString &title, QWidget *parent) : QCheckBox(title, parent) {
   setAccessibleName(title);
   setAttribute(Qt::WA_Hover);
   // Not `clicked`: a screen reader's Toggle changes the box without a click.
-  connect(this, &QCheckBox::stateChanged, this, [this] {
+  connect(this, kStateChanged, this, [this] {
     if (!_settingState) emit acted();
   });
 }

@@ -40,6 +40,8 @@ void paintShadow(QPainter &painter, const QPainterPath &outline, bool dark) {
 Popover::Popover(QWidget *parent)
     : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint) {
   setAttribute(Qt::WA_TranslucentBackground);
+  // It opens without its program being the active one, and stays while a password is asked for.
+  setAttribute(Qt::WA_MacAlwaysShowToolWindow);
   _appearance.setDuration(kAppearanceMilliseconds);
   _appearance.setEasingCurve(QEasingCurve::OutCubic);
   _appearance.setStartValue(0.0);

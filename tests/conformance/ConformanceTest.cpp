@@ -206,7 +206,6 @@ TEST_F(Conformance, AWaitEndsWithItsOwnFlagOnly) {
     loop.run(isInnerOver);
     EXPECT_TRUE(isInnerOver);
     order += "inner";
-    loop.stop();
   });
   loop.run(isOuterOver);
   order += "outer";

@@ -70,7 +70,8 @@ std::optional<FileSystemFiles::Stamp> FileSystemFiles::stampOf(const QString &fi
 #else
   const timespec changed = status.st_ctim;
 #endif
-  return Stamp{status.st_dev, status.st_ino, status.st_size, changed.tv_sec, changed.tv_nsec};
+  return Stamp{static_cast<quint64>(status.st_dev), status.st_ino, status.st_size, changed.tv_sec,
+               changed.tv_nsec};
 }
 
 template <typename Content>

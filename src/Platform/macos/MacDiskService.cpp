@@ -1,5 +1,6 @@
 #include "Platform/macos/MacDiskService.h"
 
+#include <QFile>
 #include <QUrl>
 #include <QUuid>
 #include <utility>
@@ -51,7 +52,9 @@ std::optional<DiskDescription> MacDiskService::descriptionOfVolume(
   auto record = DiskArbitration::recordOfVolume(mountPoint);
   if (!record) return std::nullopt;
   const QUrl path = record->value(kDADiskDescriptionVolumePathKey).toUrl();
-  if (path.toLocalFile() != mountPoint) return std::nullopt;
+  // In one of the forms that accents have, as the path came through the file system's.
+  const QString wanted = QFile::decodeName(QFile::encodeName(mountPoint));
+  if (path.toLocalFile() != wanted) return std::nullopt;
   return descriptionFrom(std::move(*record));
 }
 

@@ -5,7 +5,8 @@
 void MacRunLoop::run(const bool &finished) {
   ++_waits;
   while (!finished) CFRunLoopRun();
-  --_waits;
+  // A stop that was meant for the wait outside has ended this one.
+  if (--_waits > 0) stop();
 }
 
 // Without a wait under way it would end the program's own loop.

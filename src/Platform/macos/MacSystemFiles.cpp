@@ -15,6 +15,7 @@ std::optional<QString> MacSystemFiles::bundleResource(const QString &bundle, con
 }
 
 std::optional<QString> locationOfDriver(const QString &identifier) {
+  if (identifier.isEmpty()) return std::nullopt;
   const Owned<CFURLRef> url(
       KextManagerCreateURLForBundleIdentifier(kCFAllocatorDefault, makeText(identifier).get()));
   return pathOf(url.get());

@@ -95,9 +95,15 @@ void VolumeWatcher::noteName(const QString &media, const QString &path) {
 }
 
 void VolumeWatcher::notePath(const QString &media, const QString &path) {
+  if (media.isEmpty()) return _soon.start();
   const QString last = _paths.take(media);
   if (!path.isEmpty()) _paths.insert(media, path);
   if (last == path) return;
-  if (!last.isEmpty()) emit unmounted(last);
-  if (!path.isEmpty()) emit mounted(path);
+  if (last.isEmpty()) {
+    emit mounted(path);
+  } else if (path.isEmpty()) {
+    emit unmounted(last);
+  } else {
+    emit renamed(path);
+  }
 }

@@ -51,7 +51,7 @@ class MacDesktop final : public Desktop {
     item.showMessage(title, text);
   }
 
-  // The system itself starts an application only once.
+  // The Finder, the Dock and `open` start an application only once.
   bool becomeOnlyInstance() override { return true; }
 
  private:
