@@ -90,20 +90,6 @@ TEST_F(OldSystem, TakesAnUnmountedESPForMountedAndLeavesTheRestToTheService) {
   EXPECT_FALSE(DA::mountPartition("disk1s1", std::nullopt));
 }
 
-TEST(OldSystemsRows, UnmountAnESPByForceAndReadUmountAlways) {
-  TestMachine machine(oldMachine());
-  EXPECT_EQ(machine.cell(1)->mountButton()->title(), "umount disk1s1");
-  EXPECT_EQ(machine.cell(1)->openButton()->title(), "open N/A");
-  ASSERT_TRUE(DA::mountPartition("disk1s1", std::nullopt));
-  machine.platform.setRefusals("disk1s1", std::nullopt, kDAReturnBusy);
-  const QString folder = machine.folder("EFI");
-  EXPECT_EQ(machine.status(), "disk1s1 mouted at " + folder);
-  EXPECT_EQ(machine.cell(1)->openButton()->title(), "open " + folder);
-  machine.click(machine.mountButton(1));
-  EXPECT_EQ(machine.status(), folder + " umounted!");
-  EXPECT_EQ(machine.cell(1)->mountButton()->title(), "umount disk1s1");
-}
-
 TEST(ChosenFolder, IsEmptyButForWhatIsHidden) {
   const QTemporaryDir root;
   const QDir folder(root.path());

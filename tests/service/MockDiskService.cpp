@@ -123,12 +123,6 @@ void MockDiskService::change(const QString &path, const QString &interface, cons
   say(propertiesChanged(path, {interface, QVariantMap{{property, value}}, QStringList()}));
 }
 
-void MockDiskService::invalidate(const QString &path, const QString &interface,
-                                 const QString &property) {
-  tree[path][interface].remove(property);
-  say(propertiesChanged(path, {interface, QVariantMap(), QStringList{property}}));
-}
-
 QDBusMessage MockDiskService::take(const QString &method) {
   const auto call = std::ranges::find(calls, method, &QDBusMessage::member);
   EXPECT_NE(call, calls.end()) << "nobody has called " << method.toStdString();

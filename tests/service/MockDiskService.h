@@ -49,7 +49,6 @@ class MockDiskService final : public QDBusVirtualObject {
   void remove(const QString &path) { remove(path, tree[path].keys()); }
   void change(const QString &path, const QString &interface, const QString &property,
               const QVariant &value);
-  void invalidate(const QString &path, const QString &interface, const QString &property);
 
   /// Sends whatever message, however wrong.
   void say(const QDBusMessage &message) { _connection->send(message); }

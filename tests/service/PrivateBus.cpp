@@ -5,33 +5,16 @@
 
 #include <csignal>
 
-#include "support/Files.h"
-
-namespace {
-
-constexpr auto kConfiguration = R"(<!DOCTYPE busconfig PUBLIC
- "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <listen>unix:path=%1/bus</listen>
-  <auth>EXTERNAL</auth>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-    <allow user="*"/>
-  </policy>
-</busconfig>
-)";
-
-}  // namespace
-
 PrivateBus::PrivateBus() {
-  const QString configuration = _folder.filePath("bus.conf");
-  writeFile(configuration, QString(kConfiguration).arg(_folder.path()).toUtf8());
   _daemon.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+  // It finds no programs to start there.
+  auto environment = QProcessEnvironment::systemEnvironment();
+  for (const char *variable : {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_RUNTIME_DIR"})
+    environment.insert(variable, _folder.path());
+  _daemon.setProcessEnvironment(environment);
   _daemon.setStandardErrorFile(_folder.filePath("log"));
-  _daemon.start("dbus-daemon", {"--nofork", "--print-address", "--config-file=" + configuration});
+  _daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address",
+                                "--address=unix:path=" + _folder.filePath("bus")});
   while (_daemon.waitForReadyRead(10000) && !_daemon.canReadLine()) continue;
   _address = _daemon.readLine().trimmed();
   EXPECT_FALSE(_address.isEmpty()) << "no bus: " << _daemon.errorString().toStdString();

@@ -42,7 +42,8 @@ TEST_F(Properties, OfAWrongTypeAreAsGoodAsNone) {
         const auto set = [&](const QVariant &value) {
           service.change(object.key(), interface.key(), property.key(), value);
         };
-        service.invalidate(object.key(), interface.key(), property.key());
+        service.say(propertiesChanged(
+            object.key(), {interface.key(), QVariantMap(), QStringList{property.key()}}));
         settle();
         const auto without = everything();
         for (const QVariant &wrong : kWrongValues) {

@@ -49,29 +49,16 @@ TEST_F(Tree, MayComeAfterItsFirstChanges) {
   EXPECT_EQ(events.count("changed"), events.size()) << "what was mounted is no news";
 }
 
-TEST_F(Tree, MayNeverComeOrTooLateAndThenFromASuccessor) {
-  service.holdsTree = true;
-  service.appear();
-  startProgram();
-  const auto question = questionForTheTree();
-  service.stepDown();
-  EXPECT_TRUE(waitFor([&] { return disks->presence() == Presence::Absent; }));
-  service.answerWithTree(question);
-  settle();
-  EXPECT_EQ(names(), QStringList{});
-  service.die();
-  EXPECT_EQ(*mount("disk0s1"), Statuses{kDAReturnNotReady});
-  service.holdsTree = false;
-  service.appear();
-  EXPECT_TRUE(waitFor([&] { return names() == kNames; }));
-  EXPECT_EQ(disks->presence(), Presence::Answering);
-}
-
-TEST_F(Tree, ThatIsRefusedOrMakesNoSenseIsNone) {
+TEST_F(Tree, ThatIsRefusedTooLateOrMakesNoSenseIsNone) {
   const QList<std::function<void(const QDBusMessage &)>> replies = {
       [&](const auto &question) { service.refuse(question, "com.example.Error"); },
       [&](const auto &question) { service.answer(question); },
       [&](const auto &question) { service.answer(question, {"a text"}); },
+      [&](const auto &question) {
+        service.stepDown();
+        EXPECT_TRUE(waitFor([&] { return disks->presence() == Presence::Absent; }));
+        service.answerWithTree(question);
+      },
   };
   service.holdsTree = true;
   startProgram();
