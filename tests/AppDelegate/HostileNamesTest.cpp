@@ -4,11 +4,9 @@
 
 #include <QAccessible>
 #include <QElapsedTimer>
-#include <QHelpEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QToolTip>
 
 #include "Foundation/SystemLog.h"
 #include "Foundation/Text.h"
@@ -59,12 +57,6 @@ QImage paintedLine(const QString &name, int line) {
   const int height = field->sizeHint().height() / 3;
   return line == 0 ? whole.copy(0, 0, whole.width(), top + height)
                    : whole.copy(0, top + line * height + 3, whole.width(), height - 3);
-}
-
-QString toolTipOf(QWidget *widget) {
-  QHelpEvent event(QEvent::ToolTip, {5, 5}, widget->mapToGlobal(QPoint(5, 5)));
-  QCoreApplication::sendEvent(widget, &event);
-  return QToolTip::text();
 }
 
 }  // namespace

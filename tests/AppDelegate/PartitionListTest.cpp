@@ -5,19 +5,6 @@
 #include "Interface/EmptyView.h"
 #include "support/TestMachine.h"
 
-TEST(PartitionList, ListsESPsInPlainTextOrderAndAllPartitionsOnDemand) {
-  TestMachine machine(twoEspMachine());
-  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
-
-  machine.tickShowAll();
-  EXPECT_EQ(machine.listed(),
-            QStringList({"disk0s1", "disk0s2", "disk0s3", "disk1s1", "disk1s2", "disk2s1"}));
-  EXPECT_NE(machine.cell(5), nullptr);
-
-  machine.tickShowAll();
-  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
-}
-
 TEST(PartitionList, SortsByCodeUnitsNotByNumber) {
   const TestMachine machine(R"({ "disks": [
     { "unit": 1, "partitions": [ { "slice": 1, "media": "EFI System Partition" } ] },

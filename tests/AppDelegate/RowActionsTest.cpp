@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QHelpEvent>
 #include <QTimer>
-#include <QToolTip>
 
 #include "support/AsAnybody.h"
 #include "support/OpenedFolders.h"
@@ -18,12 +16,6 @@ QByteArray slowMachine(const QByteArray &refusal = {}) {
   return R"({ "disks": [ { "unit": 0, "media": "Disk", "partitions": [ { "slice": 1, "delay": 20,
     "media": "EFI System Partition", "volume": { "kind": "msdos", "name": "EFI" }, "refuse": {)" +
          refusal + "} } ] } ] }";
-}
-
-QString toolTipOf(QWidget *widget) {
-  QHelpEvent event(QEvent::ToolTip, {}, widget->mapToGlobal(QPoint()));
-  QApplication::sendEvent(widget, &event);
-  return QToolTip::text();
 }
 
 void later(std::function<void()> action) {
@@ -89,14 +81,6 @@ TEST(RowActions, WhileTheServiceWorksTheRowIsBusyAndInputIsLost) {
   machine.settle();
   EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
   EXPECT_EQ(machine.interface.showAllDisksCheck()->state(), CheckBox::kOff);
-}
-
-TEST(RowActions, ADiskPulledWhileTheServiceWorksEndsTheWait) {
-  TestMachine machine(slowMachine());
-  later([&] { machine.platform.pull(0); });
-  machine.click(machine.mountButton(0));
-  EXPECT_TRUE(machine.listed().isEmpty());
-  EXPECT_EQ(machine.status(), "mount failed for disk0s1, status not found");
 }
 
 TEST(RowActions, MessagesWaitUntilTheActionIsOver) {

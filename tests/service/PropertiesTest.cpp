@@ -83,45 +83,37 @@ TEST_F(Properties, MayHoldBytesThatAreNoText) {
 TEST_F(Properties, MayLackTheirOtherHalf) {
   const auto right = everything();
   const auto tree = service.tree;
-  const auto without = [&](const QString &path, const QString &interface) {
-    return [=, this] { service.remove(path, {interface}); };
-  };
-  const auto onDisk = [&](const QString &partition, const QString &table) {
-    return [=, this] { service.change(partition, kPartitionInterface, "Table", link(table)); };
-  };
-  const struct {
-    const char *what;
-    std::function<void()> happens;
-    QStringList left;
-  } kCases[] = {
-      {"a block that is a partition no more",
-       without(esp, kPartitionInterface),
-       {"disk0", "disk0s2", "disk1", "disk2"}},
-      {"a partition without a block", without(esp, kBlockInterface), {"disk0", "disk0s2", "disk1"}},
-      {"a disk without a block", without(disk, kBlockInterface), {"disk1"}},
-      {"no table", onDisk(esp, "/"), {"disk0", "disk0s2", "disk1"}},
-      {"partitions on each other",
-       [&] { onDisk(esp, data)(), onDisk(data, esp)(); },
-       {"disk0", "disk1"}},
-      {"a drive that is not there",
-       [&] { service.change(disk, kBlockInterface, "Drive", link("/nowhere")); },
-       {"disk0", "disk0s1", "disk0s2", "disk1"}},
-      {"two partitions of one number",
-       [&] { service.change(data, kPartitionInterface, "Number", 1U); },
-       {"disk0", "disk0s1", "disk1"}},
-  };
-  for (const auto &each : kCases) {
-    SCOPED_TRACE(each.what);
-    each.happens();
-    settle();
-    EXPECT_EQ(names(), each.left);
-    for (const QString &path : service.tree.keys()) {
-      if (service.tree[path] != tree.value(path)) service.remove(path);
+  for (auto object = tree.begin(); object != tree.end(); ++object) {
+    for (auto interface = object->begin(); interface != object->end(); ++interface) {
+      SCOPED_TRACE((object.key() + ' ' + interface.key()).toStdString());
+      service.remove(object.key(), {interface.key()});
+      settle();
+      if (interface.key() == kBlockInterface) {
+        EXPECT_EQ(value("disk0s2", kDADiskDescriptionMediaBSDNameKey).isNull(),
+                  object.key() == disk || object.key() == data);
+      }
+      service.add(object.key(), {{interface.key(), *interface}});
+      settle();
+      EXPECT_EQ(everything(), right);
     }
-    for (const QString &path : tree.keys()) {
-      if (!service.tree.contains(path)) service.add(path, tree[path]);
-    }
-    settle();
-    EXPECT_EQ(everything(), right);
   }
+}
+
+TEST_F(Properties, MayLinkToNothingOrToThemselves) {
+  const QStringList others{"disk0", "disk0s2", "disk1"};
+  for (const QString &table : {QString("/"), QString("/nowhere"), esp}) {
+    service.change(esp, kPartitionInterface, "Table", link(table));
+    settle();
+    EXPECT_EQ(names(), others) << table.toStdString();
+  }
+  service.change(esp, kPartitionInterface, "Table", link(data));
+  service.change(data, kPartitionInterface, "Table", link(esp));
+  service.change(disk, kBlockInterface, "Drive", link("/nowhere"));
+  settle();
+  EXPECT_EQ(names(), (QStringList{"disk0", "disk1"}));
+  service.change(esp, kPartitionInterface, "Table", link(disk));
+  service.change(data, kPartitionInterface, "Table", link(disk));
+  service.change(data, kPartitionInterface, "Number", 1U);
+  settle();
+  EXPECT_EQ(names(), (QStringList{"disk0", "disk0s1", "disk1"})) << "two of one number";
 }

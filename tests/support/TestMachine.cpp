@@ -2,7 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 #include "Platform/simulated/MachineFile.h"
+
+QString toolTipOf(QWidget *widget) {
+  QHelpEvent event(QEvent::ToolTip, {5, 5}, widget->mapToGlobal(QPoint(5, 5)));
+  QCoreApplication::sendEvent(widget, &event);
+  return QToolTip::text();
+}
 
 Machine machineOf(const QByteArray &json) {
   const auto result = readMachineFile(json);

@@ -37,6 +37,9 @@ class TestPlatform {
   CurrentPlatform current;
 };
 
+/// What it shows under a resting pointer.
+QString toolTipOf(QWidget *widget);
+
 class TestMachine : public TestPlatform, public Program {
  public:
   explicit TestMachine(const QByteArray &json) : TestPlatform(json), Program(platform) {}
