@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include "Platform/ThisMachine.h"
+#include "support/VolumeNews.h"
 
 void DiskTest::SetUp() {
   if (!DiskLab::isHere()) GTEST_SKIP() << "not in a disk laboratory";
@@ -30,17 +31,7 @@ void DiskTest::TearDown() {
 void DiskTest::startPlatform() {
   platform = makePlatform();
   events.clear();
-  observe(kNSWorkspaceDidMountNotification, "+");
-  observe(kNSWorkspaceDidUnmountNotification, "-");
-  observe(kNSWorkspaceDidRenameVolumeNotification, "~");
-}
-
-void DiskTest::observe(const QString &name, const QString &sign) {
-  platform->workspaceNotificationCenter().addObserver(
-      &_observer, name, [this, sign](const Notification &note) {
-        const QVariant path = note.userInfo.value(kNSDevicePathKey);
-        events << (path.isValid() ? sign + path.toString() : QStringLiteral("changed"));
-      });
+  noteVolumeNews(platform->workspaceNotificationCenter(), _observer, events);
 }
 
 QStringList DiskTest::volumeEvents() const {

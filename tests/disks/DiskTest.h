@@ -48,8 +48,7 @@ class DiskTest : public testing::Test {
   DissenterStatus unmount(const QString &name,
                           DiskService::UnmountOption option = DiskService::UnmountOption::Default);
 
-  /// "+PATH", "-PATH" or "~PATH" for a mount, an unmount or a rename; "changed" for an event
-  /// without a path.
+  /// As support/VolumeNews.h notes them.
   QStringList events;
   /// Those with a path.
   QStringList volumeEvents() const;
@@ -58,7 +57,6 @@ class DiskTest : public testing::Test {
 
  private:
   DissenterStatus answerTo(const std::function<void(DiskService::Completion)> &request);
-  void observe(const QString &name, const QString &sign);
 
   QObject _observer;
   QStringList _disks;

@@ -111,7 +111,8 @@ TEST_F(RequestsOfTheService, WaitForAPersonsPasswordForAsLongAsItTakes) {
   service.take("Unmount");
   const auto options = qdbus_cast<QVariantMap>(service.take("Unmount").arguments().value(0));
   EXPECT_EQ(options.value("force"), true);
-  if (callsInTime == 0) GTEST_SKIP() << "Qt has found the bus library in another way";
+  if (callsInTime + callsWithoutTimeOut == 0)
+    GTEST_SKIP() << "Qt has found the bus library in another way";
   EXPECT_EQ(callsWithoutTimeOut, 3);
 }
 

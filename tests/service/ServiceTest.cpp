@@ -1,18 +1,12 @@
 #include "service/ServiceTest.h"
 
 #include "support/Files.h"
+#include "support/VolumeNews.h"
 
 ServiceTest::ServiceTest() {
   writeFile(folder.filePath("mountinfo"),
             "30 1 8:18 / " + mountPoint.toUtf8() + " rw - ext4 /dev/sda2 rw\n");
-  for (const auto &[name, sign] : {std::pair(kNSWorkspaceDidMountNotification, "+"),
-                                   {kNSWorkspaceDidUnmountNotification, "-"},
-                                   {kNSWorkspaceDidRenameVolumeNotification, "~"}}) {
-    workspace.addObserver(&_observer, name, [this, sign = QString(sign)](const auto &note) {
-      const QVariant path = note.userInfo.value(kNSDevicePathKey);
-      events << (path.isValid() ? sign + path.toString() : QStringLiteral("changed"));
-    });
-  }
+  noteVolumeNews(workspace, _observer, events);
 }
 
 ServiceTest::~ServiceTest() {

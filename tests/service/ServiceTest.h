@@ -55,8 +55,7 @@ class ServiceTest : public testing::Test {
   QDBusConnection connection = QDBusConnection::connectToBus(bus.address(), "program");
   NotificationCenter workspace;
   std::unique_ptr<LinuxDiskService> disks;
-  /// "+PATH", "-PATH" or "~PATH" for a mount, an unmount or a rename; "changed" for an event
-  /// without a path.
+  /// As support/VolumeNews.h notes them.
   QStringList events;
 
  private:
