@@ -83,15 +83,17 @@ TEST(RowActions, WhileTheServiceWorksTheRowIsBusyAndInputIsLost) {
   EXPECT_EQ(machine.interface.showAllDisksCheck()->state(), CheckBox::kOff);
 }
 
-TEST(RowActions, MessagesWaitUntilTheActionIsOver) {
-  TestMachine machine(slowMachine(R"("mount": 49165)"));
+TEST(RowActions, MessagesWaitUntilTheActionIsOverAndItsRefusalStaysRed) {
+  TestMachine machine(slowMachine(R"("unmount": 49165)"));
+  machine.click(machine.mountButton(0));
   later([&] {
     machine.platform.rename("disk0s1", "Other");
     machine.delegate.showPopover();  // queues the clearing of the status line
   });
   machine.click(machine.mountButton(0));
   EXPECT_EQ(machine.statusColor(), TextColor::Red);
-  EXPECT_EQ(machine.status(), "mount failed for disk0s1, status Permission denied");
+  EXPECT_EQ(machine.status(), "umount failed for disk0s1, reason: Permission denied");
+  EXPECT_EQ(machine.statusColor(), TextColor::Red);
 }
 
 TEST(RowActions, TitlesAreReadBackWordByWord) {
