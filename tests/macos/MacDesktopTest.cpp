@@ -23,7 +23,7 @@ TEST_F(MacDesktop, FollowsTheInterfaceStyle) {
   fake::serve();
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(desktop->interfaceStyle(), "Dark");
-  mac.globalPreferences = {{"AppleInterfaceStyle", fake::Array{"Dark"}}};
+  mac.globalPreferences = {{"AppleInterfaceStyle", fake::Dictionary{}}};
   EXPECT_FALSE(desktop->interfaceStyle().isValid());
 }
 

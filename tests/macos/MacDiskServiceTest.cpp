@@ -52,6 +52,8 @@ TEST_F(MacDisks, ARequestIsAnsweredOnceOrEndsWithThePlatform) {
     mac.onMount(kEsp) = each.answer;
     answers.clear();
     service().mount(kEsp, "/Volumes/Elsewhere", answer());
+    fake::serve(fake::Mode::ModalPanel);
+    EXPECT_EQ(answers.empty(), each.answer.when != When::InsideTheCall);
     fake::serve();
     EXPECT_EQ(answers, each.expected);
     if (each.answer.when == When::WhenTheDiskHasVanished) SetUp();
@@ -89,7 +91,7 @@ TEST_F(MacDisks, AServiceThatIsNotThereIsNotReady) {
 
 TEST_F(MacDisks, ValuesOfAnyTypeAreTakenAsTheyAre) {
   mac.plug("disk9", {{"DAMediaName", 7},
-                     {"DAMediaContent", fake::Array{"GUID_partition_scheme"}},
+                     {"DAMediaContent", fake::Dictionary{}},
                      {"DAMediaIcon", "no dictionary"},
                      {"DAMediaUUID", fake::Uuid{"0E2F0B4C-1111-4C4C-8D8D-121212121212"}},
                      {"DAVolumeUUID", "no UUID"},

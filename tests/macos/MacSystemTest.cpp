@@ -26,11 +26,11 @@ TEST_F(MacSystem, MediaAreThoseOfTheRegistryThatHaveAName) {
 }
 
 TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
-  mac.loginItems = {{std::nullopt}, {"/Applications/Other.app"}, {mac.mainBundle}};
+  mac.loginItems = {std::nullopt, "/Applications/Other.app", mac.mainBundle};
   const auto places = [&] {
     QStringList list;
     for (const auto &item : mac.loginItems) {
-      list += QString::fromStdString(item.location.value_or("?"));
+      list += QString::fromStdString(item.value_or("?"));
     }
     return list;
   };
@@ -58,7 +58,7 @@ TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
 }
 
 TEST_F(MacSystem, PreferencesAreTheProgramsOwnAndMayBeOfAnyType) {
-  mac.preferences = {{"list", fake::Array{}}, {"text", "yes"}};
+  mac.preferences = {{"list", fake::Dictionary{}}, {"text", "yes"}};
   start();
   UserDefaults &defaults = platform->userDefaults();
   EXPECT_FALSE(defaults.object("list").isValid());

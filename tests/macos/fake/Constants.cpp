@@ -2,59 +2,37 @@
 // on unless it is the service's own key.
 
 #include <CoreServices/CoreServices.h>
-#include <DiskArbitration/DiskArbitration.h>
 #include <IOKit/IOKitLib.h>
 
-#include "macos/fake/Values.h"
-
-using namespace fake;
+#include "macos/fake/World.h"
 
 namespace {
 
-/// "kDADiskDescriptionMediaNameKey" stands for "DAMediaName".
-std::string textFor(std::string name) {
-  const std::string prefix = "kDADiskDescription";
-  if (!name.starts_with(prefix)) return name;
-  return "DA" + name.substr(prefix.size(), name.size() - prefix.size() - std::string("Key").size());
+using namespace fake;
+
+/// "DAMediaName" of "MediaNameKey".
+Object *keyOf(const std::string &name) {
+  return makeConstant("CFString", "DA" + name.substr(0, name.size() - std::string("Key").size()));
+}
+
+Object *constant(const std::string &name) {
+  const std::string keys = "kDADiskDescription";
+  const std::string watches = keys + "Watch";
+  if (name.starts_with("kCFBoolean")) return makeConstant("CFBoolean", name == "kCFBooleanTrue");
+  if (name.starts_with(watches)) {
+    Object *const array = makeConstant("CFArray");
+    array->holds.push_back(keyOf(name.substr(watches.size()) + "Key"));
+    return array;
+  }
+  return name.starts_with(keys) ? keyOf(name.substr(keys.size())) : makeConstant("CFString", name);
 }
 
 template <class Reference>
-Reference constant(const char *name);
-
-template <>
-CFStringRef constant<CFStringRef>(const char *name) {
-  return as<CFStringRef>(keepForever(std::make_unique<String>(textFor(name))));
-}
-
-template <>
-CFBooleanRef constant<CFBooleanRef>(const char *name) {
-  return as<CFBooleanRef>(
-      keepForever(std::make_unique<Bool>(std::string(name) == "kCFBooleanTrue")));
-}
-
-/// "kDADiskDescriptionWatchVolumePath" holds the key for the path.
-template <>
-CFArrayRef constant<CFArrayRef>(const char *name) {
-  auto array = std::make_unique<ArrayObject>();
-  const std::string watched =
-      std::string(name).substr(std::string("kDADiskDescriptionWatch").size());
-  array->holds.push_back(keepForever(std::make_unique<String>("DA" + watched)));
-  return as<CFArrayRef>(keepForever(std::move(array)));
-}
-
-template <>
-LSSharedFileListItemRef constant<LSSharedFileListItemRef>(const char *name) {
-  return as<LSSharedFileListItemRef>(keepForever(std::make_unique<String>(name)));
-}
-
-template <>
-CFAllocatorRef constant<CFAllocatorRef>(const char *) {
-  return nullptr;
-}
-
-template <>
-mach_port_t constant<mach_port_t>(const char *) {
-  return 0;
+Reference constantOf(const char *name) {
+  constexpr bool isNull =
+      std::is_integral_v<Reference> || std::is_same_v<Reference, CFAllocatorRef>;
+  if constexpr (!isNull) return as<Reference>(constant(name));
+  return {};
 }
 
 }  // namespace
@@ -63,6 +41,6 @@ mach_port_t constant<mach_port_t>(const char *) {
 #define INT(...)
 #define STR(...)
 #define FN(...)
-#define REF(type, name) type name = constant<std::remove_const_t<type>>(#name);
+#define REF(type, name) type name = constantOf<std::remove_const_t<type>>(#name);
 #include "macos/api/api-unverified.def"
 #include "macos/api/api-verified.def"

@@ -1,202 +1,203 @@
-#include "macos/fake/DiskArbitration.h"
+// Sessions with the disk service, and what it tells them and is asked.
 
-#include <algorithm>
+#include "macos/fake/World.h"
 
-#include "macos/fake/Values.h"
-
-namespace fake {
+using namespace fake;
 
 namespace {
 
-using Kind = Registration::Kind;
+using When = Answer::When;
 
-void call(Session &session, const Registration &registration, const DiskEntry &last,
-          const std::set<std::string> &changed) {
-  const DiskEntry *const present = entryOf(last.name);
-  auto *const disk = make<Disk>("a callback", &session, last.name);
-  disk->snapshot = (present == nullptr ? last : *present).description;
-  disk->hasMedia = last.description.contains("DAMediaBSDName");
-  const auto ref = as<DADiskRef>(disk);
-  if (registration.kind == Kind::Changed) {
-    // Texts of their own, as they come out of a message: not the constants themselves.
-    Object *const keys = objectOf(Array(changed.begin(), changed.end()), "a callback");
-    reinterpret_cast<DADiskDescriptionChangedCallback>(registration.callback)(
-        ref, as<CFArrayRef>(keys), registration.context);
-    release(*keys);
-  } else {
-    reinterpret_cast<DADiskAppearedCallback>(registration.callback)(ref, registration.context);
+struct Disk : Object {
+  Disk(Session *owner, const std::string &bsdName, const Dictionary &description = {})
+      : Object("DADisk", bsdName), session(owner), last(description) {
+    ++owner->references;
+    holds.push_back(owner);
   }
-  release(*disk);
-}
-
-void postTo(Session &session, const std::shared_ptr<Registration> &registration,
-            const DiskEntry &entry, const std::set<std::string> &changed = {}) {
-  const std::weak_ptr<Registration> stillRegistered = registration;
-  post({[&session](const std::string &mode) { return session.isServedIn(mode); },
-        [&session, stillRegistered, entry, changed] {
-          if (const auto live = stillRegistered.lock()) call(session, *live, entry, changed);
-        }});
-}
-
-std::set<std::string> watchedAmong(const std::set<std::string> &changed,
-                                   const Registration &registration) {
-  std::set<std::string> result;
-  for (const std::string &key : changed) {
-    if (!registration.watched.has_value() || registration.watched->contains(key)) {
-      result.insert(key);
-    }
+  /// Whoever holds on to the text that DADiskGetBSDName gave has it spoilt.
+  void end() override {
+    for (char &each : std::get<std::string>(value)) each = '?';
   }
-  return result;
+  const std::string &name() const { return std::get<std::string>(value); }
+
+  Session *session;
+  Dictionary last;  // what is known of it when it is not there any more
+};
+
+DADiskRef makeDisk(Session *session, const std::string &name) {
+  return session == nullptr ? nullptr : as<DADiskRef>(keep(std::make_unique<Disk>(session, name)));
 }
 
-Session *sessionOrNull(DASessionRef session, const char *function = __builtin_FUNCTION()) {
-  return session == nullptr ? nullptr : checked<Session>(session, function);
+/// The disk of a callback is gone after it.
+template <class Call>
+void lendDisk(Session *session, const DiskEntry &entry, Call call) {
+  Object *const disk = keep(std::make_unique<Disk>(session, entry.name, entry.description));
+  call(as<DADiskRef>(disk));
+  release(disk);
 }
 
-template <class Change>
-void changeModes(DASessionRef ref, CFRunLoopRef loop, CFStringRef mode, Change change) {
-  Session *const session = sessionOrNull(ref, "DASession(Un)schedule");
-  const auto name = textOf(mode);
-  if (loop != CFRunLoopGetMain()) report("A DASession is not on the main run loop");
-  if (session != nullptr && name.has_value()) change(session->modes, *name);
+void tell(const std::shared_ptr<Listener> &listener, const DiskEntry &entry) {
+  post(listener->session, [entry, known = std::weak_ptr(listener)] {
+    if (const auto live = known.lock()) live->call(entry);
+  });
 }
 
-void addRegistration(DASessionRef ref, CFDictionaryRef match, Registration registration) {
-  Session *const session = sessionOrNull(ref, "DARegister...Callback");
-  if (session == nullptr) return;
-  if (match != nullptr) report("DARegister...Callback: matching is not known here");
-  session->registrations.push_back(std::make_shared<Registration>(std::move(registration)));
-  if (session->registrations.back()->kind != Kind::Appeared) return;
-  for (const DiskEntry &each : world().disks) {
-    postTo(*session, session->registrations.back(), each);
+/// Calls with the disk, perhaps something else, and the context.
+template <class Callback, class... More>
+std::shared_ptr<Listener> add(DASessionRef reference, CFDictionaryRef match,
+                              const std::string &topic, Callback callback, void *context,
+                              More... more) {
+  expect(match == nullptr, "DARegister...Callback");
+  Session *const session = checked<Session>(reference, "DASession", "DARegister...Callback");
+  const auto call = [=](const DiskEntry &entry) {
+    lendDisk(session, entry, [=](DADiskRef disk) { callback(disk, more..., context); });
+  };
+  return world().listeners.emplace_back(
+      new Listener{session, topic, reinterpret_cast<const void *>(callback), context, call});
+}
+
+void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, void *context) {
+  Object *const dissenter = status == 0 ? nullptr : make("DADissenter", std::int64_t{status});
+  callback(disk, as<DADissenterRef>(dissenter), context);
+  release(dissenter);
+}
+
+/// Takes a request, to be carried out and answered when the test has said.
+void take(DADiskRef reference, Answer DiskEntry::*answer,
+          const std::function<DAReturn(const DiskEntry &)> &attempt, DADiskMountCallback callback,
+          void *context) {
+  const Disk *const disk = checked<Disk>(reference, "DADisk", "A request");
+  if (disk == nullptr) return;
+  const auto carryOut = [name = disk->name(), attempt]() -> DAReturn {
+    const DiskEntry *const entry = entryOf(name);
+    return entry == nullptr ? kDAReturnNotFound : attempt(*entry);
+  };
+  const DiskEntry *const entry = entryOf(disk->name());
+  const When when = entry == nullptr ? When::InsideTheCall : (entry->*answer).when;
+  if (when == When::InsideTheCall) {
+    complete(reference, carryOut(), callback, context);
+    checked(reference, "DADisk", "A request that called back");
+  } else if (when != When::Never) {
+    // What the service does, it does however the program's run loop runs.
+    post(nullptr, [=, session = disk->session, known = *entry] {
+      if (when == When::WhenTheDiskHasVanished) Machine::current().pull(known.name);
+      post(session, [=, status = carryOut()] {
+        lendDisk(session, known, [=](DADiskRef it) { complete(it, status, callback, context); });
+      });
+    });
   }
 }
 
 }  // namespace
 
-Session::Session() : Object(kType) {
-  world().sessions.push_back(this);
-}
-
 void Session::end() {
   if (!modes.empty()) report("A DASession went while it was scheduled in " + *modes.begin());
-  std::erase(world().sessions, this);
   modes.clear();
-  registrations.clear();
+  std::erase_if(world().listeners, [this](const auto &each) { return each->session == this; });
 }
 
-bool Session::isServedIn(const std::string &mode) const {
-  return modes.contains(mode) || (modes.contains("kCFRunLoopCommonModes") && isCommonMode(mode));
-}
-
-Disk::Disk(Session *owner, std::string bsdName)
-    : Object(kType), session(owner), name(std::move(bsdName)) {
-  retain(*owner);
-  holds.push_back(owner);
-}
-
-void Disk::end() {
-  std::fill(name.begin(), name.end(), '?');
-}
-
-void announce(Kind kind, const DiskEntry &entry, const std::set<std::string> &changed) {
-  for (Session *session : world().sessions) {
-    for (const auto &each : session->registrations) {
-      const std::set<std::string> keys = watchedAmong(changed, *each);
-      if (each->kind == kind && (kind != Kind::Changed || !keys.empty())) {
-        postTo(*session, each, entry, keys);
-      }
-    }
+void fake::announce(const std::set<std::string> &topics, const DiskEntry &entry) {
+  for (const auto &each : world().listeners) {
+    if (topics.contains(each->topic)) tell(each, entry);
   }
 }
 
-}  // namespace fake
-
-using namespace fake;
-
 DASessionRef DASessionCreate(CFAllocatorRef) {
-  return Machine::current().hasDiskService ? as<DASessionRef>(make<Session>(__func__)) : nullptr;
+  if (!Machine::current().hasDiskService) return nullptr;
+  return as<DASessionRef>(keep(std::make_unique<Session>()));
 }
 
-void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
-  changeModes(session, loop, mode, [](auto &modes, const auto &name) { modes.insert(name); });
+void DASessionScheduleWithRunLoop(DASessionRef reference, CFRunLoopRef loop, CFStringRef mode) {
+  Session *const session = checked<Session>(reference, "DASession");
+  if (checked(loop, "CFRunLoop") && session != nullptr) session->modes.insert(textOf(mode));
   wake();
 }
 
-void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
-  changeModes(session, loop, mode, [](auto &modes, const auto &name) { modes.erase(name); });
+void DASessionUnscheduleFromRunLoop(DASessionRef reference, CFRunLoopRef loop, CFStringRef mode) {
+  Session *const session = checked<Session>(reference, "DASession");
+  if (checked(loop, "CFRunLoop") && session != nullptr) session->modes.erase(textOf(mode));
 }
 
 DADiskRef DADiskCreateFromBSDName(CFAllocatorRef, DASessionRef session, const char *name) {
-  Session *const object = sessionOrNull(session);
-  if (object == nullptr || name == nullptr) return nullptr;
-  return as<DADiskRef>(make<Disk>(__func__, object, name));
+  return makeDisk(checked<Session>(session, "DASession"), name);
 }
 
-DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, DASessionRef session, CFURLRef path) {
-  Session *const object = sessionOrNull(session);
-  const auto *const url = path == nullptr ? nullptr : checked<Url>(path);
-  if (object == nullptr || url == nullptr) return nullptr;
+DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, DASessionRef session, CFURLRef url) {
+  const std::string path = pathOf(url);
   for (const DiskEntry &each : world().disks) {
-    if (Machine::current().mountPoint(each.name) != url->path()) continue;
-    auto *const disk = make<Disk>(__func__, object, each.name);
-    disk->hasMedia = each.description.contains("DAMediaBSDName");
-    return as<DADiskRef>(disk);
+    const bool isIt = Machine::current().mountPoint(each.name) == path;
+    if (isIt) return makeDisk(checked<Session>(session, "DASession"), each.name);
   }
   return nullptr;
 }
 
-const char *DADiskGetBSDName(DADiskRef disk) {
-  const auto *const object = disk == nullptr ? nullptr : checked<Disk>(disk);
-  return object == nullptr || !object->hasMedia ? nullptr : object->name.c_str();
+const char *DADiskGetBSDName(DADiskRef reference) {
+  const Disk *const disk = checked<Disk>(reference, "DADisk");
+  if (disk == nullptr || disk->name().starts_with('/')) return nullptr;  // without media
+  return disk->name().c_str();
 }
 
-CFDictionaryRef DADiskCopyDescription(DADiskRef disk) {
-  const auto *const object = disk == nullptr ? nullptr : checked<Disk>(disk);
-  if (object == nullptr) return nullptr;
-  const DiskEntry *const entry = entryOf(object->name);
-  if (!object->snapshot.has_value() && entry == nullptr) return nullptr;
-  return as<CFDictionaryRef>(objectOf(
-      object->snapshot.value_or(entry == nullptr ? Dictionary() : entry->description), __func__));
+CFDictionaryRef DADiskCopyDescription(DADiskRef reference) {
+  const Disk *const disk = checked<Disk>(reference, "DADisk");
+  if (disk == nullptr) return nullptr;
+  const DiskEntry *const entry = entryOf(disk->name());
+  const Dictionary &description = entry == nullptr ? disk->last : entry->description;
+  return description.empty() ? nullptr : as<CFDictionaryRef>(objectOf(description));
 }
 
 DAReturn DADissenterGetStatus(DADissenterRef dissenter) {
-  const auto *const object = checked<Dissenter>(dissenter);
-  return object == nullptr ? kDAReturnError : object->status;
+  return static_cast<DAReturn>(valueOf<std::int64_t>(dissenter, "DADissenter"));
 }
 
 void DARegisterDiskAppearedCallback(DASessionRef session, CFDictionaryRef match,
                                     DADiskAppearedCallback callback, void *context) {
-  addRegistration(session, match,
-                  {Kind::Appeared, {}, reinterpret_cast<void *>(callback), context});
+  const auto added = add(session, match, "appeared", callback, context);
+  for (const DiskEntry &each : world().disks) tell(added, each);
 }
 
 void DARegisterDiskDisappearedCallback(DASessionRef session, CFDictionaryRef match,
                                        DADiskDisappearedCallback callback, void *context) {
-  addRegistration(session, match,
-                  {Kind::Disappeared, {}, reinterpret_cast<void *>(callback), context});
+  add(session, match, "disappeared", callback, context);
 }
 
 void DARegisterDiskDescriptionChangedCallback(DASessionRef session, CFDictionaryRef match,
                                               CFArrayRef watch,
                                               DADiskDescriptionChangedCallback callback,
                                               void *context) {
-  std::optional<std::set<std::string>> watched;
-  if (watch != nullptr) {
-    watched.emplace();
-    for (CFIndex index = 0; index < CFArrayGetCount(watch); ++index) {
-      watched->insert(textOf(CFArrayGetValueAtIndex(watch, index)).value_or(""));
-    }
-  }
-  addRegistration(session, match,
-                  {Kind::Changed, watched, reinterpret_cast<void *>(callback), context});
+  add(session, match, textOf(CFArrayGetValueAtIndex(watch, 0)), callback, context, watch);
 }
 
 void DAUnregisterCallback(DASessionRef session, void *callback, void *context) {
-  Session *const object = sessionOrNull(session);
-  if (object == nullptr) return;
-  const auto count = std::erase_if(object->registrations, [&](const auto &each) {
-    return each->callback == callback && each->context == context;
+  const Session *const object = checked<Session>(session, "DASession");
+  const auto count = std::erase_if(world().listeners, [=](const auto &each) {
+    return each->session == object && each->callback == callback && each->context == context;
   });
   if (count == 0) report("DAUnregisterCallback: no such callback is registered");
+}
+
+void DADiskMountWithArguments(DADiskRef disk, CFURLRef url, DADiskMountOptions,
+                              DADiskMountCallback callback, void *context, CFStringRef *) {
+  const auto path = url == nullptr ? std::nullopt : std::optional(pathOf(url));
+  const auto attempt = [path](const DiskEntry &entry) -> DAReturn {
+    if (entry.onMount.status != 0) return static_cast<DAReturn>(entry.onMount.status);
+    if (!entry.description.contains("DAVolumeKind")) return kDAReturnUnsupported;
+    if (entry.description.contains("DAVolumePath")) return kDAReturnBusy;
+    Machine &mac = Machine::current();
+    mac.mount(entry.name, path.value_or(mac.volumesFolder + "/" + entry.name));
+    return kDAReturnSuccess;
+  };
+  take(disk, &DiskEntry::onMount, attempt, callback, context);
+}
+
+void DADiskUnmount(DADiskRef disk, DADiskUnmountOptions options, DADiskUnmountCallback callback,
+                   void *context) {
+  const auto attempt = [options](const DiskEntry &entry) -> DAReturn {
+    if (!entry.description.contains("DAVolumePath")) return kDAReturnNotMounted;
+    const auto refusal = static_cast<DAReturn>(entry.onUnmount.status);
+    const bool isOverruled = options == kDADiskUnmountOptionForce && refusal == kDAReturnBusy;
+    if (refusal != kDAReturnSuccess && !isOverruled) return refusal;
+    Machine::current().unmount(entry.name);
+    return kDAReturnSuccess;
+  };
+  take(disk, &DiskEntry::onUnmount, attempt, callback, context);
 }

@@ -1,116 +1,61 @@
 // The disks of the machine, and what happens to them.
 
-#include <algorithm>
 #include <filesystem>
+#include <stdexcept>
 
-#include "macos/fake/DiskArbitration.h"
+#include "macos/fake/World.h"
 
-namespace fake {
+using namespace fake;
 
 namespace {
 
-using Kind = Registration::Kind;
-
 DiskEntry &existing(const std::string &name) {
   if (DiskEntry *entry = entryOf(name)) return *entry;
-  report("The test speaks of a disk that is not there: " + name);
-  static DiskEntry none;
-  return none;
-}
-
-/// Null when there is none, or one of another type.
-template <class T>
-const T *valueAt(const DiskEntry &entry, const std::string &key) {
-  const auto place = entry.description.find(key);
-  return place == entry.description.end() ? nullptr : std::get_if<T>(&place->second);
-}
-
-void removeFolder(const DiskEntry &entry) {
-  std::error_code isInUse;
-  const auto *const path = valueAt<Path>(entry, "DAVolumePath");
-  if (entry.hasMadeFolder && path != nullptr) std::filesystem::remove(path->text, isInUse);
-}
-
-/// The unit is the number behind "disk".
-void addNames(Dictionary &description, const std::string &name) {
-  description.try_emplace("DAMediaBSDName", name);
-  if (!name.starts_with("disk")) return;
-  description.try_emplace("DAMediaBSDUnit", std::int64_t{std::atoi(name.c_str() + 4)});
+  throw std::invalid_argument("The test speaks of a disk that is not there: " + name);
 }
 
 }  // namespace
 
-DiskEntry *entryOf(const std::string &name) {
-  auto &disks = world().disks;
-  const auto place = std::find_if(disks.begin(), disks.end(),
-                                  [&name](const DiskEntry &each) { return each.name == name; });
-  return place == disks.end() ? nullptr : &*place;
-}
-
-void putAt(DiskEntry &entry, const std::string &path) {
-  std::error_code notHere;
-  entry.hasMadeFolder = std::filesystem::create_directory(path, notHere);
-  entry.description["DAVolumePath"] = Path{path};
-  announce(Kind::Changed, entry, {"DAVolumePath"});
-}
-
-void takeAway(DiskEntry &entry) {
-  if (!entry.description.contains("DAMediaBSDName")) {
-    Machine::current().pull(std::string(entry.name));
-    return;
+DiskEntry *fake::entryOf(const std::string &name) {
+  for (DiskEntry &each : world().disks) {
+    if (each.name == name) return &each;
   }
-  removeFolder(entry);
-  entry.description.erase("DAVolumePath");
-  announce(Kind::Changed, entry, {"DAVolumePath"});
-}
-
-std::string freeFolder(const DiskEntry &entry) {
-  const auto *const label = valueAt<std::string>(entry, "DAVolumeName");
-  std::string name = label == nullptr ? "Untitled" : *label;
-  std::replace(name.begin(), name.end(), '/', ':');
-  const std::string base = Machine::current().volumesFolder + "/" + name;
-  std::string path = base;
-  for (int number = 1; std::filesystem::exists(path); ++number) {
-    path = base + " " + std::to_string(number);
-  }
-  return path;
+  return nullptr;
 }
 
 void Machine::plug(const std::string &name, Dictionary description, Listing listing) {
-  addNames(description, name);
+  if (!name.starts_with('/')) description.try_emplace("DAMediaBSDName", name);
   world().disks.push_back({name, std::move(description), listing});
-  announce(Kind::Appeared, world().disks.back());
+  announce({"appeared"}, world().disks.back());
 }
 
 void Machine::plugVolumeWithoutMedia(const std::string &path) {
-  world().disks.push_back({path, {{"DAVolumePath", Path{path}}}, Listing::Absent});
-  announce(Kind::Appeared, world().disks.back());
+  plug(path, {{"DAVolumePath", Path{path}}}, Listing::Absent);
 }
 
 void Machine::pull(const std::string &name) {
-  removeFolder(existing(name));
-  announce(Kind::Disappeared, existing(name));
+  announce({"disappeared"}, existing(name));
   std::erase_if(world().disks, [&name](const DiskEntry &each) { return each.name == name; });
 }
 
 void Machine::mount(const std::string &name, const std::string &path) {
-  putAt(existing(name), path);
+  std::error_code notHere;
+  std::filesystem::create_directory(path, notHere);
+  existing(name).description["DAVolumePath"] = Path{path};
+  announce({"DAVolumePath"}, existing(name));
 }
 
 void Machine::unmount(const std::string &name) {
-  if (mountPoint(name).has_value()) takeAway(existing(name));
+  existing(name).description.erase("DAVolumePath");
+  announce({"DAVolumePath"}, existing(name));
 }
 
 void Machine::rename(const std::string &name, const std::string &volumeName,
                      const std::optional<std::string> &path) {
   DiskEntry &entry = existing(name);
   entry.description["DAVolumeName"] = volumeName;
-  std::set<std::string> changed = {"DAVolumeName"};
-  if (path.has_value()) {
-    entry.description["DAVolumePath"] = Path{*path};
-    changed.insert("DAVolumePath");
-  }
-  announce(Kind::Changed, entry, changed);
+  if (path.has_value()) entry.description["DAVolumePath"] = Path{*path};
+  announce({"DAVolumeName", path.has_value() ? "DAVolumePath" : ""}, entry);
 }
 
 Answer &Machine::onMount(const std::string &name) {
@@ -122,8 +67,6 @@ Answer &Machine::onUnmount(const std::string &name) {
 
 std::optional<std::string> Machine::mountPoint(const std::string &name) const {
   const DiskEntry *const entry = entryOf(name);
-  const auto *const path = entry == nullptr ? nullptr : valueAt<Path>(*entry, "DAVolumePath");
-  return path == nullptr ? std::nullopt : std::optional(path->text);
+  if (entry == nullptr || !entry->description.contains("DAVolumePath")) return std::nullopt;
+  return std::get<Path>(entry->description.at("DAVolumePath")).text;
 }
-
-}  // namespace fake

@@ -3,140 +3,80 @@
 #include <Block.h>
 #include <objc/runtime.h>
 
-#include <algorithm>
-#include <cstdlib>
-#include <cstring>
-#include <set>
-
 #include "macos/fake/World.h"
 
 void *_NSConcreteGlobalBlock[32];
 void *_NSConcreteStackBlock[32];
 
-namespace fake {
+using namespace fake;
+
+/// The token of a monitor. Its one reference goes with removeMonitor:.
+struct fake::Monitor : Object {
+  using Object::Object;
+  unsigned long long mask = 0;
+  std::string block;  // its bytes, a part of the shell: a handler may remove its own monitor
+};
 
 namespace {
-
-constexpr int kHasHelpers = 1 << 25;
-constexpr int kIsGlobal = 1 << 28;
-
-struct BlockDescriptor {
-  unsigned long reserved;
-  unsigned long size;
-  // Only in blocks with helpers.
-  void (*copy)(void *to, const void *from);
-  void (*dispose)(const void *block);
-};
 
 struct Block {
   void *isa;
   int flags;
   int reserved;
   void (*invoke)(const Block *self, id event);
-  const BlockDescriptor *descriptor;
+  const unsigned long *descriptor;  // something reserved, and the size
 };
 
-/// A global block serves as it is; another lives on the stack of its maker and is copied.
-Block *copyOf(Block *block) {
-  const bool isGlobal = (block->flags & kIsGlobal) != 0;
-  if (block->isa != (isGlobal ? _NSConcreteGlobalBlock : _NSConcreteStackBlock)) {
-    report("A block's flags and its class do not fit together.");
-  }
-  if (isGlobal) return block;
-  auto *const copy = static_cast<Block *>(std::malloc(block->descriptor->size));
-  std::memcpy(copy, block, block->descriptor->size);
-  if ((block->flags & kHasHelpers) != 0) block->descriptor->copy(copy, block);
-  return copy;
-}
-
-void destroy(Block *block) {
-  if ((block->flags & kIsGlobal) != 0) return;
-  if ((block->flags & kHasHelpers) != 0) block->descriptor->dispose(block);
-  std::free(block);
-}
-
-struct EventObject : Object {
-  static constexpr char kType[] = "NSEvent";
-  EventObject() : Object(kType) {}
-};
-
-}  // namespace
-
-/// The token of a monitor. Its one reference goes with removeMonitor:.
-struct Monitor : Object {
-  static constexpr char kType[] = "an event monitor";
-  Monitor(unsigned long long events, Block *handler)
-      : Object(kType), mask(events), block(copyOf(handler)) {}
-  ~Monitor() override { destroy(block); }
-  void end() override { std::erase(world().monitors, this); }
-
-  unsigned long long mask;
-  Block *block;  // lives on as a part of the shell: a handler may remove its own monitor
-};
-
-namespace {
-
-void *addMonitor(unsigned long long mask, void *block) {
+void *addMonitor(unsigned long long mask, const void *handler) {
   if (!Machine::current().allowsEventMonitors) return nullptr;
-  auto *const monitor =
-      make<Monitor>("addGlobalMonitorForEventsMatchingMask:", mask, static_cast<Block *>(block));
-  world().monitors.push_back(monitor);
-  return monitor;
-}
-
-void removeMonitor(const void *token) {
-  if (auto *monitor = checked<Monitor>(token, "removeMonitor:")) release(*monitor);
-}
-
-const char kClass[] = "NSEvent";
-
-/// Selectors are texts that are there once.
-const char *unique(const char *name) {
-  static std::set<std::string> names;
-  return names.insert(name).first->c_str();
+  const auto *const block = static_cast<const Block *>(handler);
+  const bool isOnStack = block->isa == _NSConcreteStackBlock && block->flags == 0;
+  if (!isOnStack) report("A block that is not what a plain one on the stack is");
+  auto monitor = std::make_unique<Monitor>("an event monitor");
+  monitor->mask = mask;
+  // It is not on its maker's stack any more when it is called.
+  monitor->block.assign(static_cast<const char *>(handler), block->descriptor[1]);
+  world().monitors.push_back(monitor.get());
+  return keep(std::move(monitor));
 }
 
 }  // namespace
 
 void Machine::sendEvent(Event event) {
   const auto present = world().monitors;
-  for (Monitor *each : present) {
+  for (const Monitor *each : present) {
     if (each->isGone() || (each->mask >> static_cast<int>(event) & 1) == 0) continue;
-    auto *const object = make<EventObject>("an event");
-    each->block->invoke(each->block, as<id>(object));
-    release(*object);
+    const auto *const block = reinterpret_cast<const Block *>(each->block.data());
+    block->invoke(block, nullptr);
   }
 }
 
-}  // namespace fake
-
-using namespace fake;
-
-Class objc_getClass(const char *name) {
-  return std::string(name) == kClass ? reinterpret_cast<Class>(const_cast<char *>(kClass))
-                                     : nullptr;
-}
+// A selector and a class are texts that are there once.
 
 SEL sel_registerName(const char *name) {
-  return reinterpret_cast<SEL>(const_cast<char *>(unique(name)));
+  static std::set<std::string> names;
+  return reinterpret_cast<SEL>(const_cast<char *>(names.insert(name).first->c_str()));
+}
+
+Class objc_getClass(const char *name) {
+  return reinterpret_cast<Class>(sel_registerName(name));
 }
 
 // Callers give it the type of the method that they mean; all arguments of those known here are
 // passed alike.
-extern "C" void *answerMessage(const void *receiver, const char *selector, std::uintptr_t first,
-                               void *second) __asm__("objc_msgSend");
+extern "C" void *answerMessage(const char *receiver, const char *selector, std::uintptr_t first,
+                               const void *second) __asm__("objc_msgSend");
 
-void *answerMessage(const void *receiver, const char *selector, std::uintptr_t first,
-                    void *second) {
-  if (receiver == nullptr) return nullptr;
-  const std::string name = selector;
-  if (receiver == kClass && name == "addGlobalMonitorForEventsMatchingMask:handler:") {
+void *answerMessage(const char *receiver, const char *selector, std::uintptr_t first,
+                    const void *second) {
+  const std::string message = std::string(receiver) + " " + selector;
+  if (message == "NSEvent addGlobalMonitorForEventsMatchingMask:handler:") {
     return addMonitor(first, second);
   }
-  if (receiver == kClass && name == "removeMonitor:") {
-    removeMonitor(reinterpret_cast<const void *>(first));
+  if (message == "NSEvent removeMonitor:") {
+    release(checked(reinterpret_cast<const void *>(first), "an event monitor"));
   } else {
-    report("unrecognized selector " + name);
+    report("unrecognized selector: " + message);
   }
   return nullptr;
 }

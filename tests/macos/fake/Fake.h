@@ -34,6 +34,7 @@ struct World;
 
 struct Path {
   std::string text;
+  std::string base = {};  // what it is relative to, with the last "/"; empty for a whole path
 };
 
 struct Uuid {
@@ -42,9 +43,8 @@ struct Uuid {
 
 /// What a property list or a disk description can hold.
 struct Value;
-using Array = std::vector<Value>;
 using Dictionary = std::map<std::string, Value>;
-using AnyValue = std::variant<std::string, bool, std::int64_t, Path, Uuid, Array, Dictionary>;
+using AnyValue = std::variant<std::string, bool, std::int64_t, Path, Uuid, Dictionary>;
 struct Value : AnyValue {
   using AnyValue::AnyValue;
 };
@@ -66,13 +66,6 @@ inline Answer refusedInside(std::uint32_t status) {
 /// How a disk shows in the registry of media; the disk service knows it in any case.
 enum class Listing { Named, Nameless, Unreadable, Absent };
 
-struct LoginItem {
-  std::optional<std::string> location;  // absent: it does not resolve
-  int number = nextNumber();            // which entry it is, for its life
-
-  static int nextNumber();
-};
-
 struct Process {
   int number;
   std::string name;  // empty: this user may not know
@@ -89,8 +82,6 @@ class Machine {
  public:
   Machine();
   ~Machine();
-  Machine(const Machine &) = delete;
-  Machine &operator=(const Machine &) = delete;
   static Machine &current();
 
   /// Adds a disk or a partition; its BSD name is added to the description, which is under the
@@ -118,15 +109,15 @@ class Machine {
   void sendEvent(Event event);
 
   // Read whenever the backend asks.
-  std::string volumesFolder = "/Volumes";
+  std::string volumesFolder = "/Volumes";  // where the service mounts by itself
   bool hasDiskService = true;
   bool hasMediaRegistry = true;
   Dictionary globalPreferences;
   Dictionary preferences;  // the program's own; written when it synchronizes
   bool hasLoginItemList = true;
   bool takesLoginItems = true;
-  std::vector<LoginItem> loginItems;
-  std::map<std::string, std::string> driverBundles;  // path by identifier
+  std::vector<std::optional<std::string>> loginItems;  // locations; absent: does not resolve
+  std::map<std::string, std::string> driverBundles;    // path by identifier
   std::string mainBundle = "/Applications/Keldra.app";
   bool allowsEventMonitors = true;
   std::map<std::string, std::uint32_t> fileSystemSubtypes;  // by mount point

@@ -2,7 +2,6 @@
 #include <IOKit/IOKitLib.h>
 #include <IOKit/storage/IOMedia.h>
 
-#include "macos/fake/Values.h"
 #include "macos/fake/World.h"
 
 using namespace fake;
@@ -11,79 +10,60 @@ namespace {
 
 constexpr kern_return_t kFailure = 5;
 
-struct Medium : Object {
-  static constexpr char kType[] = "io_registry_entry";
-  explicit Medium(DiskEntry shown) : Object(kType), entry(std::move(shown)) {}
-  std::string text() const override { return entry.name; }
-  DiskEntry entry;
-};
-
-struct Iterator : Object {
-  static constexpr char kType[] = "io_iterator";
-  Iterator() : Object(kType) {}
-  std::deque<DiskEntry> rest;
-};
-
-io_object_t numbered(Object *object) {
-  const auto number = static_cast<unsigned>(world().kernelObjects.size() + 1);
-  world().kernelObjects[number] = object;
-  return number;
+const void *referenceTo(io_object_t number) {
+  return reinterpret_cast<const void *>(std::uintptr_t{number});
 }
 
-/// What no number stands for is reported as NULL.
-Object *objectAt(io_object_t number) {
-  const auto place = world().kernelObjects.find(number);
-  return place == world().kernelObjects.end() ? nullptr : place->second;
+/// From now on the object goes by a number, as those of the kernel do.
+io_object_t numbered(Object *object) {
+  static io_object_t last = 0;
+  auto node = objects().extract(object);
+  node.key() = referenceTo(++last);
+  objects().insert(std::move(node));
+  return last;
 }
 
 }  // namespace
 
 CFMutableDictionaryRef IOServiceMatching(const char *name) {
-  return as<CFMutableDictionaryRef>(
-      objectOf(Dictionary{{"IOProviderClass", std::string(name)}}, __func__));
+  return as<CFMutableDictionaryRef>(objectOf(Dictionary{{name, true}}));
 }
 
 kern_return_t IOServiceGetMatchingServices(mach_port_t, CFDictionaryRef matching,
                                            io_iterator_t *existing) {
-  auto *const dictionary = checked<DictionaryObject>(matching);
-  if (dictionary == nullptr) return kFailure;
-  const bool isForMedia = dictionary->values.contains("IOProviderClass") &&
-                          dictionary->values["IOProviderClass"]->text() == kIOMediaClass;
-  release(*dictionary);  // also when the call fails
+  expect(valueOf<Dictionary>(matching, "CFDictionary").contains(kIOMediaClass));
+  CFRelease(matching);  // also when the call fails
   if (!Machine::current().hasMediaRegistry) return kFailure;
-  auto *const iterator = make<Iterator>(__func__);
+  Object *const iterator = make("io_iterator");
   for (const DiskEntry &each : world().disks) {
-    if (isForMedia && each.listing != Listing::Absent) iterator->rest.push_back(each);
+    if (each.listing == Listing::Absent) continue;
+    iterator->holds.push_back(make("io_registry_entry", each.name));
   }
   *existing = numbered(iterator);
   return KERN_SUCCESS;
 }
 
 io_object_t IOIteratorNext(io_iterator_t number) {
-  auto *const iterator = checked<Iterator>(objectAt(number));
-  if (iterator == nullptr || iterator->rest.empty()) return 0;
-  auto *const medium = make<Medium>(__func__, iterator->rest.front());
-  iterator->rest.pop_front();
+  Object *const iterator = checked(referenceTo(number), "io_iterator");
+  if (iterator == nullptr || iterator->holds.empty()) return 0;
+  Object *const medium = iterator->holds.front();
+  iterator->holds.erase(iterator->holds.begin());
   return numbered(medium);
 }
 
 kern_return_t IORegistryEntryCreateCFProperties(io_registry_entry_t number,
                                                 CFMutableDictionaryRef *properties, CFAllocatorRef,
                                                 IOOptionBits) {
-  const auto *const medium = checked<Medium>(objectAt(number));
-  if (medium == nullptr || medium->entry.listing == Listing::Unreadable) return kFailure;
-  Dictionary values = {{"Leaf", true}};
-  if (medium->entry.listing == Listing::Named) values[kIOBSDNameKey] = medium->entry.name;
-  *properties = as<CFMutableDictionaryRef>(objectOf(values, __func__));
+  const DiskEntry *const entry =
+      entryOf(valueOf<std::string>(referenceTo(number), "io_registry_entry"));
+  if (entry == nullptr || entry->listing == Listing::Unreadable) return kFailure;
+  Dictionary values;
+  if (entry->listing == Listing::Named) values[kIOBSDNameKey] = entry->name;
+  *properties = as<CFMutableDictionaryRef>(objectOf(values));
   return KERN_SUCCESS;
 }
 
 kern_return_t IOObjectRelease(io_object_t number) {
-  Object *const object = objectAt(number);
-  if (object == nullptr) {
-    report("IOObjectRelease was given " + std::to_string(number) + ", which is no object");
-    return kFailure;
-  }
-  release(*object);
+  release(checked(referenceTo(number)));
   return KERN_SUCCESS;
 }

@@ -1,103 +1,109 @@
-#include "macos/fake/Objects.h"
-
-#include <CoreFoundation/CoreFoundation.h>
 #include <gtest/gtest.h>
 
-#include "macos/fake/Values.h"
 #include "macos/fake/World.h"
 
-namespace fake {
+using namespace fake;
 
 namespace {
 
-using ObjectTable = std::unordered_map<const void *, std::unique_ptr<Object>>;
-
-ObjectTable &constants() {
-  static ObjectTable table;
-  return table;
-}
-
-Object *findIn(const ObjectTable &table, const void *reference) {
-  const auto place = table.find(reference);
-  return place == table.end() ? nullptr : place->second.get();
-}
+Machine *currentMachine = nullptr;
 
 }  // namespace
 
 std::string Object::description() const {
-  return std::string(type) + " \"" + text() + "\" (made by " + maker + ")";
+  const auto *const text = std::get_if<std::string>(&value);
+  return std::string(type) + " \"" + (text == nullptr ? "" : *text) + "\" (made by " + maker + ")";
 }
 
-void report(const std::string &fault) {
+std::unordered_map<const void *, std::unique_ptr<Object>> &fake::objects() {
+  static std::unordered_map<const void *, std::unique_ptr<Object>> table;
+  return table;
+}
+
+void fake::report(const std::string &fault) {
   ADD_FAILURE() << fault;
 }
 
-Object *find(const void *reference) {
-  Object *const constant = findIn(constants(), reference);
-  return constant != nullptr ? constant : findIn(world().objects, reference);
+void fake::expect(bool isKnown, const char *function) {
+  if (!isKnown) report(std::string(function) + ": only what the program uses is known here");
 }
 
-void retain(Object &object) {
-  if (!object.isConstant) ++object.references;
-}
-
-void release(Object &object) {
-  if (object.isConstant) return;
-  if (object.isGone()) {
-    report(object.description() + " was released once too often");
-    return;
+void fake::release(Object *object) {
+  if (object == nullptr) return;
+  if (object->isConstant || object->isGone()) {
+    report(object->description() + " was released once too often");
+  } else if (--object->references == 0) {
+    object->end();
+    for (Object *each : object->holds) release(each);
   }
-  if (--object.references > 0) return;
-  object.end();
-  for (Object *each : object.holds) release(*each);
 }
 
-Object *keep(std::unique_ptr<Object> object, const char *maker) {
+Object *fake::keep(std::unique_ptr<Object> object, const char *maker) {
   Object *const result = object.get();
   result->maker = maker;
-  world().objects.emplace(result, std::move(object));
+  objects().emplace(result, std::move(object));
   return result;
 }
 
-Object *keepForever(std::unique_ptr<Object> object) {
-  Object *const result = object.get();
-  result->maker = "the platform";
+Object *fake::make(const char *type, const Value &value, const char *maker) {
+  return keep(std::make_unique<Object>(type, value), maker);
+}
+
+Object *fake::makeConstant(const char *type, const Value &value) {
+  Object *const result = make(type, value, "the platform");
   result->isConstant = true;
-  constants().emplace(result, std::move(object));
   return result;
 }
 
-Object *usable(const void *reference, const char *function) {
-  Object *const object = find(reference);
-  if (object != nullptr && !object->isGone()) return object;
-  const std::string what = object != nullptr      ? object->description() + ", which is gone"
-                           : reference == nullptr ? "NULL"
-                                                  : "what is no object";
-  report(std::string(function) + " was given " + what);
+Object *fake::checked(const void *reference, const char *type, const char *function) {
+  const auto place = objects().find(reference);
+  Object *const object = place == objects().end() ? nullptr : place->second.get();
+  std::string fault;
+  if (object == nullptr) {
+    fault = reference == nullptr ? "NULL" : "what is no object";
+  } else if (object->isGone()) {
+    fault = object->description() + ", which is gone";
+  } else if (type != nullptr && std::string(type) != object->type) {
+    fault = object->description() + ", which is no " + type;
+  }
+  if (fault.empty()) return object;
+  report(std::string(function) + " was given " + fault);
   return nullptr;
 }
 
-Object *checked(const void *reference, const char *type, const char *function) {
-  Object *const object = usable(reference, function);
-  if (object == nullptr || object->type == type) return object;
-  report(std::string(function) + " was given " + object->description() + ", which is no " + type);
-  return nullptr;
+Machine &Machine::current() {
+  if (currentMachine == nullptr) qFatal("The platform was called while there was no fake::Machine");
+  return *currentMachine;
 }
 
-}  // namespace fake
+World &fake::world() {
+  return Machine::current().world();
+}
 
-using namespace fake;
+Machine::Machine() : _world(std::make_unique<World>()) {
+  currentMachine = this;
+}
 
-CFTypeRef CFRetain(CFTypeRef reference) {
-  if (Object *object = usable(reference, "CFRetain")) retain(*object);
-  return reference;
+Machine::~Machine() {
+  // The references to each object that no other living one holds.
+  std::unordered_map<const Object *, long> tooMany;
+  for (const auto &[reference, object] : objects()) {
+    if (object->isGone() || object->isConstant) continue;
+    tooMany[object.get()] += object->references;
+    for (const Object *each : object->holds) --tooMany[each];
+  }
+  std::string leaks;
+  for (const auto &[object, count] : tooMany) {
+    if (count > 0) leaks += object->description() + ", " + std::to_string(count) + " too many\n";
+  }
+  for (const auto &each : _world->listeners) {
+    if (each->session == nullptr) leaks += "an observer of \"" + each->topic + "\"\n";
+  }
+  if (!leaks.empty()) report("Left behind:\n" + leaks);
+  std::erase_if(objects(), [](const auto &each) { return !each.second->isConstant; });
+  currentMachine = nullptr;
 }
 
 void CFRelease(CFTypeRef reference) {
-  if (Object *object = usable(reference, "CFRelease")) release(*object);
-}
-
-CFTypeID CFGetTypeID(CFTypeRef reference) {
-  const Object *const object = usable(reference, "CFGetTypeID");
-  return object == nullptr ? 0 : reinterpret_cast<CFTypeID>(object->type);
+  release(checked(reference));
 }

@@ -1,141 +1,75 @@
-#include "macos/fake/Values.h"
-
-#include <CoreFoundation/CoreFoundation.h>
+// Texts, numbers, collections and their like.
 
 #include <QString>
-#include <QStringDecoder>
 #include <cstring>
 
 #include "macos/fake/World.h"
 
-namespace fake {
+using namespace fake;
 
-namespace {
-
-Object *made(const std::string &text, const char *maker) {
-  return make<String>(maker, text);
-}
-Object *made(std::int64_t value, const char *maker) {
-  return make<Number>(maker, value);
-}
-Object *made(const Path &path, const char *maker) {
-  return make<Url>(maker, path.text, true);
-}
-Object *made(const Uuid &uuid, const char *maker) {
-  return make<UuidObject>(maker, uuid.text);
-}
-
-Object *made(bool value, const char * /*maker*/) {
-  return find(value ? kCFBooleanTrue : kCFBooleanFalse);
-}
-
-Object *made(const Array &elements, const char *maker) {
-  auto *const array = make<ArrayObject>(maker);
-  for (const Value &each : elements) array->holds.push_back(objectOf(each, maker));
-  return array;
-}
-
-Object *made(const Dictionary &values, const char *maker) {
-  auto *const dictionary = make<DictionaryObject>(maker);
-  for (const auto &[key, value] : values) {
-    Object *const object = objectOf(value, maker);
-    dictionary->values[key] = object;
-    dictionary->holds.push_back(object);
+Object *fake::objectOf(const Value &value, const char *maker) {
+  constexpr const char *kTypes[] = {"CFString", "CFBoolean", "CFNumber",
+                                    "CFURL",    "CFUUID",    "CFDictionary"};
+  Object *const object = make(kTypes[value.index()], value, maker);
+  if (const auto *values = std::get_if<Dictionary>(&value)) {
+    for (const auto &[key, each] : *values) object->holds.push_back(objectOf(each, maker));
   }
-  return dictionary;
+  return object;
 }
 
-}  // namespace
-
-Url::Url(std::string path, bool directory, std::string folder)
-    : Object(kType), base(std::move(folder)), relative(std::move(path)), isDirectory(directory) {
-  if (relative.size() > 1 && relative.ends_with('/')) relative.pop_back();
+std::string fake::textOf(const void *string, const char *function) {
+  return valueOf<std::string>(string, "CFString", function);
 }
 
-Object *objectOf(const Value &value, const char *maker) {
-  return std::visit([maker](const auto &each) { return made(each, maker); },
-                    static_cast<const AnyValue &>(value));
-}
-
-Value valueOf(const Object &object) {
-  if (object.type == String::kType) return static_cast<const String &>(object).characters;
-  if (object.type == Number::kType) return static_cast<const Number &>(object).value;
-  if (object.type == Bool::kType) return static_cast<const Bool &>(object).value;
-  report("A " + std::string(object.type) + " is nothing that a program here stores.");
-  return false;
-}
-
-std::optional<std::string> textOf(const void *string, const char *function) {
-  const auto *const object = checked<String>(string, function);
-  return object == nullptr ? std::nullopt : std::optional(object->characters);
+std::string fake::pathOf(const void *url, const char *function) {
+  const auto path = valueOf<Path>(url, "CFURL", function);
+  return path.base + path.text;
 }
 
 namespace {
+
+CFTypeID typeId(std::string_view type) {
+  return std::hash<std::string_view>()(type);
+}
 
 /// As many bytes as there are, and the NUL behind them.
-template <class Character>
-Boolean copyWithNul(const std::string &text, Character *buffer, CFIndex size) {
-  if (buffer == nullptr || size <= static_cast<CFIndex>(text.size())) return false;
+Boolean copyWithNul(const std::string &text, void *buffer, CFIndex size) {
+  if (size <= static_cast<CFIndex>(text.size())) return false;
   std::memcpy(buffer, text.c_str(), text.size() + 1);
   return true;
 }
 
-template <class T>
-CFTypeID typeIdOf() {
-  return reinterpret_cast<CFTypeID>(T::kType);
-}
-
-bool areEqual(const Object &a, const Object &b) {
-  const std::set<const char *> comparedByText = {String::kType, Number::kType, Url::kType,
-                                                 UuidObject::kType};
-  if (a.type != b.type || !comparedByText.contains(a.type)) return &a == &b;
-  return a.text() == b.text();
+std::string stringOf(const unsigned char *bytes, CFIndex count) {
+  return {reinterpret_cast<const char *>(bytes), static_cast<std::size_t>(count)};
 }
 
 }  // namespace
 
-}  // namespace fake
+#define TYPE_ID(Type)          \
+  CFTypeID Type##GetTypeID() { \
+    return typeId(#Type);      \
+  }
+TYPE_ID(CFString)
+TYPE_ID(CFNumber)
+TYPE_ID(CFBoolean)
+TYPE_ID(CFDictionary)
+TYPE_ID(CFURL)
+TYPE_ID(CFUUID)
 
-using namespace fake;
-
-Boolean CFEqual(CFTypeRef a, CFTypeRef b) {
-  const Object *const left = usable(a, __func__);
-  const Object *const right = usable(b, __func__);
-  return left != nullptr && right != nullptr && areEqual(*left, *right);
-}
-
-CFTypeID CFStringGetTypeID() {
-  return typeIdOf<String>();
-}
-CFTypeID CFNumberGetTypeID() {
-  return typeIdOf<Number>();
-}
-CFTypeID CFBooleanGetTypeID() {
-  return typeIdOf<Bool>();
-}
-CFTypeID CFArrayGetTypeID() {
-  return typeIdOf<ArrayObject>();
-}
-CFTypeID CFDictionaryGetTypeID() {
-  return typeIdOf<DictionaryObject>();
-}
-CFTypeID CFURLGetTypeID() {
-  return typeIdOf<Url>();
-}
-CFTypeID CFUUIDGetTypeID() {
-  return typeIdOf<UuidObject>();
+CFTypeID CFGetTypeID(CFTypeRef reference) {
+  const Object *const object = checked(reference);
+  return object == nullptr ? 0 : typeId(object->type);
 }
 
 CFStringRef CFStringCreateWithBytes(CFAllocatorRef, const unsigned char *bytes, CFIndex count,
                                     CFStringEncoding, Boolean) {
-  const std::string text(reinterpret_cast<const char *>(bytes), static_cast<std::size_t>(count));
-  QStringDecoder decoder(QStringDecoder::Utf8);
-  const QString decoded = decoder(QByteArrayView(text));
-  return decoder.hasError() ? nullptr : as<CFStringRef>(make<String>(__func__, text));
+  const std::string text = stringOf(bytes, count);
+  const bool isUtf8 = QString::fromStdString(text).toStdString() == text;
+  return isUtf8 ? as<CFStringRef>(objectOf(text)) : nullptr;
 }
 
 CFIndex CFStringGetLength(CFStringRef string) {
-  return QString::fromStdString(textOf(string).value_or("")).size();
+  return QString::fromStdString(textOf(string)).size();
 }
 
 CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding) {
@@ -143,61 +77,51 @@ CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding) {
 }
 
 Boolean CFStringGetCString(CFStringRef string, char *buffer, CFIndex size, CFStringEncoding) {
-  const auto text = textOf(string);
-  return text.has_value() && copyWithNul(*text, buffer, size);
+  return checked(string, "CFString") != nullptr && copyWithNul(textOf(string), buffer, size);
 }
 
 Boolean CFNumberGetValue(CFNumberRef number, CFNumberType type, void *value) {
-  const auto *const object = checked<Number>(number);
-  if (type != kCFNumberSInt64Type) report("CFNumberGetValue: only 64 bits are known here");
-  if (object == nullptr || type != kCFNumberSInt64Type) return false;
-  std::memcpy(value, &object->value, sizeof object->value);
+  expect(type == kCFNumberSInt64Type);
+  *static_cast<std::int64_t *>(value) = valueOf<std::int64_t>(number, "CFNumber");
   return true;
 }
 
 Boolean CFBooleanGetValue(CFBooleanRef boolean) {
-  const auto *const object = checked<Bool>(boolean);
-  return object != nullptr && object->value;
+  return valueOf<bool>(boolean, "CFBoolean");
 }
 
 CFIndex CFArrayGetCount(CFArrayRef array) {
-  const auto *const object = checked<ArrayObject>(array);
+  const Object *const object = checked(array, "CFArray");
   return object == nullptr ? 0 : static_cast<CFIndex>(object->holds.size());
 }
 
 const void *CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index) {
-  const auto *const object = checked<ArrayObject>(array);
-  if (object == nullptr) return nullptr;
-  if (index >= 0 && index < static_cast<CFIndex>(object->holds.size())) {
-    return object->holds[static_cast<std::size_t>(index)];
-  }
+  const bool isThere = index >= 0 && index < CFArrayGetCount(array);
+  if (isThere) return checked(array)->holds[static_cast<std::size_t>(index)];
   report("CFArrayGetValueAtIndex: there is no element " + std::to_string(index));
   return nullptr;
 }
 
 const void *CFDictionaryGetValue(CFDictionaryRef dictionary, const void *key) {
-  const auto *const object = checked<DictionaryObject>(dictionary);
-  const auto text = textOf(key);
-  if (object == nullptr || !text.has_value()) return nullptr;
-  const auto place = object->values.find(*text);
-  return place == object->values.end() ? nullptr : place->second;
+  const auto values = valueOf<Dictionary>(dictionary, "CFDictionary");
+  const auto place = values.find(textOf(key));
+  if (place == values.end()) return nullptr;
+  return *std::next(checked(dictionary)->holds.begin(), std::distance(values.begin(), place));
 }
 
 CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const unsigned char *bytes,
-                                                 CFIndex count, Boolean isDirectory) {
-  if (count == 0) return nullptr;
-  const std::string path(reinterpret_cast<const char *>(bytes), static_cast<std::size_t>(count));
-  return as<CFURLRef>(make<Url>(__func__, path, isDirectory != 0));
+                                                 CFIndex count, Boolean) {
+  std::string path = stringOf(bytes, count);
+  if (path.size() > 1 && path.ends_with('/')) path.pop_back();
+  return path.empty() ? nullptr : as<CFURLRef>(objectOf(Path{path}));
 }
 
 Boolean CFURLGetFileSystemRepresentation(CFURLRef url, Boolean resolveAgainstBase,
                                          unsigned char *buffer, CFIndex size) {
-  const auto *const object = checked<Url>(url);
-  if (object == nullptr) return false;
-  return copyWithNul(resolveAgainstBase ? object->path() : object->relative, buffer, size);
+  const std::string path = resolveAgainstBase ? pathOf(url) : valueOf<Path>(url, "CFURL").text;
+  return !path.empty() && copyWithNul(path, buffer, size);
 }
 
 CFStringRef CFUUIDCreateString(CFAllocatorRef, CFUUIDRef uuid) {
-  const auto *const object = checked<UuidObject>(uuid);
-  return object == nullptr ? nullptr : as<CFStringRef>(make<String>(__func__, object->text()));
+  return as<CFStringRef>(objectOf(valueOf<Uuid>(uuid, "CFUUID").text));
 }
