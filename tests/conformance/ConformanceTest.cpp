@@ -245,7 +245,8 @@ TEST_F(Conformance, WhatIsKeptForTheUserIsFoundAgain) {
     list.removeIf([&](const auto &item) { return item.location != items.ownLocation(); });
     return list;
   };
-  EXPECT_TRUE(ownItems().isEmpty());
+  // A program that was started on this machine before has left one.
+  for (const LoginItems::Item &item : ownItems()) items.remove(item);
   items.insertOwnItem();
   ASSERT_EQ(ownItems().size(), 1);
   const LoginItems::Item own = ownItems().first();

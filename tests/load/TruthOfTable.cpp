@@ -2,7 +2,7 @@
 
 namespace {
 
-const QString kESP = QStringLiteral("EFI System Partition");
+const QString kNameOfESP = QStringLiteral("EFI System Partition");
 
 /// Absent when there is none to speak of.
 std::optional<QString> mediaName(const QString &media) {
@@ -32,7 +32,7 @@ QString siblingLine(const SimulatedDisk &disk) {
 }
 
 QString titleOf(const SimulatedPartition &partition) {
-  if (partition.media == kESP) return "ESP";
+  if (partition.media == kNameOfESP) return "ESP";
   if (partition.media == "Recovery HD" || !partition.mountPoint) {
     return mediaName(partition.media).value_or("(null)");
   }
@@ -69,7 +69,7 @@ QMap<QString, QString> expectedRows(const Machine &machine, bool showsAll) {
   if (machine.presence != DiskService::Presence::Answering) return rows;
   for (const SimulatedDisk &disk : machine.disks) {
     for (const SimulatedPartition &each : disk.partitions) {
-      if (showsAll || each.media == kESP) rows.insert(disk.bsdName(each), rowOf(disk, each));
+      if (showsAll || each.media == kNameOfESP) rows.insert(disk.bsdName(each), rowOf(disk, each));
     }
   }
   return rows;
