@@ -8,13 +8,11 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include "Foundation/NotificationCenter.h"
-#include "Platform/common/ChildPrograms.h"
 #include "Platform/common/FileSystemFiles.h"
+#include "Platform/common/MachinePlatform.h"
 #include "Platform/common/MediaIcon.h"
 #include "Platform/common/QtRunLoop.h"
 #include "Platform/common/SettingsDefaults.h"
-#include "Platform/common/SystemClock.h"
 #include "Platform/common/SystemFilesRoot.h"
 #include "Platform/linux/LinuxDiskService.h"
 #include "Platform/linux/LinuxRawDevices.h"
@@ -51,7 +49,7 @@ QString mountFolderOfUser() {
   return QFileInfo(folder).isDir() ? folder : u"/media/"_s + user;
 }
 
-class LinuxPlatform final : public Platform {
+class LinuxPlatform final : public MachinePlatform {
  public:
   LinuxPlatform()
       : _systemFiles(systemFilesRoot()),
@@ -65,34 +63,21 @@ class LinuxPlatform final : public Platform {
   MediaRegistry &mediaRegistry() override { return _disks; }
   RawDevices &rawDevices() override { return _rawDevices; }
   RunLoop &runLoop() override { return _runLoop; }
-  Clock &clock() override { return _clock; }
   SystemFiles &systemFiles() override { return _systemFiles; }
-  SystemPrograms &systemPrograms() override { return _systemPrograms; }
   LoginItems &loginItems() override { return _loginItems; }
   UserDefaults &userDefaults() override { return _userDefaults; }
   std::optional<QString> driverBundle(const QString &identifier) const override {
     return shippedDriverBundle(_systemFiles, identifier);
-  }
-  std::optional<QImage> imageOnVolume(const QString &path) const override {
-    return _volumeFiles.image(path);
   }
   QStringList processesUsing(const QString &mountPoint) const override {
     return processesUsingVolume(mountPoint);
   }
   QString volumesFolder() const override { return mountFolderOfUser(); }
   QString legacyVolumesFolder() const override { return u"/Volumes"_s; }
-  QString applicationSupportFolder() const override {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  }
-  NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
  private:
-  NotificationCenter _workspace;
   QtRunLoop _runLoop;
-  SystemClock _clock;
   FileSystemFiles _systemFiles;
-  ChildPrograms _systemPrograms;
-  FileSystemFiles _volumeFiles{QString()};
   XdgLoginItems _loginItems;
   SettingsDefaults _userDefaults;
   LinuxDiskService _disks;

@@ -1,11 +1,7 @@
 #include "Platform/macos/MacPlatform.h"
 
-#include <QStandardPaths>
-
-#include "Foundation/NotificationCenter.h"
 #include "Platform/ThisMachine.h"
-#include "Platform/common/ChildPrograms.h"
-#include "Platform/common/SystemClock.h"
+#include "Platform/common/MachinePlatform.h"
 #include "Platform/macos/MacDiskService.h"
 #include "Platform/macos/MacLoginItems.h"
 #include "Platform/macos/MacMediaRegistry.h"
@@ -20,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class MacPlatform final : public Platform {
+class MacPlatform final : public MachinePlatform {
  public:
   explicit MacPlatform(const QString &root) : _systemFiles(root) {
     postOn(&VolumeWatcher::mounted, kNSWorkspaceDidMountNotification);
@@ -35,26 +31,17 @@ class MacPlatform final : public Platform {
   MediaRegistry &mediaRegistry() override { return _media; }
   RawDevices &rawDevices() override { return _rawDevices; }
   RunLoop &runLoop() override { return _runLoop; }
-  Clock &clock() override { return _clock; }
   SystemFiles &systemFiles() override { return _systemFiles; }
-  SystemPrograms &systemPrograms() override { return _systemPrograms; }
   LoginItems &loginItems() override { return _loginItems; }
   UserDefaults &userDefaults() override { return _userDefaults; }
   std::optional<QString> driverBundle(const QString &identifier) const override {
     return locationOfDriver(identifier);
-  }
-  std::optional<QImage> imageOnVolume(const QString &path) const override {
-    return _volumeFiles.image(path);
   }
   QStringList processesUsing(const QString &mountPoint) const override {
     return processesUsingVolume(mountPoint);
   }
   QString volumesFolder() const override { return u"/Volumes"_s; }
   QString legacyVolumesFolder() const override { return u"/Volumes"_s; }
-  QString applicationSupportFolder() const override {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  }
-  NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
  private:
   void postOn(void (VolumeWatcher::*news)(const QString &), const QString &name) {
@@ -63,12 +50,8 @@ class MacPlatform final : public Platform {
     });
   }
 
-  NotificationCenter _workspace;
   MacRunLoop _runLoop;
-  SystemClock _clock;
   MacSystemFiles _systemFiles;
-  FileSystemFiles _volumeFiles{QString()};
-  ChildPrograms _systemPrograms;
   MacLoginItems _loginItems;
   MacUserDefaults _userDefaults;
   MacDiskService _disks;
