@@ -75,10 +75,6 @@ void followInterfaceStyle(const Desktop &desktop) {
   follow();
 }
 
-}  // namespace
-
-namespace {
-
 bool loadTranslation(const QString &name, const QString &folder) {
   auto *translation = new QTranslator(qApp);
   if (!translation->load(QLocale(), name, QStringLiteral("_"), folder)) return false;
