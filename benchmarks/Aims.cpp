@@ -4,6 +4,7 @@
 
 #include "Measurements.h"
 #include "Report.h"
+#include "StartUp.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,10 @@ void printAims(QTextStream &out, const Report &report) {
     printAim(out, u"click to row, %1 partitions, share of udisksctl's time"_s.arg(size),
              report.median(kClickToRow, size) / report.median(kMount, size), 1.1);
   }
+  printAim(out, u"start-up, 10 partitions, share of the smallest Qt program's"_s,
+           report.median(kStartUp, 10) / report.median(kSmallestStartUp, 10), 1.3);
+  printAim(out, u"resident memory, 10 partitions, share of the smallest Qt program's"_s,
+           report.median(kResident, 10) / report.median(kSmallestResident, 10), 1.25);
   printAim(out, u"row after the service's signal, 100 partitions, ms"_s,
            report.median(kRowAfterSignal, 100), 16);
 }

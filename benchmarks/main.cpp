@@ -11,6 +11,7 @@
 #include "Platform/ThisMachine.h"
 #include "Program.h"
 #include "Report.h"
+#include "StartUp.h"
 #include "application.h"
 
 using namespace Qt::StringLiterals;
@@ -27,6 +28,7 @@ void measure(Platform &platform, int partitions, Report &report) {
                others + LoopDisks::kDisks + partitions;
       },
       u"all partitions"_s);
+  measureStartUp(partitions, report);
   Program program(platform);
   measureRefresh(program, partitions, report);
   measureClicks(program, disks.mountableDevice(), partitions, report);
@@ -50,7 +52,8 @@ Report measureAll() {
 
 void print(QTextStream &out, const Report &report) {
   out << "Medians of " << kRuns
-      << " runs in milliseconds, and ratios. Clicks and events: all partitions shown.\n\n";
+      << " runs in milliseconds or as said, and ratios. Clicks and events: all partitions "
+         "shown.\n\n";
   report.printHead(out);
   for (const QString &measure : {kLsblk, kStatus}) report.printMedians(out, measure);
   for (const QString &measure : {kRefreshEsps, kRefreshAll}) {
@@ -63,6 +66,12 @@ void print(QTextStream &out, const Report &report) {
   for (const QString &measure : {kEventToSignal, kEventToRow, kRowAfterSignal}) {
     report.printMedians(out, measure);
   }
+  for (const auto &[measure, peer] :
+       {std::pair(kStartUp, kSmallestStartUp), {kResident, kSmallestResident}}) {
+    report.printMedians(out, measure);
+    report.printMedians(out, peer);
+    report.printRatios(out, measure, peer);
+  }
   out << '\n';
   printAims(out, report);
 }
@@ -70,6 +79,7 @@ void print(QTextStream &out, const Report &report) {
 }  // namespace
 
 int main(int argc, char **argv) {
+  prepareProcess(argv);
   QTextStream errors(stderr);
   if (qEnvironmentVariableIsEmpty("KELDRA_LAB")) {
     errors << "This needs a disk laboratory: start it with ./bench.\n";

@@ -8,7 +8,10 @@ set_target_properties(keldra PROPERTIES
   MACOSX_BUNDLE ON
   MACOSX_BUNDLE_INFO_PLIST ${PROJECT_SOURCE_DIR}/packaging/macos/Info.plist.in)
 
-# Beside the program as it finds them elsewhere.
-add_custom_command(TARGET keldra POST_BUILD
-  COMMAND ${CMAKE_COMMAND} -E copy_directory
-          ${CMAKE_BINARY_DIR}/share/keldra/translations $<TARGET_BUNDLE_CONTENT_DIR:keldra>/share/keldra/translations)
+# The bundle with all that it needs, to be handed on: cmake --build --preset release --target package
+find_program(MACDEPLOYQT macdeployqt HINTS ${Qt6_DIR}/../../../bin)
+add_custom_target(package
+  COMMAND ${CMAKE_COMMAND} -D BUNDLE=$<TARGET_BUNDLE_DIR:keldra> -D MACDEPLOYQT=${MACDEPLOYQT}
+          -D ARCHIVE=${CMAKE_BINARY_DIR}/package/Keldra-${PROJECT_VERSION}.zip
+          -P ${PROJECT_SOURCE_DIR}/packaging/macos/package.cmake
+  DEPENDS keldra VERBATIM)

@@ -25,7 +25,7 @@ class ESPTableCellView : public TableCellView {
   void setDeviceNode(const QString &node);
   QString deviceNode() const { return toolTip(); }
 
-  /// No for a cell whose mount button is disabled: the button would stay dead in another row.
+  /// False for a cell whose mount button is disabled: the button would stay dead in another row.
   bool isReusable() const override;
   bool isActing() const override;
   /// The partition's BSD name.

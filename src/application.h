@@ -16,6 +16,14 @@ void connectOutlets(MainInterface &interface, AppDelegate &delegate);
 /// Quit button.
 void quitWithTheSystem(AppDelegate &delegate);
 
+/// Whether the session allows what Qt and the desktop need; if not, it is said why. Called before anything
+/// else, for Qt breaks off without a word.
+bool mayOpenEnoughFiles();
+
+/// Words in the first of the person's languages that there is a translation for, with Qt's own words and
+/// the direction of its script. English needs none, and what comes after it is not asked for.
+void loadTranslations();
+
 /// What our QApplication is set up with, its language among it; called once, after it is made and before
 /// anything of ours is.
 void configureApplication();

@@ -1,5 +1,5 @@
 // The same program on a machine that a file describes, and a window to do things to that machine:
-// keldra-demo [MACHINE.json]
+// keldra-demo [MACHINE]
 
 #include <QApplication>
 #include <QTimer>
@@ -22,12 +22,10 @@ int refuse(const QString &reason) {
 }  // namespace
 
 int main(int argc, char **argv) {
-  QApplication application(argc, argv);
+  if (!mayOpenEnoughFiles()) return EXIT_FAILURE;
+  const auto application = makeApplication(argc, argv);
   configureApplication();
-  const QString fileName = QApplication::arguments().value(
-      1,
-      QApplication::applicationDirPath() + QStringLiteral("/../share/keldra/machines/laptop.json"));
-  auto result = loadMachineFile(fileName);
+  auto result = loadMachineFile(QApplication::arguments().value(1, QStringLiteral("laptop")));
   if (const auto *error = std::get_if<MachineFileError>(&result)) return refuse(error->text());
 
   SimulatedPlatform platform(std::get<Machine>(std::move(result)), std::make_unique<SystemClock>());

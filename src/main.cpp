@@ -4,7 +4,9 @@
 #include "application.h"
 
 int main(int argc, char **argv) {
-  QApplication application(argc, argv);
+  prepareProcess(argv);
+  if (!mayOpenEnoughFiles()) return EXIT_FAILURE;
+  const auto application = makeApplication(argc, argv);
   configureApplication();
   const std::unique_ptr<Platform> platform = makePlatform();
   const std::unique_ptr<Desktop> desktop = makeDesktop(QStringLiteral("com.brinmoor.Keldra"));

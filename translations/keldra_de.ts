@@ -8,8 +8,8 @@
         <translation>Keines der eigenen Programme scheint die Partition zu benutzen</translation>
     </message>
     <message>
-        <source>In use by %1 and %2 more</source>
-        <translation>In Benutzung durch %1 und %2 weitere</translation>
+        <source>%1 did not answer in time: not everything may have been written to it</source>
+        <translation>%1 hat nicht rechtzeitig geantwortet: vielleicht wurde nicht alles darauf geschrieben</translation>
     </message>
     <message>
         <source>In use by %1</source>
@@ -119,6 +119,17 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>This list is not complete: the picture of %1 cannot be read.</source>
+        <translation>Diese Liste ist nicht vollständig: Das Bild von %1 lässt sich nicht lesen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>In use by %1 and %n more</source>
+        <translation>
+            <numerusform>In Benutzung durch %1 und %n weiteres</numerusform>
+            <numerusform>In Benutzung durch %1 und %n weitere</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Desktop</name>
@@ -133,6 +144,18 @@
     <message>
         <source>Desktop</source>
         <translation>Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Keldra is running already, but does not answer. End process %1 and start Keldra again.</source>
+        <translation>Keldra läuft bereits, antwortet aber nicht. Prozess %1 beenden und Keldra erneut starten.</translation>
+    </message>
+    <message>
+        <source>GNOME shows no tray icons by itself. Install and switch on the extension “AppIndicator and KStatusNotifierItem Support” to see Keldra&apos;s. Until then, start Keldra once more to open this window.</source>
+        <translation>GNOME zeigt von sich aus keine Symbole im Infobereich. Die Erweiterung „AppIndicator and KStatusNotifierItem Support“ installieren und einschalten, um das von Keldra zu sehen. Bis dahin öffnet ein weiterer Start von Keldra dieses Fenster.</translation>
+    </message>
+    <message>
+        <source>No panel here shows tray icons. Add a tray, or “status notifier”, to a panel to see Keldra&apos;s. Until then, start Keldra once more to open this window.</source>
+        <translation>Keine Leiste zeigt hier Symbole im Infobereich. Einer Leiste einen Infobereich („Statusbenachrichtigung“) hinzufügen, um das von Keldra zu sehen. Bis dahin öffnet ein weiterer Start von Keldra dieses Fenster.</translation>
     </message>
 </context>
 <context>
@@ -228,10 +251,6 @@
         <translation>Rechner</translation>
     </message>
     <message>
-        <source>Disk</source>
-        <translation>Laufwerk</translation>
-    </message>
-    <message>
         <source>Pull</source>
         <translation>Abziehen</translation>
     </message>
@@ -278,6 +297,10 @@
     <message>
         <source>is absent</source>
         <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Disk and disk service</source>
+        <translation>Laufwerk und Laufwerksdienst</translation>
     </message>
 </context>
 <context>

@@ -30,8 +30,10 @@ class EmptyView;
 class InfoWindow;
 class ManagedObjectContext;
 class ManagedObjectModel;
+class Notice;
 class PersistentStoreCoordinator;
 class Platform;
+class QAction;
 class QMenu;
 class QUndoStack;
 class RowButton;
@@ -52,6 +54,7 @@ class AppDelegate : public QObject,
 
   // The outlets: objects of the interface, which owns them. All are connected before start-up, and the
   // delegate does not touch them as it ends.
+  /// The rows' actions go before its last one.
   QMenu *menu() const { return _menu; }
   void setMenu(QMenu *menu) { _menu = menu; }
   Popover *popover() const { return _popover; }
@@ -75,12 +78,16 @@ class AppDelegate : public QObject,
   /// What stands in the table's place while it has no rows.
   EmptyView *emptyView() const { return _emptyView; }
   void setEmptyView(EmptyView *view) { _emptyView = view; }
+  /// Says that the list is not complete, until a refresh succeeds.
+  void setListNotice(Notice *notice) { _listNotice = notice; }
+  /// Says that there is no tray, and what to do, while the popover shows itself for that.
+  void setTrayNotice(Notice *notice) { _trayNotice = notice; }
 
   // Start-up and end.
   void applicationDidFinishLaunching();
   /// The Quit button, and whatever else asks for the program's end: it ends, from the event loop, unless
   /// `applicationShouldTerminate` says no. While a row action is under way, that is asked when it is
-  /// over; while it is being asked already, not once more.
+  /// over, or after five seconds if it lasts longer; while it is being asked already, not once more.
   void closeApp();
   /// Whether the user's session may end, and the program with it. `mayAsk` tells whether the person may
   /// be shown dialogs, and is called only when there may be something to ask; without them, unsaved
@@ -163,28 +170,45 @@ class AppDelegate : public QObject,
   /// Puts the picture that suits the interface style and the screen on the status item.
   void darkModeAndRetina();
 
+ signals:
+  /// The process is to end now, in the middle of a row action whose wait never returns.
+  void endsInRowAction();
+
  private:
   class RowAction;
 
   std::optional<Error> setUpStore();
   bool mayTerminate();
+  void endIfAsked(const std::function<void()> &end);
 
-  /// `siblingLines` holds the lines of the disks that had one before, by their names.
-  static RowRecord recordOf(const QString &bsdName, QHash<QString, QString> &siblingLines);
+  RowRecord recordOf(const QString &bsdName) const;
   void restoreRunAtLoad();
   void refreshListsOrLog();
   void explainEmptyList();
   void announce(const Notification &notification, QString (*message)(const QString &path));
   void complain(const QString &text);
-  QString whoHolds(const std::optional<QString> &partition, const QString &refusal) const;
+  void report(const QString &text, const QString &detail);
+  void notify(const QString &text);
+  static QString whoHolds(const QStringList &processes);
+  void warnUnwritten(const Notification &notification);
   void closeForActivityElsewhere();
+  void dismissPopover();
+  void explainMissingTray();
   void showBusyButtons();
+  void mountOrUmount(const QString &title);
+  void openEsp(const QString &title);
+  void updateMenu();
+  QStringList rowTitles() const;
+  void chooseFromMenu(const QString &title);
+  void tellUnlessSeen(const QString &text, const QString &detail = {});
 
   Platform &_platform;
   Desktop &_desktop;
   MainQueue _mainQueue;
   Application _application;
-  /// While `applicationShouldTerminate` is being asked.
+  /// From `closeApp` until `applicationShouldTerminate` is asked.
+  bool _isAskedToEnd = false;
+  /// While it is being asked.
   bool _isTerminating = false;
 
   qint64 _lastSelectedRow = -1;
@@ -197,6 +221,9 @@ class AppDelegate : public QObject,
   std::unique_ptr<EventMonitor> _popoverTransiencyMonitor;
 
   QMenu *_menu = nullptr;
+  QList<QAction *> _rowActions;  // in the menu, with what parts them from the last one
+  /// Of what was chosen from the menu while the popover was closed.
+  bool _outcomeIsAwaited = false;
   Popover *_popover = nullptr;
   TableView *_tableView = nullptr;
   TextField *_versionLabel = nullptr;
@@ -205,11 +232,15 @@ class AppDelegate : public QObject,
   TextField *_statusTextField = nullptr;
   CheckBox *_forceUmountCheck = nullptr;
   EmptyView *_emptyView = nullptr;
+  Notice *_listNotice = nullptr;
+  Notice *_trayNotice = nullptr;
   QWidget *_window = nullptr;
   InfoWindow *_infoWindow = nullptr;
 
   /// The partition whose row action is under way.
   std::optional<QString> _busyPartition;
+  /// The partition that the next refusal is about, if it is in use.
+  std::optional<QString> _volumeInUse;
 };
 
 // What the status item's picture depends on.

@@ -1,4 +1,5 @@
 #include <QGuiApplication>
+#include <QPointer>
 
 #include "AppDelegate/AppDelegate.h"
 #include "DiskArbitrator/DiskArbitrator.h"
@@ -39,6 +40,8 @@ void AppDelegate::addRefreshObserver() {
                         [this](const Notification &note) { umounted(note); });
   workspace.addObserver(this, kNSWorkspaceDidRenameVolumeNotification,
                         [this](const Notification &note) { renamed(note); });
+  workspace.addObserver(this, kVolumeUnwrittenNotification,
+                        [this](const Notification &note) { warnUnwritten(note); });
 }
 
 void AppDelegate::mounted(const Notification &notification) {
@@ -59,7 +62,9 @@ void AppDelegate::announce(const Notification &notification, QString (*message)(
     _mainQueue.async([this, path = path.toString(), message] {
       _statusTextField->setStringValue(QString());
       _statusTextField->setTextColor(TextField::TextColor::Blue);
-      _statusTextField->setAnimatedStringValue(message(path));
+      const QString text = message(path);
+      _statusTextField->setAnimatedStringValue(text);
+      if (_outcomeIsAwaited) tellUnlessSeen(text);
     });
   }
   refreshListsOrLog();
@@ -74,31 +79,48 @@ void AppDelegate::complain(const QString &text) {
   // Unlike for a disk event, the colour changes at once and only the text waits its turn.
   _statusTextField->setStringValue(QString());
   _statusTextField->setTextColor(TextField::TextColor::Red);
-  _mainQueue.async([this, text, partition = _busyPartition] {
+  _mainQueue.async([this, text, inUse = std::exchange(_volumeInUse, std::nullopt)] {
     // The job of an event that came in between may have changed the colour.
     _statusTextField->setTextColor(TextField::TextColor::Red);
     _statusTextField->setAnimatedStringValue(text);
-    const QString holders = whoHolds(partition, text);
-    _statusTextField->setDetail(holders, text);
-    systemLog(holders.isEmpty() ? text : text + ". "_L1 + holders);
-    if (_popover->isShown()) return;
-    _desktop.notify(QGuiApplication::applicationDisplayName(),
-                    (withoutMarkup(text) + u'\n' + withoutMarkup(holders)).trimmed(),
-                    topBarItem->trayItem());
+    if (!inUse) return report(text, {});
+    DiskArbitrator::findProcessesUsing(*inUse,
+                                       [self = QPointer(this), text](const QStringList &processes) {
+                                         if (self) self->report(text, whoHolds(processes));
+                                       });
   });
 }
 
-// A sentence about the processes that keep a volume from being unmounted; empty when the refusal
-// was for another reason.
-QString AppDelegate::whoHolds(const std::optional<QString> &partition,
-                              const QString &refusal) const {
-  if (!partition || refusal != DiskArbitrator::umountRefusal(*partition, kDAReturnBusy)) return {};
-  const QStringList processes = DiskArbitrator::findProcessesUsing(*partition);
+void AppDelegate::report(const QString &text, const QString &detail) {
+  _statusTextField->setDetail(detail, text);
+  systemLog(detail.isEmpty() ? text : text + ". "_L1 + detail);
+  tellUnlessSeen(text, detail);
+}
+
+void AppDelegate::tellUnlessSeen(const QString &text, const QString &detail) {
+  _outcomeIsAwaited = false;
+  if (!_popover->isShown()) notify(withoutMarkup(text) + u'\n' + withoutMarkup(detail));
+}
+
+void AppDelegate::notify(const QString &text) {
+  _desktop.notify(QGuiApplication::applicationDisplayName(), text.trimmed(),
+                  topBarItem->trayItem());
+}
+
+// A sentence about the processes that keep a volume from being unmounted.
+QString AppDelegate::whoHolds(const QStringList &processes) {
   if (processes.isEmpty()) return tr("None of your own programs is seen to use it");
-  const qsizetype more = processes.size() - kMostHolders;
+  const int more = static_cast<int>(processes.size() - kMostHolders);
   const QString named = processes.mid(0, kMostHolders).join(u", "_s);
-  return more > 0 ? tr("In use by %1 and %2 more").arg(named).arg(more)
+  return more > 0 ? tr("In use by %1 and %n more", nullptr, more).arg(named)
                   : tr("In use by %1").arg(named);
+}
+
+// As a notification, because the status line says next that the volume is gone.
+void AppDelegate::warnUnwritten(const Notification &notification) {
+  const QString path = notification.userInfo.value(kNSDevicePathKey).toString();
+  notify(tr("%1 did not answer in time: not everything may have been written to it")
+             .arg(withoutMarkup(path)));
 }
 
 void AppDelegate::stopRunning() {}

@@ -1,15 +1,27 @@
+#include <QRegularExpression>
+
 #include "AppDelegate/AppDelegate.h"
 #include "Interface/CheckBox.h"
 #include "Platform/Platform.h"
 
 namespace {
+
 const QString kRunAtload = QStringLiteral("RunAtload");
+
+/// A text is true by its first character that counts: blanks, a sign and zeros before it do not.
+bool booleanValue(const QVariant &value) {
+  if (value.typeId() != QMetaType::QString) return value.toBool();
+  static const QRegularExpression isTrue(QStringLiteral("^\\s*[+-]?0*[YyTt1-9]"));
+  return isTrue.match(value.toString()).hasMatch();
 }
+
+}  // namespace
 
 void AppDelegate::restoreRunAtLoad() {
   // On at the first start of all: that is deliberate.
   const QVariant stored = _platform.userDefaults().object(kRunAtload);
-  _runAtLoadCheck->setState(!stored.isValid() || stored.toBool() ? CheckBox::kOn : CheckBox::kOff);
+  _runAtLoadCheck->setState(!stored.isValid() || booleanValue(stored) ? CheckBox::kOn
+                                                                      : CheckBox::kOff);
   runAtLoad(_runAtLoadCheck);
 }
 

@@ -1,4 +1,3 @@
-#include <QHash>
 #include <stdexcept>
 
 #include "AppDelegate/AppDelegate.h"
@@ -6,6 +5,7 @@
 #include "Foundation/SystemLog.h"
 #include "Foundation/Text.h"
 #include "Interface/EmptyView.h"
+#include "Interface/Notice.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,23 +29,23 @@ void AppDelegate::refreshLists() {
 
   explainEmptyList();
 
-  // The partitions of a disk share one line about it. Made once for each disk, it costs a walk over the
-  // disk's partitions; made once for each row, it would cost the square of that.
-  QHash<QString, QString> siblingLines;
-  for (const QString &name : names) _tableViewContents.append(recordOf(name, siblingLines));
+  for (const QString &name : names) _tableViewContents.append(recordOf(name));
   _tableView->reloadData();
+  updateMenu();
 }
 
-RowRecord AppDelegate::recordOf(const QString &bsdName, QHash<QString, QString> &siblingLines) {
+RowRecord AppDelegate::recordOf(const QString &bsdName) const {
   RowRecord record;
   record.img = DiskArbitrator::findVolumeIcon(bsdName);
-  if (record.img.isNull()) throw std::invalid_argument("no picture for " + bsdName.toStdString());
+  if (record.img.isNull()) throw std::invalid_argument(bsdName.toStdString());
   record.parentOf = DiskArbitrator::findBSDdiskParent(bsdName);
-  if (!siblingLines.contains(record.parentOf)) {
-    siblingLines[record.parentOf] =
-        DiskArbitrator::findAllPartitionNameParentSeparatedByComma(bsdName);
-  }
-  record.parentOfMedia = siblingLines[record.parentOf];
+  // The rows of a disk stand together and share the line about it. Asked for again in each row, it would cost the
+  // square of their number.
+  const bool isOnDiskAbove =
+      !_tableViewContents.isEmpty() && _tableViewContents.last().parentOf == record.parentOf;
+  record.parentOfMedia = isOnDiskAbove
+                             ? _tableViewContents.last().parentOfMedia
+                             : DiskArbitrator::findAllPartitionNameParentSeparatedByComma(bsdName);
   record.isMounted = DiskArbitrator::isMountPointValid(bsdName);
   record.mountPoint =
       printed(record.isMounted ? DiskArbitrator::findMountPoint(bsdName) : std::nullopt);
@@ -56,8 +56,13 @@ RowRecord AppDelegate::recordOf(const QString &bsdName, QHash<QString, QString> 
 void AppDelegate::refreshListsOrLog() {
   try {
     refreshLists();
-  } catch (const std::invalid_argument &problem) {
-    systemLog(u"The list of partitions is not complete: "_s + QString::fromUtf8(problem.what()));
+    _listNotice->setNotice({});
+  } catch (const std::invalid_argument &partition) {
+    const QString name = QString::fromUtf8(partition.what());
+    systemLog(u"The list of partitions is not complete: no picture for "_s + name);
+    _emptyView->setText({}, {});
+    _listNotice->setNotice(
+        tr("This list is not complete: the picture of %1 cannot be read.").arg(name));
   }
 }
 

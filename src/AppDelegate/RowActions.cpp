@@ -1,14 +1,14 @@
+#include <QAction>
 #include <QDesktopServices>
-#include <QFileInfo>
-#include <QUrl>
 
 #include "AppDelegate/AppDelegate.h"
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "ESPTableCellView.h"
-#include "Foundation/Text.h"
+#include "Foundation/Paths.h"
 #include "Interface/CheckBox.h"
 #include "Interface/InputGate.h"
 #include "Interface/RowButton.h"
+#include "Platform/Platform.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,17 +32,26 @@ class AppDelegate::RowAction {
 
  private:
   AppDelegate &_delegate;
-  InputGate _inputGate;
   MainQueue::Hold _queueHold;
+  InputGate _inputGate;  // goes first: it serves events once more
 };
 
+// Titles are copied before anything else: the list may be rebuilt and the button retitled while the
+// service works.
+
 void AppDelegate::mountOrUmount(RowButton *sender) {
-  // A screen reader presses buttons without an input event, so the gate alone does not keep a
-  // second one out.
-  if (sender == nullptr || _busyPartition.has_value()) return;
-  // Copied before anything else: the list may be rebuilt and the button retitled while the service
-  // works.
-  const QStringList pieces = sender->title().split(u' ');
+  if (sender != nullptr) mountOrUmount(QString(sender->title()));
+}
+
+void AppDelegate::openEsp(RowButton *sender) {
+  if (sender != nullptr) openEsp(QString(sender->title()));
+}
+
+void AppDelegate::mountOrUmount(const QString &title) {
+  // A screen reader presses buttons, and a panel chooses from the menu, without an input event, so the
+  // gate alone does not keep a second one out.
+  if (_busyPartition.has_value()) return;
+  const QStringList pieces = title.split(u' ');
   const QString verb = pieces.value(0);
   const QString partition = pieces.value(1);
 
@@ -55,17 +64,16 @@ void AppDelegate::mountOrUmount(RowButton *sender) {
   }
 }
 
-void AppDelegate::openEsp(RowButton *sender) {
-  if (sender == nullptr || _busyPartition.has_value()) return;
-  const QString path = sender->title().split("open "_L1).value(1);
+void AppDelegate::openEsp(const QString &title) {
+  if (_busyPartition.has_value()) return;
+  const QString path = title.split("open "_L1).value(1);
   if (path == "(null)"_L1 || path == "N/A"_L1 || !path.startsWith(u'/')) return;
-  // The file manager would show an error of its own at best.
-  if (!fileExistsAtPath(path)) return complain(tr("%1 is not there").arg(path));
-  const QFileInfo folder(path);
-  if (!folder.isReadable() || !folder.isExecutable()) {
-    return complain(tr("you may not read %1").arg(path));
-  }
-  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
+  // The file manager would show an error of its own at best. For a volume that is slow, it waits.
+  using enum LookAtPath::Access;
+  const auto access = _platform.volumeFiles().look(path).access;
+  if (access == Nothing) return complain(tr("%1 is not there").arg(path));
+  if (access == Closed) return complain(tr("you may not read %1").arg(path));
+  if (!QDesktopServices::openUrl(urlOfPath(path))) {
     complain(tr("no file manager could be started for %1").arg(path));
   }
 }
@@ -76,6 +84,7 @@ void AppDelegate::showAllDisks(CheckBox *sender) {
 }
 
 void AppDelegate::showBusyButtons() {
+  for (QAction *action : std::as_const(_rowActions)) action->setEnabled(!_busyPartition);
   for (TableCellView *cell : _tableView->visibleCells()) {
     if (auto *row = qobject_cast<ESPTableCellView *>(cell)) {
       row->mountButton()->setBusy(row->rowKey() == _busyPartition);

@@ -12,4 +12,11 @@ struct RowRecord {
   bool isMounted = false;
   QString mountPoint;  // "(null)" while it is not mounted
   QString ESP;         // the BSD name of the partition, whether it is an ESP or not
+
+  // What the buttons of its row say, and with it do.
+  QString mountTitle() const {
+    return (isMounted ? QStringLiteral("umount ") : QStringLiteral("mount ")) + ESP;
+  }
+  QString openTitle() const { return QStringLiteral("open ") + mountPoint; }
+  bool canBeMountedOrUmounted() const { return mountPoint != QLatin1String("/"); }
 };

@@ -53,15 +53,15 @@ TableCellView *AppDelegate::tableView(TableView *tableView, const TableColumn &v
   cell->setAccessibleDescription(record.isMounted ? tr("Mounted") : tr("Not mounted"));
 
   RowButton *mountButton = cell->mountButton();
-  mountButton->setTitle((record.isMounted ? u"umount "_s : u"mount "_s) + record.ESP);
+  mountButton->setTitle(record.mountTitle());
   mountButton->setProminent(!record.isMounted);
   mountButton->setBusy(record.ESP == _busyPartition);
   mountButton->setAction([this](RowButton *sender) { mountOrUmount(sender); });
   // One way: a cell with a disabled button is never given to another row.
-  if (record.mountPoint == "/"_L1) mountButton->setEnabled(false);
+  if (!record.canBeMountedOrUmounted()) mountButton->setEnabled(false);
 
   RowButton *openButton = cell->openButton();
-  openButton->setTitle(u"open "_s + record.mountPoint);
+  openButton->setTitle(record.openTitle());
   openButton->setEnabled(record.isMounted);
   openButton->setVisible(record.isMounted);
   openButton->setAction([this](RowButton *sender) { openEsp(sender); });

@@ -1,8 +1,11 @@
 #include "AppDelegate/AppDelegate.h"
+#include "Interface/Notice.h"
 #include "Interface/StatusItem.h"
 #include "Interface/TextField.h"
+#include "Platform/Desktop.h"
 
 void AppDelegate::showPopover() {
+  _outcomeIsAwaited = false;  // it will be seen
   _mainQueue.async([this] { _statusTextField->setStringValue(QString()); });
   _popover->showRelativeTo(topBarItem->anchor(), Qt::BottomEdge);
   if (_popoverTransiencyMonitor) return;
@@ -21,16 +24,28 @@ void AppDelegate::closeForActivityElsewhere() {
   _popover->close();
 }
 
+void AppDelegate::dismissPopover() {
+  if (!_busyPartition) _popover->close();
+}
+
+// Without an item, nobody would know that the program runs, nor how to open it.
+void AppDelegate::explainMissingTray() {
+  if (topBarItem->trayItem().isShown()) return;
+  _trayNotice->setNotice(_desktop.adviceWithoutTray());
+  showPopover();
+}
+
 bool AppDelegate::popoverShouldDetach(Popover * /*popover*/) {
   return false;
 }
 
 void AppDelegate::popoverDidShow() {
-  topBarItem->setHighlighted(true);
+  topBarItem->setOpen(true);
   darkModeAndRetina();
 }
 
 void AppDelegate::popoverWillClose() {
-  topBarItem->setHighlighted(false);
+  topBarItem->setOpen(false);
   darkModeAndRetina();
+  _trayNotice->setNotice({});
 }

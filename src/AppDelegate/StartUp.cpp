@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QTimer>
 
 #include "AppDelegate/AppDelegate.h"
 #include "DiskArbitrator/DiskArbitrator.h"
@@ -15,6 +16,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kVersion = u"1.6"_s;
+// Within which a tray that is there shows the item.
+constexpr std::chrono::milliseconds kTraysTime(1500);
 
 void setBackground(QWidget *window, const QColor &color) {
   QPalette palette = window->palette();
@@ -43,9 +46,14 @@ void AppDelegate::applicationDidFinishLaunching() {
   stopRunning();
   NotificationCenter::defaultCenter().addObserver(
       this, kArbitratorNotification, [this](const Notification &note) { arbitrator(note); });
+  NotificationCenter::defaultCenter().addObserver(
+      this, kVolumeInUseNotification, [this](const Notification &note) {
+        _volumeInUse = note.userInfo.value(kPartitionKey).toString();
+      });
 
   setBackground(_window, Qt::white);
   _popover->setDelegate(this);
+  _popover->setDesktop(&_desktop);
   _popover->setBehavior(Popover::Behavior::Transient);
   _popover->setAnimates(true);
 
@@ -53,9 +61,9 @@ void AppDelegate::applicationDidFinishLaunching() {
   darkModeAndRetina();
   topBarItem->setMenu(_menu);
   connect(topBarItem.get(), &StatusItem::action, this, &AppDelegate::showPopover);
-  connect(topBarItem.get(), &StatusItem::dismissal, _popover, &QWidget::close);
+  connect(topBarItem.get(), &StatusItem::dismissal, this, &AppDelegate::dismissPopover);
   connect(&_desktop, &Desktop::reopened, this, &AppDelegate::showPopover);
-  topBarItem->setHighlighted(false);
+  topBarItem->setOpen(false);
 
   _versionLabel->setStringValue(u"Keldra v"_s + kVersion);
   _statusTextField->setStringValue(QString());
@@ -68,4 +76,8 @@ void AppDelegate::applicationDidFinishLaunching() {
   _tableView->setDataSource(this);
   refreshListsOrLog();
   addRefreshObserver();
+  // At login, the tray may be late; nobody waits for it then.
+  if (!_desktop.wasStartedAtLogin()) {
+    QTimer::singleShot(kTraysTime, this, &AppDelegate::explainMissingTray);
+  }
 }

@@ -1,5 +1,6 @@
 #include <QGuiApplication>
 #include <QIcon>
+#include <QImageReader>
 #include <QPixmap>
 #include <QScreen>
 
@@ -16,8 +17,11 @@ constexpr int kSideOnDenseScreens = 36;  // twice the size in points as well, de
 // The picture in its size on the menu bar, and as large as it is for panels that have a size of
 // their own.
 QIcon statusImage(const QString &resource, int side) {
-  QIcon image(resource);
-  const QPixmap artwork(resource);
+  // Told what it is given, it starts no plugin to find out.
+  QImageReader reader(resource, "png");
+  reader.setAutoDetectImageFormat(false);
+  const QPixmap artwork = QPixmap::fromImageReader(&reader);
+  QIcon image(artwork);
   image.addPixmap(artwork.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
   return image;
 }

@@ -1,5 +1,6 @@
 #include <QCoreApplication>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include "AppDelegate/AppDelegate.h"
 #include "Foundation/Error.h"
@@ -7,8 +8,11 @@
 #include "SavedData/ManagedObjectContext.h"
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+constexpr auto kLongestRest = 5s;
 
 /// Stands in where nobody can be asked: an error keeps the program, as if it might recover.
 class UnattendedApplication : public Application {
@@ -22,10 +26,16 @@ class UnattendedApplication : public Application {
 }  // namespace
 
 void AppDelegate::closeApp() {
-  // The queue rests while a row action is under way.
-  _mainQueue.async([this] {
-    if (mayTerminate()) QCoreApplication::exit(0);
-  });
+  _isAskedToEnd = true;
+  // The queue rests while a row action is under way, which may be for ever.
+  _mainQueue.async([this] { endIfAsked([] { QCoreApplication::exit(0); }); });
+  if (!_busyPartition) return;
+  QTimer::singleShot(kLongestRest, this,
+                     [this] { endIfAsked([this] { emit endsInRowAction(); }); });
+}
+
+void AppDelegate::endIfAsked(const std::function<void()> &end) {
+  if (std::exchange(_isAskedToEnd, false) && mayTerminate()) end();
 }
 
 bool AppDelegate::mayTerminate() {

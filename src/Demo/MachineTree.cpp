@@ -1,6 +1,7 @@
 #include "Demo/MachineTree.h"
 
 #include <QHeaderView>
+#include <tuple>
 
 #include "Demo/Words.h"
 #include "Foundation/Text.h"
@@ -9,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Column { kName, kMedia, kVolume, kState, kAnswers };
-
 // Names may be of any length, and a row is one line.
 QString shortened(const QString &text) {
   constexpr int kLongest = 100;
@@ -18,13 +17,13 @@ QString shortened(const QString &text) {
 }
 
 QString answersOf(const SimulatedPartition &partition) {
+  const auto &[mount, unmount, delay, mishap] =
+      std::tie(partition.mountRefusal, partition.unmountRefusal, partition.delay, partition.mishap);
   QStringList words;
-  if (partition.mountRefusal) words += MachineTree::tr("mount: ") + phrase(partition.mountRefusal);
-  if (partition.unmountRefusal) {
-    words += MachineTree::tr("unmount: ") + phrase(partition.unmountRefusal);
-  }
-  if (partition.delay.count() > 0) words += MachineTree::tr("%1 ms").arg(partition.delay.count());
-  if (partition.mishap) words += phrase(partition.mishap);
+  if (mount) words += MachineTree::tr("mount: ") + phrase(refusals(), mount);
+  if (unmount) words += MachineTree::tr("unmount: ") + phrase(refusals(), unmount);
+  if (delay.count() > 0) words += MachineTree::tr("%1 ms").arg(delay.count());
+  if (mishap) words += phrase(mishaps(), mishap);
   return words.join(u", "_s);
 }
 
@@ -40,10 +39,7 @@ MachineTree::MachineTree(QWidget *parent) : QTreeWidget(parent) {
   setHeaderLabels({tr("Name"), tr("Media"), tr("Volume"), tr("State"), tr("Answers")});
   setUniformRowHeights(true);
   setAlternatingRowColors(true);
-  header()->resizeSection(kName, 100);
-  header()->resizeSection(kMedia, 180);
-  header()->resizeSection(kVolume, 90);
-  header()->resizeSection(kState, 140);
+  header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }
 
 void MachineTree::showMachine(const SimulatedPlatform &platform) {
@@ -53,7 +49,7 @@ void MachineTree::showMachine(const SimulatedPlatform &platform) {
   for (const SimulatedDisk &disk : platform.machine().disks) add(disk, tr("plugged"));
   for (const SimulatedDisk &disk : platform.pulledDisks()) add(disk, tr("pulled"));
   expandAll();
-  const auto found = findItems(selected, Qt::MatchExactly | Qt::MatchRecursive, kName);
+  const auto found = findItems(selected, Qt::MatchExactly | Qt::MatchRecursive);
   if (!found.isEmpty()) {
     setCurrentItem(found.first());
   } else if (QTreeWidgetItem *disk = topLevelItem(0)) {
@@ -71,7 +67,7 @@ void MachineTree::currentChanged(const QModelIndex &current, const QModelIndex &
 }
 
 QString MachineTree::selectedName() const {
-  return currentItem() ? currentItem()->text(kName) : QString();
+  return currentItem() ? currentItem()->text(0) : QString();
 }
 
 void MachineTree::add(const SimulatedDisk &disk, const QString &state) {

@@ -4,8 +4,8 @@
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QRadioButton>
 #include <QScreen>
+#include <algorithm>
 
 #include "Demo/Words.h"
 
@@ -17,26 +17,28 @@ constexpr int kLongestDelay = 60'000;
 constexpr int kDelayStep = 250;
 constexpr int kMargin = 24;
 
+template <typename Value>
+QStringList wordsOf(const Choices<Value> &choices) {
+  QStringList all;
+  for (const auto &[value, words] : choices) all += words;
+  return all;
+}
+
+template <typename Value>
+void choose(QComboBox *box, const Choices<Value> &choices, const std::optional<Value> &value) {
+  box->setCurrentIndex(box->findText(phrase(choices, value)));
+}
+
 }  // namespace
 
 MachineWindow::MachineWindow(SimulatedPlatform &platform)
-    : _platform(platform),
-      _tree(new MachineTree),
-      _volumeName(new QLineEdit),
-      _mountAnswer(new ChoiceButton(tr("Mount"), phrases(refusals()))),
-      _unmountAnswer(new ChoiceButton(tr("Unmount"), phrases(refusals()))),
-      _mishap(new ChoiceButton(tr("Mishap"), phrases(mishaps()))),
-      _delay(new QSpinBox),
-      _service(new QButtonGroup(this)) {
+    : _platform(platform), _tree(new MachineTree) {
   setWindowTitle(tr("Machine"));
   auto *layout = new QVBoxLayout(this);
   layout->addWidget(_tree, 1);
-  layout->addWidget(answerControls());
-  auto *line = new QHBoxLayout;
-  layout->addLayout(line);
-  line->addWidget(volumeControls(), 1);
-  line->addWidget(diskControls());
-  layout->addWidget(serviceControls());
+  addAnswers(addGroup(tr("How the service answers requests for the partition")));
+  addVolume(addGroup(tr("Volume, by another program")));
+  addMachine(addGroup(tr("Disk and disk service")));
   resize(760, 520);
   // The popover hangs from a corner at the top or at the right.
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
@@ -51,114 +53,88 @@ MachineWindow::MachineWindow(SimulatedPlatform &platform)
   refresh();
 }
 
-QWidget *MachineWindow::diskControls() {
-  auto *group = new QGroupBox(tr("Disk"));
-  auto *layout = new QHBoxLayout(group);
-  _pull = addButton(layout, tr("Pull"), &MachineWindow::pull);
-  _plugBack = addButton(layout, tr("Plug back"), &MachineWindow::plugBack);
-  return group;
+QBoxLayout *MachineWindow::addGroup(const QString &title) {
+  auto *group = new QGroupBox(title);
+  layout()->addWidget(group);
+  return new QHBoxLayout(group);
 }
 
-QWidget *MachineWindow::volumeControls() {
-  auto *group = new QGroupBox(tr("Volume, by another program"));
-  auto *layout = new QHBoxLayout(group);
-  _mount = addButton(layout, tr("Mount"), &MachineWindow::mount);
-  _unmount = addButton(layout, tr("Unmount"), &MachineWindow::unmount);
+void MachineWindow::addVolume(QBoxLayout *layout) {
+  _mount =
+      addButton(layout, tr("Mount"), [this] { _platform.mountFromOutside(_tree->selectedName()); });
+  _unmount = addButton(layout, tr("Unmount"),
+                       [this] { _platform.unmountFromOutside(_tree->selectedName()); });
+  _volumeName = new QLineEdit;
   _volumeName->setAccessibleName(tr("Volume name"));
   layout->addWidget(_volumeName, 1);
-  connect(_volumeName, &QLineEdit::returnPressed, this, &MachineWindow::rename);
-  _rename = addButton(layout, tr("Rename"), &MachineWindow::rename);
-  return group;
+  _rename = addButton(layout, tr("Rename"),
+                      [this] { _platform.rename(_tree->selectedName(), _volumeName->text()); });
+  connect(_volumeName, &QLineEdit::returnPressed, _rename, &QPushButton::click);
 }
 
-QWidget *MachineWindow::answerControls() {
-  auto *group = new QGroupBox(tr("How the service answers requests for the partition"));
-  auto *layout = new QHBoxLayout(group);
-  for (ChoiceButton *button : {_mountAnswer, _unmountAnswer, _mishap}) layout->addWidget(button, 1);
-  connect(_mountAnswer, &ChoiceButton::chosen, this, [this](int index) {
-    if (const auto *partition = selectedPartition())
-      refuse(refusals()[index], partition->unmountRefusal);
-  });
-  connect(_unmountAnswer, &ChoiceButton::chosen, this, [this](int index) {
-    if (const auto *partition = selectedPartition())
-      refuse(partition->mountRefusal, refusals()[index]);
-  });
-  connect(_mishap, &ChoiceButton::chosen, this, [this](int index) {
-    _platform.setMishap(_tree->selectedName(), mishaps()[index]);
+void MachineWindow::addAnswers(QBoxLayout *layout) {
+  const auto refuse = [this](int /*index*/) {
+    _platform.setRefusals(_tree->selectedName(),
+                          refusals().value(_mountAnswer->currentIndex()).first,
+                          refusals().value(_unmountAnswer->currentIndex()).first);
+    refresh();
+  };
+  _mountAnswer = addChoice(layout, tr("Mount"), wordsOf(refusals()), refuse);
+  _unmountAnswer = addChoice(layout, tr("Unmount"), wordsOf(refusals()), refuse);
+  _mishap = addChoice(layout, tr("Mishap"), wordsOf(mishaps()), [this](int index) {
+    _platform.setMishap(_tree->selectedName(), mishaps()[index].first);
     refresh();
   });
 
-  auto *label = new QLabel(tr("Delay"));
-  label->setBuddy(_delay);
-  layout->addWidget(label);
-  layout->addWidget(_delay);
+  _delay = new QSpinBox;
+  _delay->setPrefix(tr("Delay") + u' ');
   _delay->setAccessibleName(tr("Delay"));
   _delay->setRange(0, kLongestDelay);
   _delay->setSingleStep(kDelayStep);
   _delay->setKeyboardTracking(false);
   _delay->setSuffix(tr(" ms"));
+  layout->addWidget(_delay);
   connect(_delay, &QSpinBox::valueChanged, this, [this](int milliseconds) {
     _platform.setDelay(_tree->selectedName(), std::chrono::milliseconds(milliseconds));
     _tree->showMachine(_platform);
   });
-  return group;
 }
 
-QWidget *MachineWindow::serviceControls() {
-  using enum DiskService::Presence;
-  auto *group = new QGroupBox(tr("Disk service"));
-  auto *layout = new QHBoxLayout(group);
-  for (const auto &[presence, title] :
-       {std::pair(Answering, tr("answers")), std::pair(Asking, tr("has not answered yet")),
-        std::pair(Absent, tr("is absent"))}) {
-    auto *button = new QRadioButton(title);
-    _service->addButton(button, static_cast<int>(presence));
-    layout->addWidget(button);
-  }
-  layout->addStretch();
-  connect(_service, &QButtonGroup::idClicked, this, [this](int presence) {
-    _platform.setPresence(static_cast<DiskService::Presence>(presence));
+void MachineWindow::addMachine(QBoxLayout *layout) {
+  _pull = addButton(layout, tr("Pull"), [this] { _platform.pull(selectedUnit()); });
+  _plugBack = addButton(layout, tr("Plug back"), [this] { _platform.plugBack(selectedUnit()); });
+  // In the order of `DiskService::Presence`.
+  const QStringList presences = {tr("has not answered yet"), tr("answers"), tr("is absent")};
+  _presence = addChoice(layout, tr("Disk service"), presences, [this](int index) {
+    _platform.setPresence(static_cast<DiskService::Presence>(index));
   });
-  return group;
 }
 
 QPushButton *MachineWindow::addButton(QBoxLayout *layout, const QString &title,
-                                      void (MachineWindow::*action)()) {
+                                      std::function<void()> action) {
   auto *button = new QPushButton(title);
-  connect(button, &QPushButton::clicked, this, action);
+  connect(button, &QPushButton::clicked, this, std::move(action));
   layout->addWidget(button);
   return button;
 }
 
-void MachineWindow::pull() {
-  if (const auto unit = selectedUnit(_platform.machine().disks)) _platform.pull(*unit);
-}
-
-void MachineWindow::plugBack() {
-  if (const auto unit = selectedUnit(_platform.pulledDisks())) _platform.plugBack(*unit);
-}
-
-void MachineWindow::mount() {
-  _platform.mountFromOutside(_tree->selectedName());
-}
-
-void MachineWindow::unmount() {
-  _platform.unmountFromOutside(_tree->selectedName());
-}
-
-void MachineWindow::rename() {
-  _platform.rename(_tree->selectedName(), _volumeName->text());
-}
-
-void MachineWindow::refuse(std::optional<DissenterStatus> mount,
-                           std::optional<DissenterStatus> unmount) {
-  _platform.setRefusals(_tree->selectedName(), mount, unmount);
-  refresh();
+QComboBox *MachineWindow::addChoice(QBoxLayout *layout, const QString &title,
+                                    const QStringList &choices,
+                                    std::function<void(int index)> action) {
+  auto *box = new QComboBox;
+  box->addItems(choices);
+  box->setAccessibleName(title);
+  connect(box, &QComboBox::activated, this, std::move(action));
+  auto *label = new QLabel(title);
+  label->setBuddy(box);
+  layout->addWidget(label);
+  layout->addWidget(box, 1);
+  return box;
 }
 
 void MachineWindow::refresh() {
   _tree->showMachine(_platform);
-  _service->button(static_cast<int>(_platform.presence()))->setChecked(true);
+  _presence->setCurrentIndex(static_cast<int>(_platform.presence()));
   showSelected();
 }
 
@@ -171,15 +147,19 @@ void MachineWindow::showSelected() {
   const SimulatedPartition shown = partition ? *partition : SimulatedPartition();
   _mount->setEnabled(!shown.volumeKind.isEmpty() && !shown.mountPoint);
   _unmount->setEnabled(shown.mountPoint.has_value());
-  _pull->setEnabled(selectedUnit(_platform.machine().disks).has_value());
-  _plugBack->setEnabled(selectedUnit(_platform.pulledDisks()).has_value());
+  const auto isSelected = [this](const SimulatedDisk &disk) { return disk.unit == selectedUnit(); };
+  const auto isAmong = [&](const QVector<SimulatedDisk> &disks) {
+    return std::any_of(disks.begin(), disks.end(), isSelected);
+  };
+  _pull->setEnabled(isAmong(_platform.machine().disks));
+  _plugBack->setEnabled(isAmong(_platform.pulledDisks()));
 
   const QSignalBlocker notByAPerson(_delay);
   _delay->setValue(static_cast<int>(shown.delay.count()));
   if (_volumeName->text() != shown.volumeName) _volumeName->setText(shown.volumeName);
-  _mountAnswer->setCurrent(phrase(shown.mountRefusal));
-  _unmountAnswer->setCurrent(phrase(shown.unmountRefusal));
-  _mishap->setCurrent(phrase(shown.mishap));
+  choose(_mountAnswer, refusals(), shown.mountRefusal);
+  choose(_unmountAnswer, refusals(), shown.unmountRefusal);
+  choose(_mishap, mishaps(), shown.mishap);
 }
 
 const SimulatedPartition *MachineWindow::selectedPartition() const {
@@ -192,10 +172,7 @@ const SimulatedPartition *MachineWindow::selectedPartition() const {
   return nullptr;
 }
 
-std::optional<int> MachineWindow::selectedUnit(const QVector<SimulatedDisk> &disks) const {
-  const QString name = _tree->selectedName();
-  for (const SimulatedDisk &disk : disks) {
-    if (name == disk.bsdName() || name.startsWith(disk.bsdName() + u's')) return disk.unit;
-  }
-  return std::nullopt;
+int MachineWindow::selectedUnit() const {
+  const QString afterDisk = _tree->selectedName().mid(4);
+  return afterDisk.isEmpty() ? -1 : afterDisk.section(u's', 0, 0).toInt();
 }

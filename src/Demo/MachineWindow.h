@@ -9,13 +9,13 @@
 // While the service works, the whole program takes no input, this window included: what is to go
 // wrong in the middle of a request is chosen before it, as a mishap. Closing it quits nothing.
 
-#include <QButtonGroup>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QWidget>
-#include <optional>
+#include <functional>
 
-#include "Demo/ChoiceButton.h"
 #include "Demo/MachineTree.h"
 
 class QBoxLayout;
@@ -28,38 +28,33 @@ class MachineWindow : public QWidget {
   explicit MachineWindow(SimulatedPlatform &platform);
 
  private:
-  QWidget *diskControls();
-  QWidget *volumeControls();
-  QWidget *answerControls();
-  QWidget *serviceControls();
-  QPushButton *addButton(QBoxLayout *layout, const QString &title, void (MachineWindow::*action)());
-
-  void pull();
-  void plugBack();
-  void mount();
-  void unmount();
-  void rename();
-  void refuse(std::optional<DissenterStatus> mount, std::optional<DissenterStatus> unmount);
+  QBoxLayout *addGroup(const QString &title);
+  void addAnswers(QBoxLayout *layout);
+  void addVolume(QBoxLayout *layout);
+  void addMachine(QBoxLayout *layout);
+  QPushButton *addButton(QBoxLayout *layout, const QString &title, std::function<void()> action);
+  /// Calls the action when a person has chosen.
+  QComboBox *addChoice(QBoxLayout *layout, const QString &title, const QStringList &choices,
+                       std::function<void(int index)> action);
 
   void refresh();
   void showSelected();
   /// Null where a whole disk, a pulled one or nothing is selected.
   const SimulatedPartition *selectedPartition() const;
-  /// That of the selected disk, or of the disk with the selected partition; absent if it is not
-  /// among these disks.
-  std::optional<int> selectedUnit(const QVector<SimulatedDisk> &disks) const;
+  /// That of the selected disk, or of the disk with the selected partition; -1 for none.
+  int selectedUnit() const;
 
   SimulatedPlatform &_platform;
   MachineTree *_tree;
   QLineEdit *_volumeName;
-  ChoiceButton *_mountAnswer;
-  ChoiceButton *_unmountAnswer;
-  ChoiceButton *_mishap;
+  QComboBox *_mountAnswer;
+  QComboBox *_unmountAnswer;
+  QComboBox *_mishap;
   QSpinBox *_delay;
   QPushButton *_mount;
   QPushButton *_unmount;
   QPushButton *_rename;
   QPushButton *_pull;
   QPushButton *_plugBack;
-  QButtonGroup *_service;
+  QComboBox *_presence;
 };

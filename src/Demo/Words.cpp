@@ -11,45 +11,33 @@ struct Words {
   Q_DECLARE_TR_FUNCTIONS(Words)
 };
 
+Choices<DissenterStatus> makeRefusals() {
+  Choices<DissenterStatus> all = {{std::nullopt, Words::tr("as asked")}};
+  const auto add = [&all](DissenterStatus status) {
+    all.append({status, QString::fromLocal8Bit(daStatus(status))});
+  };
+  for (DissenterStatus status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
+    add(status);
+  }
+  // What services say of dismissed password prompts and of disks that are full or failing.
+  for (const int number : {ECANCELED, EACCES, ENOSPC, EIO, EROFS}) add(unixErrorStatus(number));
+  return all;
+}
+
 }  // namespace
 
-const QVector<std::optional<DissenterStatus>> &refusals() {
-  static const auto all = [] {
-    QVector<std::optional<DissenterStatus>> values = {std::nullopt};
-    for (DissenterStatus status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
-      values += status;
-    }
-    // What services say of dismissed password prompts and of disks that are full or failing.
-    for (const int number : {ECANCELED, EACCES, ENOSPC, EIO, EROFS}) {
-      values += unixErrorStatus(number);
-    }
-    return values;
-  }();
+const Choices<DissenterStatus> &refusals() {
+  static const Choices<DissenterStatus> all = makeRefusals();
   return all;
 }
 
-QString phrase(const std::optional<DissenterStatus> &refusal) {
-  return refusal ? QString::fromLocal8Bit(daStatus(*refusal)) : Words::tr("as asked");
-}
-
-const QVector<std::optional<Mishap>> &mishaps() {
-  using enum Mishap;
-  static const QVector<std::optional<Mishap>> all = {
-      std::nullopt, DiskVanishesBefore, DiskVanishesDuring, DiskVanishesAfter, ServiceDies};
+const Choices<Mishap> &mishaps() {
+  static const Choices<Mishap> all = {
+      {std::nullopt, Words::tr("none")},
+      {Mishap::DiskVanishesBefore, Words::tr("disk vanishes before")},
+      {Mishap::DiskVanishesDuring, Words::tr("disk vanishes during")},
+      {Mishap::DiskVanishesAfter, Words::tr("disk vanishes after")},
+      {Mishap::ServiceDies, Words::tr("service dies")},
+  };
   return all;
-}
-
-QString phrase(const std::optional<Mishap> &mishap) {
-  if (!mishap) return Words::tr("none");
-  switch (*mishap) {
-    case Mishap::DiskVanishesBefore:
-      return Words::tr("disk vanishes before");
-    case Mishap::DiskVanishesDuring:
-      return Words::tr("disk vanishes during");
-    case Mishap::DiskVanishesAfter:
-      return Words::tr("disk vanishes after");
-    case Mishap::ServiceDies:
-      break;
-  }
-  return Words::tr("service dies");
 }

@@ -1,24 +1,25 @@
 #pragma once
 
-// What the machine window calls the ways in which the service may answer.
+// The ways in which the simulated service may answer, and what the machine window calls them.
 
-#include <QStringList>
+#include <QString>
 #include <QVector>
+#include <utility>
 
 #include "Platform/simulated/Machine.h"
 
-/// The refusals that are offered, from the one that is none on.
-const QVector<std::optional<DissenterStatus>> &refusals();
-QString phrase(const std::optional<DissenterStatus> &refusal);
-
-/// The mishaps that are offered, from the one that is none on.
-const QVector<std::optional<Mishap>> &mishaps();
-QString phrase(const std::optional<Mishap> &mishap);
-
-/// The phrases of all of them, in their order.
+/// What is offered of a kind, from nothing of the kind on, with its words.
 template <typename Value>
-QStringList phrases(const QVector<Value> &values) {
-  QStringList texts;
-  for (const Value &value : values) texts += phrase(value);
-  return texts;
+using Choices = QVector<std::pair<std::optional<Value>, QString>>;
+
+const Choices<DissenterStatus> &refusals();
+const Choices<Mishap> &mishaps();
+
+/// The words of a choice; empty for what is not offered.
+template <typename Value>
+QString phrase(const Choices<Value> &choices, const std::optional<Value> &chosen) {
+  for (const auto &[value, words] : choices) {
+    if (value == chosen) return words;
+  }
+  return {};
 }

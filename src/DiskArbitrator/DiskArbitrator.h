@@ -8,7 +8,7 @@
 //
 // No operation keeps anything between calls: each asks the current platform afresh. A reference is
 // a BSD name, a device path or the path of a mounted volume. Failures are answers: an absent text,
-// NO, or one of the sentinel texts that the operation names. Main thread only.
+// false, or one of the sentinel texts that the operation names. Main thread only.
 //
 // On an old system (product version 10.8 or older) ESPs are found, mounted and unmounted by the
 // system's command-line tools, which block until they have ended.
@@ -16,6 +16,7 @@
 #include <QImage>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 #include "Platform/Platform.h"
@@ -44,7 +45,7 @@ class DiskArbitrator {
   /// The node by which the system's other tools know it, such as "/dev/nvme0n1p1".
   static std::optional<QString> findDeviceNode(const QString &reference);
 
-  // These answer for the whole disk that holds the reference. NO where nothing is known.
+  // These answer for the whole disk that holds the reference. False where nothing is known.
 
   static bool isGPT(const QString &reference);
   static bool isWritable(const QString &reference);
@@ -83,23 +84,26 @@ class DiskArbitrator {
   /// Whether `findMountPoint` gives a text that may be a path. "N/A" counts as one: an ESP of an
   /// old system is taken for mounted always.
   static bool isMountPointValid(const QString &reference);
+  /// Whether anything is at this absolute path: a volume, though it may not answer, or what can be seen there.
+  static bool isThere(const std::optional<QString> &path);
   /// "name (process number)" of each process that uses the volume, as far as the system lets this
-  /// user know. Empty while it is not mounted.
+  /// user know. Empty while it is not mounted. Blocks in a nested run of the run loop.
   static QStringList findProcessesUsing(const QString &reference);
+  /// As above, without blocking: `answer` is called once, inside this call or from the event loop.
+  static void findProcessesUsing(const QString &reference,
+                                 const std::function<void(const QStringList &)> &answer);
 
   // Mounting. Both block in a nested run of the run loop until the service has answered.
 
-  /// `atPath`, if it is there and not empty, is the folder to mount on; it is made if need be. YES
+  /// `atPath`, if it is there and not empty, is the folder to mount on; it is made if need be. True
   /// when the partition is mounted afterwards. A refusal is announced; after one, the answer takes
   /// five seconds.
   static bool mountPartition(const QString &partition, const std::optional<QString> &atPath);
-  /// YES in every case: the request was carried out. A refusal is announced.
+  /// True in every case: the request was carried out. A refusal is announced.
   static bool umountPartition(const QString &partition, bool forceUmount);
-  /// How the refusal to unmount a disk is announced.
-  static QString umountRefusal(const QString &disk, DissenterStatus status);
   /// What `mountPartition` does with an ESP on an old system: has it mounted as FAT on the folder at
   /// the path or, where anything is there already, on the first of "PATH 1", "PATH 2" ... that is
-  /// not there or empty. No path stands for "EFI" in the folder for volumes. YES when the mount
+  /// not there or empty. No path stands for "EFI" in the folder for volumes. True when the mount
   /// program succeeded, or when the partition is mounted at the path already; other failures are
   /// not announced.
   static bool mountPartitionModeLegacy(const QString &partition,
@@ -148,3 +152,8 @@ class DiskArbitrator {
 /// The name of the notification that announces a refusal, and the key of its text.
 inline const QString kArbitratorNotification = QStringLiteral("arbitrator");
 inline const QString kNoteKey = QStringLiteral("note");
+
+/// The notification right before that one when an unmount is refused because the volume is in use,
+/// and the key of the partition's BSD name.
+inline const QString kVolumeInUseNotification = QStringLiteral("volumeInUse");
+inline const QString kPartitionKey = QStringLiteral("partition");

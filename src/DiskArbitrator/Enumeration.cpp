@@ -1,5 +1,3 @@
-#include <QDir>
-
 #include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
 
@@ -31,12 +29,14 @@ QStringList DiskArbitrator::findAllEFIdisk() {
 }
 
 QStringList DiskArbitrator::getListOfMountedMedia() {
-  const QDir volumes(Platform::current().volumesFolder());
-  const auto filter = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot;
-  QStringList names = volumes.entryList(filter, QDir::Unsorted);
+  Platform &platform = Platform::current();
+  QStringList names;
+  for (const FolderEntry &entry :
+       platform.volumeFiles().entries(platform.volumesFolder()).value_or(QList<FolderEntry>())) {
+    if (entry.isFolder) names += entry.name;
+  }
 
-  const bool runsFromInstaller =
-      Platform::current().systemFiles().exists(u"/System/Installation/CDIS"_s);
+  const bool runsFromInstaller = platform.systemFiles().exists(u"/System/Installation/CDIS"_s);
   if (!runsFromInstaller) {
     const QString bootVolume = findBSDNameOfCurrentVolume().value_or(QString());
     names.append(lastPathComponent(printed(findMountPointName(bootVolume))));

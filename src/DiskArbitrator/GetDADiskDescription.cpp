@@ -1,6 +1,6 @@
 #include "DiskArbitrator/GetDADiskDescription.h"
 
-#include "Foundation/Text.h"
+#include "Foundation/Paths.h"
 #include "Platform/Platform.h"
 
 using namespace Qt::StringLiterals;
@@ -15,8 +15,11 @@ std::optional<DiskDescription> getDAdiskDescriptionFromBSDorMountpoint(const QSt
     if (isDevicePath) name.remove("/dev/"_L1);
     return service.descriptionOfMedia(name).value_or(DiskDescription());
   }
-  if (reference.startsWith(u'/') && fileExistsAtPath(reference)) {
-    return service.descriptionOfVolume(reference).value_or(DiskDescription());
-  }
-  return std::nullopt;
+  if (!reference.startsWith(u'/')) return std::nullopt;
+  const QString path = canonicalPath(reference);
+  // What the service has mounted is there, whether it answers or not.
+  if (const auto description = service.descriptionOfVolume(path)) return description;
+  const QString realPath = Platform::current().volumeFiles().look(path).realPath;
+  if (realPath.isEmpty()) return std::nullopt;
+  return service.descriptionOfVolume(realPath).value_or(DiskDescription());
 }

@@ -1,7 +1,6 @@
-#include <QDir>
-
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "DiskArbitrator/daStatus.h"
+#include "Foundation/NotificationCenter.h"
 #include "Foundation/Text.h"
 
 using namespace std::chrono_literals;
@@ -40,12 +39,14 @@ void waitUntilMounted(const QString &partition) {
 
 bool DiskArbitrator::mountPartition(const QString &partition,
                                     const std::optional<QString> &atPath) {
-  if (fileExistsAtPath(findMountPoint(partition))) return true;
+  if (isThere(findMountPoint(partition))) return true;
   if (needsLegacyMode(partition)) return mountPartitionModeLegacy(partition, atPath);
 
   const bool hasPath = atPath.has_value() && !atPath->isEmpty();
   if (hasPath && isMountPointValid(*atPath)) return isSameDisk(partition, *atPath);
-  if (hasPath && !fileExistsAtPath(*atPath)) QDir().mkpath(*atPath);
+  if (hasPath && !isThere(*atPath)) {
+    Platform::current().volumeFiles().makeFolder(*atPath, VolumeFiles::Parents::Make);
+  }
 
   const QString disk = printed(findBSDName(partition));
   await(
@@ -58,7 +59,7 @@ bool DiskArbitrator::mountPartition(const QString &partition,
 }
 
 bool DiskArbitrator::umountPartition(const QString &partition, bool forceUmount) {
-  if (!fileExistsAtPath(findMountPoint(partition))) return true;
+  if (!isThere(findMountPoint(partition))) return true;
   if (needsLegacyMode(partition)) {
     umountPartitionModeLegacy(partition);
     return true;
@@ -83,10 +84,10 @@ void DiskArbitrator::mountCallback(const QString &disk, const std::optional<Diss
 void DiskArbitrator::umountCallback(const QString &disk,
                                     const std::optional<Dissenter> &dissenter) {
   if (!dissenter.has_value()) return;
-  sendNotificationWithMessage(umountRefusal(disk, dissenter->status));
-}
-
-QString DiskArbitrator::umountRefusal(const QString &disk, DissenterStatus status) {
-  const QString reason = QString::fromLocal8Bit(daStatus(status));
-  return u"umount failed for "_s + disk + ", reason: "_L1 + reason;
+  if (dissenter->status == kDAReturnBusy) {
+    NotificationCenter::defaultCenter().post(
+        {kVolumeInUseNotification, sender(), {{kPartitionKey, disk}}});
+  }
+  const QString reason = QString::fromLocal8Bit(daStatus(dissenter->status));
+  sendNotificationWithMessage(u"umount failed for "_s + disk + ", reason: "_L1 + reason);
 }

@@ -1,10 +1,10 @@
 // ESPs on systems up to 10.8, where the command-line tools stand in for the disk service.
 
-#include <QDir>
-#include <QFileInfo>
+#include <algorithm>
 
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "DiskArbitrator/DiskFree.h"
+#include "Foundation/Paths.h"
 #include "Foundation/SystemLog.h"
 #include "Foundation/Text.h"
 
@@ -16,13 +16,16 @@ QString devicePath(const QString &reference) {
   return u"/dev/"_s + printed(DiskArbitrator::findBSDName(reference));
 }
 
-/// The base is taken only if nothing is there at all; one with a number also if it is empty. Asked
-/// strictly: below a closed folder everything would count as being there, and no number as free.
+bool exists(const QString &path) {
+  return !Platform::current().volumeFiles().look(path).realPath.isEmpty();
+}
+
+/// The base is taken only if nothing is there at all; one with a number also if it is empty.
 QString folderToMountOn(const QString &base) {
   QString folder = base;
-  for (int number = 1; QFileInfo::exists(folder); ++number) {
+  for (int number = 1; exists(folder); ++number) {
     folder = base + u' ' + QString::number(number);
-    if (QFileInfo::exists(folder) && DiskArbitrator::chosenFolderIsEmpty(folder)) break;
+    if (exists(folder) && DiskArbitrator::chosenFolderIsEmpty(folder)) break;
   }
   return folder;
 }
@@ -40,7 +43,7 @@ bool DiskArbitrator::needsLegacyMode(const QString &reference) {
 QString DiskArbitrator::findMountPointLegacy(const QString &reference) {
   const QString device = devicePath(reference);
   const ProgramRun df = Platform::current().systemPrograms().run(u"/bin/df"_s, {});
-  return mountPointInDiskFree(QString::fromUtf8(df.output), device).value_or(u"N/A"_s);
+  return mountPointInDiskFree(pathFromBytes(df.output), device).value_or(u"N/A"_s);
 }
 
 bool DiskArbitrator::mountPartitionModeLegacy(const QString &partition,
@@ -52,7 +55,7 @@ bool DiskArbitrator::mountPartitionModeLegacy(const QString &partition,
     base = *atPath;
   }
   const QString folder = folderToMountOn(base);
-  if (!QFileInfo::exists(folder)) QDir().mkdir(folder);
+  if (!exists(folder)) platform.volumeFiles().makeFolder(folder, VolumeFiles::Parents::Leave);
 
   const ProgramRun mount = platform.systemPrograms().run(
       u"/sbin/mount"_s, {u"-t"_s, u"msdos"_s, devicePath(partition), folder});
@@ -70,11 +73,10 @@ void DiskArbitrator::umountPartitionModeLegacy(const QString &partition) {
 }
 
 bool DiskArbitrator::chosenFolderIsEmpty(const QString &path) {
-  const QFileInfo folder(path);
-  const QFileInfo visited(path + "/.DS_Store"_L1);
-  // The file manager has been here: somebody uses it.
-  if (visited.exists() && !visited.isDir()) return false;
-  // Entries whose names begin with a dot are not listed.
-  const auto everything = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
-  return folder.isDir() && folder.isReadable() && QDir(path).isEmpty(everything);
+  const auto entries = Platform::current().volumeFiles().entries(path);
+  return entries && std::ranges::none_of(*entries, [](const FolderEntry &entry) {
+           // The file manager has been here: somebody uses it.
+           const bool isTrace = entry.name == ".DS_Store"_L1 && !entry.isFolder;
+           return isTrace || !entry.name.startsWith(u'.');
+         });
 }

@@ -11,7 +11,7 @@ namespace {
 OptionalText widthOfFAT(const QString &bsdName) {
   if (!DiskArbitrator::mountPartition(bsdName, std::nullopt)) return std::nullopt;
   const OptionalText mountPoint = DiskArbitrator::findMountPoint(bsdName);
-  if (!fileExistsAtPath(mountPoint)) return std::nullopt;
+  if (!DiskArbitrator::isThere(mountPoint)) return std::nullopt;
 
   const auto subtype = Platform::current().rawDevices().fileSystemSubtype(*mountPoint);
   const QString widths[] = {u"Fat12"_s, u"Fat16"_s, u"Fat32"_s};

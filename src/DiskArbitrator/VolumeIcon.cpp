@@ -17,7 +17,7 @@ std::optional<QString> volumeIconPath(const QString &partition) {
 
 /// Null when the description names no picture, or one that is not there.
 QImage mediaIconOf(const QString &partition, const std::optional<QString> &volumeIcon) {
-  const Platform &platform = Platform::current();
+  Platform &platform = Platform::current();
   const QVariantMap record = descriptionValue(partition, kDADiskDescriptionMediaIconKey).toMap();
   const auto bundle = platform.driverBundle(record.value(kMediaIconBundleKey).toString());
   if (!bundle) return {};
@@ -26,7 +26,7 @@ QImage mediaIconOf(const QString &partition, const std::optional<QString> &volum
   const auto resource = files.bundleResource(*bundle, file.completeBaseName(), file.suffix());
   if (resource) return files.image(*resource).value_or(QImage());
   // A bundle that does not open leaves the path as it was before: that of the volume's own icon.
-  return volumeIcon ? platform.imageOnVolume(*volumeIcon).value_or(QImage()) : QImage();
+  return volumeIcon ? platform.volumeFiles().image(*volumeIcon).value_or(QImage()) : QImage();
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ QImage DiskArbitrator::findVolumeIcon(const QString &partition) {
 
   const std::optional<QString> volumeIcon = volumeIconPath(partition);
   // Whatever can be read there is the answer, also if it does not decode.
-  const auto own = volumeIcon ? Platform::current().imageOnVolume(*volumeIcon) : std::nullopt;
+  const auto own = volumeIcon ? Platform::current().volumeFiles().image(*volumeIcon) : std::nullopt;
   if (own) return *own;
 
   const QImage ofMedia = mediaIconOf(partition, volumeIcon);

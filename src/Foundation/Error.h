@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <memory>
+#include <system_error>
 
 /// Why something could not be done, in words for a person and in numbers for a program.
 struct Error {
@@ -28,5 +29,6 @@ inline constexpr int kFileWriteUnknown = 512;
 
 /// What the system said by this error number.
 inline Error posixError(int number) {
-  return {kPOSIXErrorDomain, number, qt_error_string(number)};
+  return {kPOSIXErrorDomain, number,
+          QString::fromStdString(std::generic_category().message(number))};
 }

@@ -1,9 +1,5 @@
 #include "Foundation/Text.h"
 
-#include <sys/stat.h>
-
-#include <QFile>
-#include <cerrno>
 #include <limits>
 
 QString printed(const OptionalText &text) {
@@ -53,13 +49,4 @@ bool isHarmless(char32_t character) {
     default:
       return true;
   }
-}
-
-bool fileExistsAtPath(const OptionalText &path) {
-  if (!path.has_value() || path->isEmpty()) return false;
-  struct stat status {};
-  if (stat(QFile::encodeName(*path).constData(), &status) == 0) return true;
-  // Volumes of other users lie below folders that are closed to us, and a volume whose disk has failed
-  // may answer with an error: they are mounted all the same.
-  return errno == EACCES || errno == EIO || errno == ENOTCONN || errno == ESTALE;
 }

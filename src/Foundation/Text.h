@@ -26,7 +26,3 @@ QString lastPathComponent(const QString &path);
 /// Whether a character from elsewhere may stand in a line of text: it is no control character, and
 /// neither breaks lines, nor turns the direction of writing, nor means something else in rich text.
 bool isHarmless(char32_t character);
-
-/// Whether anything is at this path, links followed. What is there but may not or cannot be looked at
-/// counts. Blocks for as long as the file system takes to answer.
-bool fileExistsAtPath(const OptionalText &path);

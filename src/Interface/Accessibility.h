@@ -1,7 +1,7 @@
 #pragma once
 
 // Makes our own widgets known to screen readers: the table as a list, a cell as a list item with
-// its buttons, the one-line text as a label with its text. Call it once, after QApplication is
+// its buttons, an announcement as a notification. Call it once, after QApplication is
 // there and before the first widget; further calls do nothing.
 
 void installAccessibility();

@@ -1,13 +1,17 @@
 #include "Interface/Announcement.h"
 
-#include <QAccessible>
-#include <QWidget>
-
-Announcement::Announcement(QWidget *parent) : QObject(parent), _widget(parent) {}
+Announcement::Announcement(QWidget *parent) : QWidget(parent) {
+  resize(0, 0);
+  hide();
+}
 
 void Announcement::say(const QString &text) {
-  _text = text;
-  if (!_widget->isVisible()) return;
-  QAccessibleEvent event(this, text.isEmpty() ? QAccessible::ObjectHide : QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&event);
+  hide();
+  setAccessibleName(text);
+  setVisible(!text.isEmpty() && parentWidget()->isVisible());
+}
+
+void Announcement::hideEvent(QHideEvent *event) {
+  QWidget::hideEvent(event);
+  hide();  // or it would be said again when the parent shows again
 }

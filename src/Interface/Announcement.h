@@ -4,13 +4,11 @@
 // label that changes while nobody is at it; what they do read out is a notification that appears,
 // so there is one for them, which nobody sees.
 //
-//   announcement.say(u"disk0s1 mouted at /media/ada/EFI"_s);
+//   announcement->say(u"disk0s1 mouted at /media/ada/EFI"_s);
 
-#include <QObject>
+#include <QWidget>
 
-class QWidget;
-
-class Announcement : public QObject {
+class Announcement : public QWidget {
   Q_OBJECT
 
  public:
@@ -19,9 +17,7 @@ class Announcement : public QObject {
 
   /// An empty text takes back the one before.
   void say(const QString &text);
-  QString text() const { return _text; }
 
- private:
-  QWidget *_widget;
-  QString _text;
+ protected:
+  void hideEvent(QHideEvent *event) override;
 };

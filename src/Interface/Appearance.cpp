@@ -1,9 +1,9 @@
 #include "Interface/Appearance.h"
 
 #include <QApplication>
-#include <QPalette>
 
 #include "Interface/Look.h"
+#include "Platform/common/DarkPalette.h"
 
 namespace {
 
@@ -26,18 +26,15 @@ QPalette paletteOf(bool dark) {
   return palette;
 }
 
-bool hasDarkAppearance() {
-  return QApplication::palette().color(QPalette::Window).lightnessF() < 0.5F;
-}
-
 }  // namespace
 
-void setDarkAppearance(bool dark) {
+void setDarkAppearance(bool dark, const std::optional<QColor> &accent) {
   const QPalette present = QApplication::palette();
-  QPalette palette = dark == hasDarkAppearance() ? present : paletteOf(dark);
+  QPalette palette = dark == hasDarkWindows(present) ? present : paletteOf(dark);
   // The accent is the desktop's, in a shade on which its text can be read.
   const QColor selected = present.color(QPalette::HighlightedText);
   palette.setColor(QPalette::HighlightedText, selected);
-  palette.setColor(QPalette::Highlight, readableOn(selected, present.color(QPalette::Highlight)));
+  palette.setColor(QPalette::Highlight,
+                   readableOn(selected, accent.value_or(present.color(QPalette::Highlight))));
   QApplication::setPalette(palette);
 }

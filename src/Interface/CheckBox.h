@@ -5,8 +5,6 @@
 
 #include <QCheckBox>
 
-class Look;
-
 class CheckBox : public QCheckBox {
   Q_OBJECT
 
@@ -22,9 +20,6 @@ class CheckBox : public QCheckBox {
   /// Any value but off and mixed is on. Does not emit `acted`.
   void setState(int state);
 
-  QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
-
  signals:
   /// A person has changed the state: with the mouse, the keyboard or a screen reader.
   void acted();
@@ -32,10 +27,7 @@ class CheckBox : public QCheckBox {
  protected:
   bool hitButton(const QPoint &position) const override;
   void nextCheckState() override;
-  void paintEvent(QPaintEvent *event) override;
 
  private:
-  void paintMark(QPainter &painter, const Look &look, const QRectF &box) const;
-
   bool _settingState = false;
 };

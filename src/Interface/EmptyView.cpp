@@ -1,59 +1,45 @@
 #include "Interface/EmptyView.h"
 
-#include <QEvent>
-#include <QLabel>
-#include <QVBoxLayout>
+#include <QPainter>
 
 #include "Interface/Look.h"
 
 namespace {
 
-QLabel *makeLabel(QWidget *parent) {
-  auto *label = new QLabel(parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setAlignment(Qt::AlignCenter);
-  label->setWordWrap(true);
-  return label;
-}
-
-void setTextColor(QLabel *label, const QColor &color) {
-  QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, color);
-  label->setPalette(palette);
-}
+constexpr int kTextFlags = Qt::AlignHCenter | Qt::TextWordWrap;
 
 }  // namespace
 
-EmptyView::EmptyView(QWidget *parent)
-    : QWidget(parent), _headline(makeLabel(this)), _advice(makeLabel(this)) {
-  const Look look(this);
-  auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(look.scaled(56), look.scaled(56), look.scaled(56), look.scaled(56));
-  layout->setSpacing(look.scaled(6));
-  layout->addWidget(_headline);
-  layout->addWidget(_advice);
-  updateLook();
-}
-
 void EmptyView::setText(const QString &headline, const QString &advice) {
-  _headline->setText(headline);
-  _advice->setText(advice);
+  _headline = headline;
+  _advice = advice;
+  setAccessibleName(headline + u'\n' + advice);
+  updateGeometry();
+  update();
 }
 
 QSize EmptyView::sizeHint() const {
-  const int width = Look(this).popoverWidth();
-  return {width, heightForWidth(width)};
-}
-
-void EmptyView::changeEvent(QEvent *event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) updateLook();
-}
-
-void EmptyView::updateLook() {
   const Look look(this);
-  _headline->setFont(look.titleFont());
-  setTextColor(_headline, look.text());
-  _advice->setFont(look.detailFont());
-  setTextColor(_advice, look.dimText());
+  const int margin = look.scaled(56);
+  const QRect room(0, 0, look.popoverWidth() - 2 * margin, 10 * margin);
+  const auto height = [&](const QFont &font, const QString &text) {
+    return QFontMetrics(font).boundingRect(room, kTextFlags, text).height();
+  };
+  return {look.popoverWidth(), height(look.titleFont(), _headline) + look.scaled(6) +
+                                   height(look.detailFont(), _advice) + 2 * margin};
+}
+
+void EmptyView::paintEvent(QPaintEvent *) {
+  const Look look(this);
+  const int margin = look.scaled(56);
+  QRect place = rect().adjusted(margin, (height() - sizeHint().height()) / 2 + margin, -margin, 0);
+  QPainter painter(this);
+  painter.setFont(look.titleFont());
+  painter.setPen(look.text);
+  QRect headline;
+  painter.drawText(place, kTextFlags, _headline, &headline);
+  painter.setFont(look.detailFont());
+  painter.setPen(look.dimText);
+  place.setTop(headline.bottom() + 1 + look.scaled(6));
+  painter.drawText(place, kTextFlags, _advice);
 }

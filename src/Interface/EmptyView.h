@@ -4,25 +4,21 @@
 
 #include <QWidget>
 
-class QLabel;
-
 class EmptyView : public QWidget {
   Q_OBJECT
 
  public:
-  explicit EmptyView(QWidget *parent = nullptr);
+  using QWidget::QWidget;
 
-  /// Plain text both.
+  /// Plain text both. Screen readers read them as one text of two lines.
   void setText(const QString &headline, const QString &advice);
 
   QSize sizeHint() const override;
 
  protected:
-  void changeEvent(QEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
 
  private:
-  void updateLook();
-
-  QLabel *_headline;
-  QLabel *_advice;
+  QString _headline;
+  QString _advice;
 };

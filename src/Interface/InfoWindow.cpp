@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "Interface/Look.h"
 #include "Interface/PlainText.h"
@@ -17,12 +18,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Where reading begins in the window, whatever the direction of the letters.
+Qt::Alignment leadingEdge(const QWidget *widget) {
+  return (widget->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
+}
+
 QLabel *makeTitle(QWidget *window) {
   const Look look(window);
   auto *title = new QLabel(QGuiApplication::applicationDisplayName(), window);
   QFont font = look.titleFont();
   font.setPointSizeF(font.pointSizeF() * 1.6);
   title->setFont(font);
+  title->setAlignment(leadingEdge(window) | Qt::AlignVCenter);
   return title;
 }
 
@@ -43,8 +50,7 @@ class Value : public QLabel {
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setFocusPolicy(Qt::StrongFocus);
     setWordWrap(true);
-    // Beside its subject, whatever the direction of its letters.
-    setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
+    setAlignment(leadingEdge(this));
   }
 
  protected:
@@ -60,6 +66,9 @@ class Value : public QLabel {
 
 InfoWindow::InfoWindow(QWidget *parent) : QDialog(parent) {
   setWindowTitle(tr("About Keldra"));
+}
+
+void InfoWindow::makeContent() {
   const Look look(this);
   auto *head = new QHBoxLayout;
   head->setSpacing(look.margin());
@@ -84,23 +93,21 @@ InfoWindow::InfoWindow(QWidget *parent) : QDialog(parent) {
   buttons->addWidget(copy);
   buttons->addWidget(_closeButton);
 
-  _table = new QWidget(this);
+  _rows = new QFormLayout;
+  _rows->setHorizontalSpacing(look.margin());
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(look.scaled(24), look.scaled(20), look.scaled(24), look.scaled(20));
   layout->setSpacing(look.margin());
   layout->addLayout(head);
-  layout->addWidget(_table, 1);
+  layout->addLayout(_rows, 1);
   layout->addLayout(buttons);
   setMinimumWidth(look.scaled(420));
 }
 
 void InfoWindow::setFacts(const Facts &facts) {
   _facts = facts;
-  delete _rows;
-  qDeleteAll(_table->findChildren<QLabel *>());
-  _rows = new QFormLayout(_table);
-  _rows->setContentsMargins(0, 0, 0, 0);
-  _rows->setHorizontalSpacing(Look(this).margin());
+  if (!layout()) makeContent();
+  while (_rows->rowCount() > 0) _rows->removeRow(0);
   for (const auto &[subject, value] : facts) {
     if (value.isEmpty()) continue;
     auto *label = new QLabel(subject);
@@ -108,8 +115,18 @@ void InfoWindow::setFacts(const Facts &facts) {
     auto *shown = new Value(value);
     label->setBuddy(shown);  // a screen reader says them together
     _rows->addRow(label, shown);
+    // At once: what is not shown yet has no part in the window's size.
+    label->show();
+    shown->show();
   }
-  adjustSize();
+  fitContent();
+}
+
+void InfoWindow::fitContent() {
+  layout()->activate();
+  const int width = std::max(minimumWidth(), layout()->totalSizeHint().width());
+  const int height = layout()->totalHeightForWidth(width);
+  resize(width, height >= 0 ? height : layout()->totalSizeHint().height());
 }
 
 QString InfoWindow::text() const {
@@ -120,6 +137,7 @@ QString InfoWindow::text() const {
 
 void InfoWindow::makeKeyAndOrderFront() {
   _closeButton->setFocus();
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();

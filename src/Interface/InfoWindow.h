@@ -27,8 +27,10 @@ class InfoWindow : public QDialog {
   QString text() const;
 
  private:
+  void makeContent();
+  void fitContent();
+
   Facts _facts;
-  QWidget *_table = nullptr;
   QFormLayout *_rows = nullptr;
   QPushButton *_closeButton = nullptr;
 };

@@ -8,36 +8,28 @@ namespace {
 
 int livingGates = 0;
 
-bool isInput(QEvent::Type type) {
-  switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
+bool isInput(const QEvent *event) {
+  switch (event->type()) {
     case QEvent::InputMethod:
-    case QEvent::Wheel:
-    case QEvent::NativeGesture:
     case QEvent::Gesture:
     case QEvent::GestureOverride:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TouchCancel:
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
-    case QEvent::ContextMenu:
       return true;
-    default:
+    case QEvent::Enter:
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+    case QEvent::HoverLeave:
+      // A button goes on knowing whether the pointer is over it.
       return false;
+    default:
+      // What the program sends itself is nobody's input.
+      return event->isInputEvent() && event->spontaneous();
   }
 }
 
-// A button that has not seen its release would take the next one for its own.
+}  // namespace
+
 void letGo(QAbstractButton *button) {
+  // `setDown` alone would let the pointer resume the press.
   const QPointF outside(-1, -1);
   QMouseEvent release(QEvent::MouseButtonRelease, outside, button->mapToGlobal(outside),
                       Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
@@ -45,17 +37,18 @@ void letGo(QAbstractButton *button) {
   button->setDown(false);
 }
 
-}  // namespace
-
 InputGate::InputGate() {
   ++livingGates;
   qApp->installEventFilter(this);
 }
 
 InputGate::~InputGate() {
+  // Input may still be waiting: some run loops serve everything but that.
+  if (livingGates == 1) QCoreApplication::processEvents();
   qApp->removeEventFilter(this);
   --livingGates;
   if (isClosed()) return;
+  // A button that has not seen its release would take the next one for its own.
   for (QWidget *widget : QApplication::allWidgets()) {
     auto *button = qobject_cast<QAbstractButton *>(widget);
     if (button && button->isDown()) letGo(button);
@@ -67,10 +60,12 @@ bool InputGate::isClosed() {
 }
 
 bool InputGate::eventFilter(QObject *watched, QEvent *event) {
+  // The program waits for the answer to a dialog, and nothing else.
+  if (QApplication::activeModalWidget() != nullptr) return false;
   // A shortcut's receiver is an action or a shortcut object. Windows below the widgets keep their
   // account of what is pressed where, so only what has reached a widget is swallowed.
   const bool swallowed =
-      event->type() == QEvent::Shortcut || (watched->isWidgetType() && isInput(event->type()));
+      event->type() == QEvent::Shortcut || (watched->isWidgetType() && isInput(event));
   if (swallowed) event->accept();
   return swallowed;
 }

@@ -2,7 +2,8 @@
 
 // While a gate lives, what a person does with the mouse, the keyboard, a wheel, a finger or a pen
 // does not reach the program's widgets. It is lost, not kept for later: what was meant for a button
-// must not reach the button that has taken its place meanwhile. Painting and timers go on.
+// must not reach the button that has taken its place meanwhile. Painting and timers go on, and a
+// dialog that is shown all the same can be answered.
 //
 //   {
 //     const InputGate gate;
@@ -13,12 +14,15 @@
 
 #include <QObject>
 
+class QAbstractButton;
+
 class InputGate : public QObject {
   Q_OBJECT
 
  public:
   InputGate();
-  /// Lets go, without a click, of buttons whose release was lost.
+  /// Serves the event loop once, so that input which has come before this is lost as well; then
+  /// lets go, without a click, of buttons whose release was lost.
   ~InputGate() override;
 
   /// Whether a gate lives.
@@ -26,3 +30,6 @@ class InputGate : public QObject {
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 };
+
+/// Lets go of a button that is held down, without a click.
+void letGo(QAbstractButton *button);

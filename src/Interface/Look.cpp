@@ -2,9 +2,13 @@
 
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QPalette>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <optional>
+
+#include "Platform/common/DarkPalette.h"
 
 namespace {
 
@@ -26,6 +30,15 @@ QColor blend(const QColor &ground, const QColor &over, qreal share) {
   return QColor::fromRgbF(channel(ground.redF(), over.redF()),
                           channel(ground.greenF(), over.greenF()),
                           channel(ground.blueF(), over.blueF()));
+}
+
+// Most widgets have the same palette, and its colours cost more than all the rest of a painting.
+const Colors &colorsOf(const QPalette &palette) {
+  static qint64 key = 0;
+  static std::optional<Colors> colors;
+  if (!colors || key != palette.cacheKey()) colors.emplace(palette);
+  key = palette.cacheKey();
+  return *colors;
 }
 
 }  // namespace
@@ -50,79 +63,34 @@ QColor laidOver(const QColor &ground, const QColor &tint) {
   return blend(ground, tint, tint.alphaF());
 }
 
+Colors::Colors(const QPalette &palette)
+    : isDark(hasDarkWindows(palette)),
+      // Of the two grounds that a palette has, the one that is nearer to the middle is the calmer
+      // in the dark.
+      ground(palette.color(isDark ? QPalette::Window : QPalette::Base)),
+      accent(readableOn(ground, palette.color(QPalette::Active, QPalette::Highlight))),
+      selection(blend(ground, accent, isDark ? 0.16 : 0.09)) {
+  // Rows may have the selection behind them, which is a little nearer to the texts.
+  const auto readable = [this](const QColor &wished) {
+    return readableOn(ground, readableOn(selection, wished));
+  };
+  text = readable(palette.color(isDark ? QPalette::WindowText : QPalette::Text));
+  dimText = readable(blend(ground, text, 0.62));
+  disabledText = readableOn(ground, blend(ground, text, 0.4));
+  hairline = blend(ground, text, 0.11);
+  border = blend(ground, text, 0.22);
+  outline = readableOn(ground, border, 3.0);
+  hover = pressed = text;
+  hover.setAlphaF(0.06F);
+  pressed.setAlphaF(0.14F);
+  buttonFill = isDark ? blend(ground, text, 0.08) : ground;
+  red = readableOn(ground, isDark ? QColor(0xff7b72) : QColor(0xc62828));
+  blue = readableOn(ground, isDark ? QColor(0x82b1ff) : QColor(0x1f57c3));
+}
+
 Look::Look(const QWidget *widget) : Look(widget->palette(), widget->font()) {}
 
-Look::Look(const QPalette &palette, const QFont &font) : _palette(palette), _font(font) {
-  _dark = palette.color(QPalette::Window).lightnessF() < 0.5F;
-  // Of the two grounds that a palette has, the one that is nearer to the middle is the calmer in
-  // the dark.
-  _ground = palette.color(_dark ? QPalette::Window : QPalette::Base);
-}
-
-QColor Look::mixed(const QColor &over, qreal share) const {
-  return blend(_ground, over, share);
-}
-
-// Rows may have the selection behind them, which is a little nearer to the texts.
-QColor Look::readable(const QColor &wished) const {
-  return readableOn(_ground, readableOn(selection(), wished));
-}
-
-QColor Look::text() const {
-  return readable(_palette.color(_dark ? QPalette::WindowText : QPalette::Text));
-}
-
-QColor Look::dimText() const {
-  return readable(mixed(text(), 0.62));
-}
-
-QColor Look::disabledText() const {
-  return readableOn(_ground, mixed(text(), 0.4));
-}
-
-QColor Look::hairline() const {
-  return mixed(text(), 0.11);
-}
-
-QColor Look::border() const {
-  return mixed(text(), 0.22);
-}
-
-QColor Look::outline() const {
-  return readableOn(_ground, border(), 3.0);
-}
-
-QColor Look::selection() const {
-  return mixed(accent(), _dark ? 0.16 : 0.09);
-}
-
-QColor Look::hover() const {
-  QColor tint = text();
-  tint.setAlphaF(0.06F);
-  return tint;
-}
-
-QColor Look::pressed() const {
-  QColor tint = text();
-  tint.setAlphaF(0.14F);
-  return tint;
-}
-
-QColor Look::buttonFill() const {
-  return _dark ? mixed(text(), 0.08) : _ground;
-}
-
-QColor Look::accent() const {
-  return readableOn(_ground, _palette.color(QPalette::Active, QPalette::Highlight));
-}
-
-QColor Look::red() const {
-  return readableOn(_ground, _dark ? QColor(0xff7b72) : QColor(0xc62828));
-}
-
-QColor Look::blue() const {
-  return readableOn(_ground, _dark ? QColor(0x82b1ff) : QColor(0x1f57c3));
-}
+Look::Look(const QPalette &palette, const QFont &font) : Colors(colorsOf(palette)), _font(font) {}
 
 QFont Look::titleFont() const {
   QFont font = _font;
@@ -138,6 +106,12 @@ QFont Look::detailFont() const {
   } else {
     font.setPixelSize(qRound(font.pixelSize() * kShare));
   }
+  return font;
+}
+
+QFont Look::buttonFont(bool isProminent) const {
+  QFont font = detailFont();
+  if (isProminent) font.setWeight(QFont::DemiBold);
   return font;
 }
 

@@ -6,34 +6,39 @@
 
 #include <QColor>
 #include <QFont>
-#include <QPalette>
 
+class QPalette;
 class QWidget;
 
-class Look {
+/// Every text reads on the ground with at least 4.5 to 1, and rows' texts on the selection as well.
+struct Colors {
+  explicit Colors(const QPalette &palette);
+
+  bool isDark;
+  QColor ground;  // of the popover
+  QColor accent;
+  QColor selection;  // behind the selected row
+  QColor text;
+  QColor dimText;  // second lines
+  QColor disabledText;
+  QColor hairline;  // between rows
+  QColor border;    // of buttons and of the popover
+  QColor outline;   // of what must be found by its outline alone
+  QColor hover;     // laid over what the pointer is on
+  QColor pressed;   // laid over what is held down
+  QColor buttonFill;
+  QColor red;
+  QColor blue;
+};
+
+class Look : public Colors {
  public:
   explicit Look(const QWidget *widget);
   Look(const QPalette &palette, const QFont &font);
 
-  bool isDark() const { return _dark; }
-
-  QColor ground() const { return _ground; }  // of the popover
-  QColor text() const;
-  QColor dimText() const;  // second lines
-  QColor disabledText() const;
-  QColor hairline() const;   // between rows
-  QColor border() const;     // of buttons and of the popover
-  QColor outline() const;    // of what must be found by its outline alone
-  QColor selection() const;  // behind the selected row
-  QColor hover() const;      // laid over what the pointer is on
-  QColor pressed() const;    // laid over what is held down
-  QColor buttonFill() const;
-  QColor accent() const;
-  QColor red() const;
-  QColor blue() const;
-
   QFont titleFont() const;   // first lines
   QFont detailFont() const;  // second lines
+  QFont buttonFont(bool isProminent) const;
 
   /// A length given for the usual font, in proportion to the font in use.
   int scaled(int atUsualSize) const;
@@ -47,13 +52,7 @@ class Look {
   int margin() const { return scaled(16); }
 
  private:
-  QColor readable(const QColor &wished) const;
-  QColor mixed(const QColor &over, qreal share) const;
-
-  QPalette _palette;
   QFont _font;
-  QColor _ground;
-  bool _dark;
 };
 
 /// How well one colour reads on another, from 1 (not at all) to 21 (black on white).

@@ -1,14 +1,15 @@
 #include "Interface/MainInterface.h"
 
 #include <QApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "Interface/EmptyView.h"
-#include "Interface/Hairline.h"
 #include "Interface/InfoWindow.h"
 #include "Interface/Look.h"
-#include "Interface/QuietButton.h"
+#include "Interface/Notice.h"
+#include "Interface/Style.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +18,23 @@ static void registerPictures() {
   Q_INIT_RESOURCE(pictures);
 }
 
+namespace {
+
+QFrame *makeHairline() {
+  auto *line = Style::applied(new QFrame);
+  line->setFrameShape(QFrame::HLine);
+  line->setFixedHeight(1);
+  return line;
+}
+
+QPushButton *makeFlatButton(const QString &title, QWidget *parent) {
+  auto *button = Style::applied(new QPushButton(title, parent));
+  button->setFlat(true);
+  return button;
+}
+
+}  // namespace
+
 MainInterface::MainInterface()
     : _menu(std::make_unique<QMenu>()),
       _popover(std::make_unique<Popover>()),
@@ -24,84 +42,82 @@ MainInterface::MainInterface()
       _infoWindow(std::make_unique<InfoWindow>()) {
   registerPictures();
   _popover->setWindowTitle(u"Keldra"_s);
-  QApplication::setWindowIcon(QIcon(u":/Keldra.png"_s));
-  _popover->setContentView(makeContent());
+  _popover->setContentView(_content = new QWidget);
+  QObject::connect(_popover.get(), &Popover::aboutToShow, _content, [this] { arrange(); });
+  makeParts();
   _openAction = _menu->addAction(tr("Open Keldra"));
   _menu->addSeparator();
   _quitAction = _menu->addAction(tr("Quit"));
-  showTableOrEmptyText();
 }
 
 MainInterface::~MainInterface() = default;
 
-QWidget *MainInterface::makeContent() {
-  auto *content = new QWidget;
-  _tableView = new TableView;
+// In the order in which the keyboard comes to them.
+void MainInterface::makeParts() {
+  _tableView = new TableView(_content);
   _tableView->setAccessibleName(tr("Partitions"));
-  _tableView->registerPrototype(u"MainCell"_s,
-                                [](QWidget *parent) { return new ESPTableCellView(parent); });
-  QObject::connect(_tableView, &TableView::reloaded, content, [this] { showTableOrEmptyText(); });
-  _emptyView = new EmptyView;
-
-  auto *layout = new QVBoxLayout(content);
-  layout->setContentsMargins(1, 1, 1, 1);  // the popover's border
-  layout->setSpacing(0);
-  layout->addWidget(_tableView, 1);
-  layout->addWidget(_emptyView, 1);
-  layout->addWidget(new Hairline);
-  layout->addWidget(makeOptions());
-  layout->addWidget(new Hairline);
-  layout->addWidget(makeFoot());
-  return content;
+  _tableView->setPrototype(u"MainCell"_s,
+                           [](QWidget *parent) { return new ESPTableCellView(parent); });
+  QObject::connect(_tableView, &TableView::reloaded, _content, [this] { showTableOrEmptyText(); });
+  _emptyView = new EmptyView(_content);
+  _listNotice = new Notice(_content);
+  _trayNotice = new Notice(_content);
+  _showAllDisksCheck = new CheckBox(tr("Show all"), _content);
+  _forceUmountCheck = new CheckBox(tr("Force unmount"), _content);
+  _runAtLoadCheck = new CheckBox(tr("Launch at login"), _content);
+  _statusTextField = new TextField(_content);
+  _statusTextField->setAccessibleDescription(tr("Status"));
+  _statusTextField->setAnnounced();
+  _versionLabel = new TextField(_content);
+  _infoButton = makeFlatButton(tr("Info"), _content);
+  _webSiteButton = makeFlatButton(tr("Web site"), _content);
+  _quitButton = makeFlatButton(tr("Quit"), _content);
 }
 
-QWidget *MainInterface::makeOptions() {
-  auto *options = new QWidget;
-  const Look look(options);
-  _showAllDisksCheck = new CheckBox(tr("Show all"));
-  _forceUmountCheck = new CheckBox(tr("Force unmount"));
-  _runAtLoadCheck = new CheckBox(tr("Launch at login"));
-  _statusTextField = new TextField;
-  _statusTextField->setAccessibleName(tr("Status"));
-  _statusTextField->setAnnounced();
-
+// A program that waits in the tray has no need of fonts and pictures, and whoever never opens it
+// never pays for them.
+void MainInterface::arrange() {
+  if (_content->layout()) return;
+  QApplication::setWindowIcon(QIcon(u":/Keldra.png"_s));
+  const Look look(_content);
   auto *boxes = new QHBoxLayout;
   boxes->addWidget(_showAllDisksCheck);
   boxes->addStretch();
   boxes->addWidget(_forceUmountCheck);
   boxes->addStretch();
   boxes->addWidget(_runAtLoadCheck);
-  auto *layout = new QVBoxLayout(options);
-  layout->setContentsMargins(look.margin(), look.scaled(10), look.margin(), look.scaled(10));
-  layout->setSpacing(look.scaled(9));
-  layout->addLayout(boxes);
-  layout->addWidget(_statusTextField);
-  return options;
-}
+  auto *options = new QVBoxLayout;
+  options->setContentsMargins(look.margin(), look.scaled(10), look.margin(), look.scaled(10));
+  options->setSpacing(look.scaled(9));
+  options->addLayout(boxes);
+  options->addWidget(_statusTextField);
 
-QWidget *MainInterface::makeFoot() {
-  auto *foot = new QWidget;
-  const Look look(foot);
-  _versionLabel = new TextField;
-  _infoButton = new QuietButton(tr("Info"));
-  _webSiteButton = new QuietButton(tr("Web site"));
-  _quitButton = new QuietButton(tr("Quit"));
-
-  auto *layout = new QHBoxLayout(foot);
-  // A quiet button's word, not its invisible frame, is in line with what stands above.
+  auto *foot = new QHBoxLayout;
+  // A flat button's word, not its invisible frame, is in line with what stands above.
   const int overhang = look.scaled(10);
   const int margin = look.margin() - overhang;
-  layout->setContentsMargins(margin, look.scaled(5), margin, look.scaled(5));
-  layout->setSpacing(look.scaled(2));
-  layout->addSpacing(overhang);
-  layout->addWidget(_versionLabel, 1);
-  layout->addWidget(_infoButton);
-  layout->addWidget(_webSiteButton);
-  layout->addWidget(_quitButton);
-  return foot;
+  foot->setContentsMargins(margin, look.scaled(5), margin, look.scaled(5));
+  foot->setSpacing(look.scaled(2));
+  foot->addSpacing(overhang);
+  foot->addWidget(_versionLabel, 1);
+  for (QPushButton *button : {_infoButton, _webSiteButton, _quitButton}) foot->addWidget(button);
+
+  auto *layout = new QVBoxLayout(_content);
+  layout->setContentsMargins(1, 1, 1, 1);  // the popover's border
+  layout->setSpacing(0);
+  layout->addWidget(_listNotice);
+  layout->addWidget(_trayNotice);
+  layout->addWidget(_tableView, 1);
+  layout->addWidget(_emptyView, 1);
+  layout->addWidget(makeHairline());
+  layout->addLayout(options);
+  layout->addWidget(makeHairline());
+  layout->addLayout(foot);
+  showTableOrEmptyText();
 }
 
 void MainInterface::showTableOrEmptyText() {
+  if (!_content->layout()) return;  // what is shown takes its size from fonts
   const bool empty = _tableView->numberOfRows() == 0;
   _emptyView->setVisible(empty);
   _tableView->setVisible(!empty);

@@ -19,6 +19,7 @@
 
 class EmptyView;
 class InfoWindow;
+class Notice;
 class QPushButton;
 
 class MainInterface {
@@ -35,6 +36,10 @@ class MainInterface {
   TableView *tableView() const { return _tableView; }
   /// What stands in the table's place while it has no rows: what is so, and what to do about it.
   EmptyView *emptyView() const { return _emptyView; }
+  /// Above the rows: why the list is not complete, while it is not.
+  Notice *listNotice() const { return _listNotice; }
+  /// Above the rows, too: that there is no tray.
+  Notice *trayNotice() const { return _trayNotice; }
   CheckBox *showAllDisksCheck() const { return _showAllDisksCheck; }
   CheckBox *forceUmountCheck() const { return _forceUmountCheck; }
   CheckBox *runAtLoadCheck() const { return _runAtLoadCheck; }
@@ -54,18 +59,19 @@ class MainInterface {
   QAction *quitAction() const { return _quitAction; }
 
  private:
-  QWidget *makeContent();
-  QWidget *makeOptions();
-  QWidget *makeFoot();
+  void makeParts();
+  void arrange();
   void showTableOrEmptyText();
 
   std::unique_ptr<QMenu> _menu;
   std::unique_ptr<Popover> _popover;
   std::unique_ptr<QWidget> _window;
   std::unique_ptr<InfoWindow> _infoWindow;
-  // In the popover's content, which owns them:
+  QWidget *_content = nullptr;  // the popover's, which owns these:
   TableView *_tableView = nullptr;
   EmptyView *_emptyView = nullptr;
+  Notice *_listNotice = nullptr;
+  Notice *_trayNotice = nullptr;
   CheckBox *_showAllDisksCheck = nullptr;
   CheckBox *_forceUmountCheck = nullptr;
   CheckBox *_runAtLoadCheck = nullptr;

@@ -4,12 +4,12 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
 
 #include "Interface/Look.h"
-#include "Interface/WindowHints.h"
 
 namespace {
 
@@ -18,7 +18,8 @@ constexpr int kArrowHeight = 9;
 constexpr int kShadowWidth = 16;
 constexpr int kSlide = 6;
 constexpr int kAppearanceMilliseconds = 150;
-constexpr PopoverMetrics kMetrics{kArrowHeight, kCornerRadius + kArrowHeight + 2, 6};
+constexpr int kHalfArrow = kArrowHeight + 2;
+constexpr PopoverMetrics kMetrics{kArrowHeight, 6, 6};
 
 QScreen *screenOf(const QRect &anchor) {
   QScreen *screen = QGuiApplication::screenAt(anchor.isNull() ? QCursor::pos() : anchor.center());
@@ -48,7 +49,7 @@ Popover::Popover(QWidget *parent)
   _appearance.setEndValue(1.0);
   connect(&_appearance, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
     setWindowOpacity(value.toReal());
-    place();
+    moveFrame();
   });
   connect(qApp, &QGuiApplication::applicationStateChanged, this, &Popover::applicationStateChanged);
 }
@@ -59,17 +60,18 @@ void Popover::setContentView(QWidget *view) {
   _contentView = view;
   if (!view) return;
   view->setParent(this);
-  view->show();
+  if (isVisible()) view->show();
   arrangeContent();
 }
 
 void Popover::showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge) {
-  _anchor = windowsCanBePlaced() ? anchor : QRect();
+  if (_desktop) _abilities = _desktop->windowAbilities();
+  _anchor = _abilities.canBePlaced ? anchor : QRect();
   _preferredEdge = preferredEdge;
-  _composited = windowsAreComposited();
   const bool wasShown = isVisible();
+  if (!wasShown) emit aboutToShow();
   place();
-  if (!wasShown && _animates && windowsCanFade()) {
+  if (!wasShown && _animates && _abilities.canFade) {
     setWindowOpacity(0);
     _appearance.start();
   }
@@ -104,8 +106,12 @@ void Popover::applicationStateChanged(Qt::ApplicationState state) {
 }
 
 void Popover::keyPressEvent(QKeyEvent *event) {
+  auto *button = qobject_cast<QPushButton *>(focusWidget());
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (event->key() == Qt::Key_Escape) {
     close();
+  } else if (isReturn && button && !event->isAutoRepeat()) {
+    button->click();
   } else {
     QWidget::keyPressEvent(event);
   }
@@ -124,7 +130,7 @@ bool Popover::event(QEvent *event) {
 }
 
 void Popover::showEvent(QShowEvent *event) {
-  keepOutOfTaskbar(this);
+  if (_desktop) _desktop->keepOutOfTaskbar(*this);
   QWidget::showEvent(event);
 }
 
@@ -140,26 +146,38 @@ QSize Popover::panelSize(const QRect &available) const {
 }
 
 void Popover::place() {
-  const QRect available = screenOf(_anchor)->availableGeometry();
-  _placement = placePopover(panelSize(available), _anchor, _preferredEdge, available, kMetrics);
+  const QScreen *screen = screenOf(_anchor);
+  _available = screen->availableGeometry();
+  _placement = placePopover(panelSize(_available), _anchor, _preferredEdge,
+                            {screen->geometry(), _available}, kMetrics, isLeftToRight());
+  moveFrame();
+  arrangeContent();
+}
+
+void Popover::moveFrame() {
   QRect frame = _placement.panel.marginsAdded(margins());
   if (_appearance.state() == QAbstractAnimation::Running) {
-    const qreal left = 1 - _appearance.currentValue().toReal();
-    const int slide = qRound(kSlide * left);
-    frame.translate(0, _placement.arrowEdge == Qt::BottomEdge ? slide : -slide);
+    // Towards the item, so that it is never pushed away from the screen's edge.
+    const int slide = qRound(kSlide * (1 - _appearance.currentValue().toReal()));
+    frame.translate(0, _placement.arrowEdge == Qt::BottomEdge ? -slide : slide);
   }
-  if (windowsCanBePlaced()) {
+  if (_abilities.canBePlaced) {
     setGeometry(frame);
   } else {
     // A desktop of tiles leaves windows of one size alone.
     setFixedSize(frame.size());
   }
-  arrangeContent();
 }
 
 QMargins Popover::margins() const {
-  const int around = _composited ? kShadowWidth : 0;
-  QMargins margins(around, around, around, around);
+  // A window that leaves the screen is pushed back, and its arrow away from the item.
+  const QRect &panel = _placement.panel;
+  const auto shadow = [this](int room) {
+    return _abilities.canBeTranslucent ? std::clamp(room, 0, kShadowWidth) : 0;
+  };
+  QMargins margins(shadow(panel.left() - _available.left()), shadow(panel.top() - _available.top()),
+                   shadow(_available.right() - panel.right()),
+                   shadow(_available.bottom() - panel.bottom()));
   // The shadow must not lie on the item and take its clicks.
   if (_placement.arrowEdge == Qt::TopEdge) margins.setTop(kArrowHeight);
   if (_placement.arrowEdge == Qt::BottomEdge) margins.setBottom(kArrowHeight);
@@ -177,11 +195,11 @@ void Popover::resizeEvent(QResizeEvent *event) {
 
 void Popover::arrangeContent() {
   if (_contentView) _contentView->setGeometry(panelRect());
-  const Shape shape{size(), _placement.arrowEdge, _placement.arrowX, _composited};
+  const Shape shape{size(), _placement.arrowEdge, _placement.arrowX, _abilities.canBeTranslucent};
   if (shape == _shape) return;
   _shape = shape;
   _frame = QPixmap();
-  if (_composited) {
+  if (_abilities.canBeTranslucent) {
     clearMask();
   } else {
     setMask(QRegion(outline(0).toFillPolygon().toPolygon()));
@@ -197,15 +215,20 @@ QPainterPath Popover::outline(qreal inset) const {
 
   const bool top = _placement.arrowEdge == Qt::TopEdge;
   const qreal base = top ? panel.top() : panel.bottom();
-  const qreal tip = top ? base - kArrowHeight + 1 : base + kArrowHeight - 1;
-  const qreal inside = top ? base + 1 : base - 1;  // or the panel's own line would part them
+  const qreal up = top ? -1 : 1;   // away from the panel
+  const qreal inside = base - up;  // or the panel's own line would part them
   const qreal x = panel.left() + _placement.arrowX;
-  QPainterPath arrow;
-  arrow.moveTo(x - kArrowHeight - 2, inside);
-  arrow.lineTo(x, tip);
-  arrow.lineTo(x + kArrowHeight + 2, inside);
-  arrow.closeSubpath();
-  return path.united(arrow);
+  const qreal left = std::max(x - kHalfArrow, panel.left());
+  const qreal right = std::min(x + kHalfArrow, panel.right());
+  QPolygonF arrow{{left, inside}, {x, base + up * (kArrowHeight - 1)}, {right, inside}};
+  // Over a corner, it stands on the side below.
+  const qreal foot = base - up * kCornerRadius;
+  if (right > panel.right() - kCornerRadius) arrow << QPointF(panel.right(), foot);
+  if (left < panel.left() + kCornerRadius) arrow << QPointF(panel.left(), foot);
+  QPainterPath arrowPath;
+  arrowPath.addPolygon(arrow);
+  arrowPath.closeSubpath();
+  return path.united(arrowPath);
 }
 
 QPixmap Popover::paintedFrame() const {
@@ -214,12 +237,12 @@ QPixmap Popover::paintedFrame() const {
   QPixmap frame((QSizeF(size()) * devicePixelRatioF()).toSize());
   frame.setDevicePixelRatio(devicePixelRatioF());
   // Without a compositor, what the smooth edge lets through would be black.
-  frame.fill(_composited ? QColor(Qt::transparent) : look.border());
+  frame.fill(_abilities.canBeTranslucent ? QColor(Qt::transparent) : look.border);
   QPainter painter(&frame);
   painter.setRenderHint(QPainter::Antialiasing);
-  if (_composited) paintShadow(painter, path, look.isDark());
-  painter.setPen(QPen(look.border(), 1));
-  painter.setBrush(look.ground());
+  if (_abilities.canBeTranslucent) paintShadow(painter, path, look.isDark);
+  painter.setPen(QPen(look.border, 1));
+  painter.setBrush(look.ground);
   painter.drawPath(path);
   return frame;
 }

@@ -16,6 +16,7 @@
 #include <QWidget>
 
 #include "Interface/PopoverPlacement.h"
+#include "Platform/Desktop.h"
 
 class Popover;
 
@@ -43,6 +44,10 @@ class Popover : public QWidget {
   /// Not owned. Null for none.
   void setDelegate(PopoverDelegate *delegate) { _delegate = delegate; }
 
+  /// Tells what windows can do there. Not owned, and must live as long as the popover. Without one,
+  /// everything can be done.
+  void setDesktop(const Desktop *desktop) { _desktop = desktop; }
+
   void setBehavior(Behavior behavior) { _behavior = behavior; }
 
   /// Whether it appears softly, where the desktop can show that.
@@ -52,8 +57,9 @@ class Popover : public QWidget {
   void setContentView(QWidget *view);
 
   /// Shows the popover below the anchor, a rectangle in screen coordinates, or over it with
-  /// `Qt::TopEdge`; on the other side where there is no room. A null anchor: in the middle of the
-  /// screen that has the pointer, without an arrow; likewise where the desktop places windows itself.
+  /// `Qt::TopEdge`; on the other side where there is no room. A null anchor: where trays are as a rule
+  /// on the screen that has the pointer, without an arrow. Where the desktop places windows itself, it
+  /// has no arrow.
   /// One that is shown already moves there.
   void showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge);
 
@@ -65,6 +71,10 @@ class Popover : public QWidget {
   void setHeldOpen(bool held) { _heldOpen = held; }
 
   PopoverPlacement placement() const { return _placement; }
+
+ signals:
+  /// `showRelativeTo` is about to open it, and has not looked at the content's size yet.
+  void aboutToShow();
 
  protected:
   void changeEvent(QEvent *event) override;
@@ -82,11 +92,12 @@ class Popover : public QWidget {
     QSize size;
     std::optional<Qt::Edge> arrowEdge;
     int arrowX = 0;
-    bool composited = true;
+    bool translucent = true;
     bool operator==(const Shape &) const = default;
   };
 
   void place();
+  void moveFrame();
   void arrangeContent();
   QSize panelSize(const QRect &available) const;
   QRect panelRect() const;
@@ -101,11 +112,13 @@ class Popover : public QWidget {
   QRect _anchor;
   Qt::Edge _preferredEdge = Qt::BottomEdge;
   PopoverPlacement _placement;
+  QRect _available;  // of the screen, to windows
   QVariantAnimation _appearance;
   Behavior _behavior = Behavior::ApplicationDefined;
   bool _animates = false;
   bool _heldOpen = false;
-  bool _composited = true;
+  const Desktop *_desktop = nullptr;
+  WindowAbilities _abilities;
   Shape _shape;
   QPixmap _frame;  // the shadow is dear; null until it is painted for this shape
 };

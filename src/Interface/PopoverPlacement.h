@@ -15,12 +15,19 @@ struct PopoverPlacement {
 struct PopoverMetrics {
   int arrowHeight;   // from the panel's edge to the tip
   int arrowInset;    // the nearest that the tip comes to a corner
-  int screenMargin;  // what stays free between the panel and the edge of the screen
+  int screenMargin;  // what stays free between the panel's sides and the edge of the screen
+};
+
+struct PopoverScreen {
+  QRect whole;
+  QRect available;  // what bars leave to windows
 };
 
 /// Places a panel of this size at the anchor, on its `preferredEdge` (top or bottom), or on the
-/// other side when only that one has room. `available` is the part of the screen that is free for
-/// windows; the panel lies within it where it fits. An anchor in a bar at the side of the screen has
-/// it beside it, a null one in the middle, both without an arrow.
+/// other side when only that one has room. The panel and its arrow lie within what is available where
+/// they fit. An anchor in a bar at the side of the screen has it beside it, without an arrow. A null
+/// one has it, without an arrow, at the end of the screen's widest bar, where trays are as a rule
+/// (`endsAtRight` in a bar along the top or bottom), or in the middle where there is no bar.
 PopoverPlacement placePopover(const QSize &panel, const QRect &anchor, Qt::Edge preferredEdge,
-                              const QRect &available, const PopoverMetrics &metrics);
+                              const PopoverScreen &screen, const PopoverMetrics &metrics,
+                              bool endsAtRight = true);

@@ -4,11 +4,13 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStyleOption>
 #include <chrono>
 
 #include "Interface/InputGate.h"
 #include "Interface/Look.h"
 #include "Interface/PlainText.h"
+#include "Interface/Style.h"
 
 namespace {
 
@@ -25,15 +27,15 @@ int spinnerAngle() {
 }  // namespace
 
 RowButton::RowButton(QWidget *parent) : QPushButton(parent) {
+  Style::applied(this);
   // The table leads the keyboard from button to button, also to rows that have no cell yet.
   setFocusPolicy(Qt::ClickFocus);
-  setAttribute(Qt::WA_Hover);
   connect(this, &QPushButton::clicked, this, &RowButton::act);
 }
 
 void RowButton::setTitle(const QString &title) {
   if (title == _title) return;
-  cancelPress();
+  letGo(this);
   _title = title;
   setAccessibleName(title);
   update();
@@ -56,15 +58,6 @@ void RowButton::setProminent(bool prominent) {
   if (prominent == _prominent) return;
   _prominent = prominent;
   update();
-}
-
-void RowButton::cancelPress() {
-  // A release outside the button ends a press for good: `setDown` alone would let the pointer
-  // resume it.
-  const QPointF outside(-1, -1);
-  QMouseEvent release(QEvent::MouseButtonRelease, outside, mapToGlobal(outside), Qt::LeftButton,
-                      Qt::NoButton, Qt::NoModifier);
-  QPushButton::mouseReleaseEvent(&release);
 }
 
 void RowButton::act() {
@@ -94,7 +87,7 @@ bool RowButton::event(QEvent *event) {
 }
 
 void RowButton::hideEvent(QHideEvent *event) {
-  cancelPress();
+  letGo(this);
   updateSpinner();
   QPushButton::hideEvent(event);
 }
@@ -106,10 +99,6 @@ void RowButton::showEvent(QShowEvent *event) {
 
 void RowButton::keyPressEvent(QKeyEvent *event) {
   switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (!event->isAutoRepeat()) click();
-      return;
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_Left:
@@ -145,68 +134,38 @@ void RowButton::updateSpinner() {
   }
 }
 
+bool RowButton::isProminent() const {
+  return _prominent && !_busy && isEnabled();
+}
+
 void RowButton::paintEvent(QPaintEvent *) {
   const Look look(this);
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  paintFrame(painter, look);
-  paintTitle(painter, look);
-}
-
-QColor RowButton::fill(const Look &look) const {
-  if (!isEnabled() || !(isDown() || underMouse())) return look.buttonFill();
-  return laidOver(look.buttonFill(), isDown() ? look.pressed() : look.hover());
-}
-
-void RowButton::paintFrame(QPainter &painter, const Look &look) const {
-  const qreal radius = look.scaled(7);
-  const bool accented = _prominent && !_busy && isEnabled();
-  const bool ringed = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
-  // The ring stands off the frame, which may have the same colour.
-  const qreal inset = ringed ? 3.5 : 1.5;
-  const QColor stroke = accented ? look.accent() : isEnabled() ? look.border() : look.hairline();
-  painter.setPen(QPen(stroke, 1));
-  painter.setBrush(fill(look));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
-                          radius - inset + 1.5, radius - inset + 1.5);
-  if (ringed) {
-    painter.setPen(QPen(look.accent(), 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
-  }
-}
-
-void RowButton::paintTitle(QPainter &painter, const Look &look) const {
-  const bool accented = _prominent && !_busy && isEnabled();
-  QFont font = look.detailFont();
-  if (accented) font.setWeight(QFont::DemiBold);
-  painter.setFont(font);
   const int spinner = _busy ? look.scaled(11) : 0;
-  const int gap = _busy ? look.scaled(6) : 0;
-  const int padding = look.scaled(10);
-  const int room = width() - 2 * padding - spinner - gap;
-  const QFontMetrics metrics = painter.fontMetrics();
+  const int shift = _busy ? spinner + look.scaled(6) : 0;
+  const QFontMetrics metrics(look.buttonFont(isProminent()));
+  const int room = width() - 2 * look.scaled(10) - shift;
   const QString shown = metrics.elidedText(printable(_title), Qt::ElideMiddle, room);
-  const int left = (width() - metrics.horizontalAdvance(shown) - spinner - gap) / 2;
 
-  const QColor wished = accented       ? look.accent()
-                        : !isEnabled() ? look.disabledText()
-                        : _busy        ? look.dimText()
-                                       : look.text();
-  painter.setPen(readableOn(fill(look), wished));
-  painter.drawText(rect().adjusted(left + spinner + gap, 0, 0, 0),
-                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
-                   shown);
-  if (_busy) {
-    paintSpinner(painter, look, QRectF(left, (height() - spinner) / 2.0, spinner, spinner));
-  }
+  QPainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.features.setFlag(QStyleOptionButton::DefaultButton, isProminent());
+  style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
+  option.text = QString(shown).replace(u'&', QLatin1String("&&"));
+  option.direction = Qt::LeftToRight;  // whatever the names in it are written in
+  option.rect.adjust(shift, 0, 0, 0);
+  option.state.setFlag(QStyle::State_Enabled, isEnabled() && !_busy);
+  style()->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, this);
+  if (!_busy) return;
+  const int left = (width() - metrics.horizontalAdvance(shown) - shift) / 2;
+  paintSpinner(painter, look, QRectF(left, (height() - spinner) / 2.0, spinner, spinner));
 }
 
 void RowButton::paintSpinner(QPainter &painter, const Look &look, const QRectF &place) const {
   constexpr int kSixteenths = 16;  // of a degree, the unit of arcs
   const QRectF ring = place.adjusted(1, 1, -1, -1);
-  painter.setPen(QPen(look.border(), 2));
+  painter.setPen(QPen(look.border, 2));
   painter.drawEllipse(ring);
-  painter.setPen(QPen(look.accent(), 2, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(look.accent, 2, Qt::SolidLine, Qt::RoundCap));
   painter.drawArc(ring, (90 - spinnerAngle()) * kSixteenths, 100 * kSixteenths);
 }

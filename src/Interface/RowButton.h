@@ -28,8 +28,8 @@ class RowButton : public QPushButton {
   /// Cancels a press that is under way if the title is another one.
   void setTitle(const QString &title);
 
-  /// What a click does, in place of what it did before: the mouse, Space, Return or a screen
-  /// reader's Press. The second press of a double click and a key's repetition are no clicks.
+  /// What a click does, in place of what it did before: the mouse, Space, Return in a popover, or a
+  /// screen reader's Press. The second press of a double click and a key's repetition are no clicks.
   void setAction(Action action);
 
   /// Whether the action has been called and has not returned.
@@ -41,9 +41,6 @@ class RowButton : public QPushButton {
 
   /// The accent look, for the action that the row is there for.
   void setProminent(bool prominent);
-
-  /// Lets go of a button that is held down, without a click.
-  void cancelPress();
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -60,9 +57,7 @@ class RowButton : public QPushButton {
  private:
   void act();
   void updateSpinner();
-  QColor fill(const Look &look) const;
-  void paintFrame(QPainter &painter, const Look &look) const;
-  void paintTitle(QPainter &painter, const Look &look) const;
+  bool isProminent() const;
   void paintSpinner(QPainter &painter, const Look &look, const QRectF &place) const;
 
   QString _title;

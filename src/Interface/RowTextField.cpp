@@ -53,7 +53,7 @@ void RowTextField::paintEvent(QPaintEvent *) {
   int top = std::max(0, (height() - textHeight) / 2);
   for (qsizetype line = 0; line < shown.size(); ++line) {
     painter.setFont(fontOfLine(line));
-    painter.setPen(line == 0 ? look.text() : look.dimText());
+    painter.setPen(line == 0 ? look.text : look.dimText);
     const QFontMetrics metrics = painter.fontMetrics();
     const QRect place(0, top, width(), metrics.lineSpacing());
     // Marks can be piled on a letter to any height.

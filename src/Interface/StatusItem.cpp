@@ -1,7 +1,6 @@
 #include "Interface/StatusItem.h"
 
 #include <QApplication>
-#include <QPainter>
 
 #include "Foundation/Clock.h"
 #include "Platform/Desktop.h"
@@ -9,22 +8,6 @@
 namespace {
 
 constexpr std::chrono::milliseconds kToggleGuard{250};
-
-// Trays have no notion of a highlight, so the picture itself carries it. Its tint suits any panel.
-QPixmap highlighted(const QPixmap &picture) {
-  const QColor tint(128, 128, 128, 90);
-  constexpr qreal kRadiusShare = 0.2;
-  QPixmap result(picture.size());
-  result.fill(Qt::transparent);
-  QPainter painter(&result);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(tint);
-  const qreal radius = result.width() * kRadiusShare;
-  painter.drawRoundedRect(result.rect(), radius, radius);
-  painter.drawPixmap(result.rect(), picture);
-  return result;
-}
 
 }  // namespace
 
@@ -36,15 +19,14 @@ StatusItem::StatusItem(std::unique_ptr<TrayItem> trayItem, const Clock &clock)
 StatusItem::~StatusItem() = default;
 
 void StatusItem::setImage(const QIcon &image) {
-  _image = image;
-  updateIcon();
+  _trayItem->setImage(image);
 }
 
-void StatusItem::setHighlighted(bool highlighted) {
-  if (highlighted == _highlighted) return;
-  _highlighted = highlighted;
-  (highlighted ? _openedAt : _closedAt) = _clock.now();
-  updateIcon();
+void StatusItem::setOpen(bool open) {
+  if (open == _isOpen) return;
+  _isOpen = open;
+  (open ? _openedAt : _closedAt) = _clock.now();
+  _trayItem->setHighlighted(open);
 }
 
 void StatusItem::setMenu(QMenu *menu) {
@@ -61,17 +43,8 @@ void StatusItem::activated() {
   };
   // The desktop may have closed the popover because of this very click.
   if (isWithin(_closedAt, kToggleGuard)) return;
-  if (!_highlighted) return emit action();
+  if (!_isOpen) return emit action();
   // The second click of a double click wants what the first one wanted.
   const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
   if (!isWithin(_openedAt, doubleClick)) emit dismissal();
-}
-
-void StatusItem::updateIcon() {
-  if (_image.isNull()) return;
-  if (!_highlighted) return _trayItem->setImage(_image);
-  QIcon icon;
-  for (const QSize &size : _image.availableSizes())
-    icon.addPixmap(highlighted(_image.pixmap(size)));
-  _trayItem->setImage(icon);
 }

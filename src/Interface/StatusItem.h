@@ -3,7 +3,6 @@
 // The program's item in the desktop's tray, from which the popover hangs: what a click on it means,
 // and how it looks while the popover is open.
 
-#include <QIcon>
 #include <QObject>
 #include <QRect>
 #include <chrono>
@@ -11,6 +10,7 @@
 #include <optional>
 
 class Clock;
+class QIcon;
 class QMenu;
 class TrayItem;
 
@@ -25,8 +25,8 @@ class StatusItem : public QObject {
   /// The item shows from its first image on.
   void setImage(const QIcon &image);
 
-  /// Marks the item while what hangs from it is open.
-  void setHighlighted(bool highlighted);
+  /// Whether what hangs from it is open; the item is highlighted then.
+  void setOpen(bool open);
 
   /// The menu of a right click. Not owned.
   void setMenu(QMenu *menu);
@@ -44,12 +44,10 @@ class StatusItem : public QObject {
 
  private:
   void activated();
-  void updateIcon();
 
   const Clock &_clock;
   std::unique_ptr<TrayItem> _trayItem;
-  QIcon _image;
   std::optional<std::chrono::milliseconds> _openedAt;
   std::optional<std::chrono::milliseconds> _closedAt;
-  bool _highlighted = false;
+  bool _isOpen = false;
 };

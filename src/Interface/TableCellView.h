@@ -16,10 +16,6 @@ class TableCellView : public QWidget {
  public:
   explicit TableCellView(QWidget *parent = nullptr);
 
-  /// The kind of cell, by which the table makes and recycles it.
-  QString identifier() const { return _identifier; }
-  void setIdentifier(const QString &identifier) { _identifier = identifier; }
-
   RowTextField *textField() const { return _textField; }
   ImageView *imageView() const { return _imageView; }
 
@@ -40,5 +36,4 @@ class TableCellView : public QWidget {
  private:
   RowTextField *_textField;
   ImageView *_imageView;
-  QString _identifier;
 };

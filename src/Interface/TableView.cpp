@@ -3,12 +3,13 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <algorithm>
 #include <limits>
 #include <utility>
 
 #include "Interface/Look.h"
-#include "Interface/ScrollBar.h"
+#include "Interface/Style.h"
 
 namespace {
 
@@ -16,24 +17,16 @@ constexpr int kMostRowsInView = 8;
 
 }  // namespace
 
-TableView::TableView(QWidget *parent) : QWidget(parent), _scrollBar(new ScrollBar(this)) {
+TableView::TableView(QWidget *parent)
+    : QWidget(parent), _scrollBar(Style::applied(new QScrollBar(Qt::Vertical, this))) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   _scrollBar->hide();
   connect(_scrollBar, &QScrollBar::valueChanged, this, &TableView::showRowsInView);
 }
 
-TableView::~TableView() = default;
-
-void TableView::setDelegate(TableViewDelegate *delegate) {
-  _delegate = delegate;
-}
-
-void TableView::setDataSource(TableViewDataSource *dataSource) {
-  _dataSource = dataSource;
-}
-
-void TableView::registerPrototype(const QString &identifier, Prototype prototype) {
-  _prototypes.insert(identifier, std::move(prototype));
+void TableView::setPrototype(const QString &identifier, Prototype prototype) {
+  _column.identifier = identifier;
+  _prototype = std::move(prototype);
 }
 
 void TableView::reloadData() {
@@ -45,8 +38,7 @@ void TableView::reloadData() {
   setFocusPolicy(_numberOfRows > 0 ? Qt::StrongFocus : Qt::NoFocus);
   const QScopedValueRollback<bool> reloading(_isReloading, true);
   _formerCells = std::exchange(_cells, {});
-  updateScrollBar();
-  showRowsInView();
+  layOut();
 
   if (focus.control >= 0) restoreFocus(focusedKey, focus.control);
   for (const auto &[row, cell] : std::exchange(_formerCells, {})) letGo(cell);
@@ -68,44 +60,29 @@ void TableView::restoreFocus(const QString &rowKey, qsizetype control) {
 }
 
 TableCellView *TableView::makeView(const QString &identifier) {
-  TableCellView *cell = takeReusable(identifier);
-  if (!cell) {
-    const auto prototype = _prototypes.constFind(identifier);
-    if (prototype == _prototypes.constEnd()) return nullptr;
-    cell = (*prototype)(this);
-    cell->setIdentifier(identifier);
-  }
-  _handedOut.push_back(cell);
-  return cell;
+  if (!_prototype || identifier != _column.identifier) return nullptr;
+  TableCellView *cell = takeReusable();
+  _handedOut.push_back(cell ? cell : _prototype(this));
+  return _handedOut.back();
 }
 
-TableCellView *TableView::takeReusable(const QString &identifier) {
+TableCellView *TableView::takeReusable() {
   // The cell that the row had before a reload comes first: most rows have not changed, and what a
   // person is about to press stays the same widget.
   const auto former = _formerCells.find(_rowBeingFilled);
-  if (former != _formerCells.end() && former->second->identifier() == identifier &&
-      former->second->isReusable()) {
-    TableCellView *cell = former->second;
-    _formerCells.erase(former);
-    return cell;
+  if (former != _formerCells.end() && former->second->isReusable()) {
+    return _formerCells.extract(former).mapped();
   }
-  const auto spare = std::find_if(_spare.begin(), _spare.end(), [&](const TableCellView *cell) {
-    return cell->identifier() == identifier;
-  });
-  if (spare == _spare.end()) return nullptr;
-  TableCellView *cell = *spare;
-  _spare.erase(spare);
+  if (_spare.empty()) return nullptr;
+  TableCellView *cell = _spare.back();
+  _spare.pop_back();
   return cell;
 }
 
 void TableView::letGo(TableCellView *cell) {
   if (cell->isAncestorOf(window()->focusWidget())) setFocus(Qt::OtherFocusReason);
   cell->hide();
-  if (cell->isReusable() && _prototypes.contains(cell->identifier())) {
-    _spare.push_back(cell);
-  } else {
-    _retired.push_back(cell);
-  }
+  (cell->isReusable() ? _spare : _retired).push_back(cell);
 }
 
 void TableView::dropRetired() {
@@ -117,12 +94,19 @@ void TableView::dropRetired() {
   });
 }
 
+// Rows that nobody has seen yet cost nothing.
+void TableView::layOut() {
+  if (!_wasShown) return;
+  updateScrollBar();
+  showRowsInView();
+}
+
 void TableView::showRowsInView() {
   const qint64 first = firstRowInView();
   const qint64 last = lastRowInView();
   for (auto at = _cells.begin(); at != _cells.end();) {
     if (at->first >= first && at->first <= last) {
-      placeCell(at->second, at->first);
+      at->second->setGeometry(placeOf(at->first));
       ++at;
     } else {
       letGo(at->second);
@@ -137,24 +121,23 @@ void TableView::showRowsInView() {
 }
 
 void TableView::fillRow(qint64 row) {
-  static const TableColumn kColumn{QStringLiteral("MainCell")};
   if (!_delegate) return;
   _rowBeingFilled = row;
-  TableCellView *cell = _delegate->tableView(this, kColumn, row);
+  TableCellView *cell = _delegate->tableView(this, _column, row);
   for (TableCellView *made : std::exchange(_handedOut, {})) {
     if (made != cell) letGo(made);
   }
   if (!cell) return;
   _cells[row] = cell;
-  placeCell(cell, row);
+  cell->setGeometry(placeOf(row));
   cell->show();
   _scrollBar->raise();  // it lies on the rows' margin
   _delegate->tableView(this, cell, row);
 }
 
-void TableView::placeCell(TableCellView *cell, qint64 row) {
+QRect TableView::placeOf(qint64 row) const {
   const auto top = static_cast<int>(row * rowHeight() - _scrollBar->value());
-  cell->setGeometry(0, top, width(), rowHeight());
+  return {0, top, width(), rowHeight()};
 }
 
 int TableView::rowHeight() const {
@@ -206,13 +189,6 @@ TableCellView *TableView::cellAtRow(qint64 row) const {
   return found == _cells.end() ? nullptr : found->second;
 }
 
-qint64 TableView::rowOfCell(const TableCellView *cell) const {
-  for (const auto &[row, shown] : _cells) {
-    if (shown == cell) return row;
-  }
-  return -1;
-}
-
 QSize TableView::sizeHint() const {
   const qint64 rows = std::clamp<qint64>(_numberOfRows, 1, kMostRowsInView);
   return {Look(this).popoverWidth(), static_cast<int>(rows) * rowHeight()};
@@ -226,47 +202,38 @@ void TableView::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
   updateGeometry();
-  updateScrollBar();
-  showRowsInView();
+  layOut();
 }
 
 void TableView::resizeEvent(QResizeEvent *event) {
   QWidget::resizeEvent(event);
-  updateScrollBar();
-  showRowsInView();
+  layOut();
 }
 
 void TableView::showEvent(QShowEvent *event) {
   QWidget::showEvent(event);
-  updateScrollBar();
-  showRowsInView();
+  _wasShown = true;
+  layOut();
 }
 
 void TableView::paintEvent(QPaintEvent *) {
   const Look look(this);
-  const qreal inset = look.scaled(5);
+  const int inset = look.scaled(5);
   const int margin = look.margin();
-  const qreal hairline = 1 / devicePixelRatio();
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
+  const auto paintPanel = [&](const QRect &place, bool isRinged, const QBrush &brush) {
+    painter.setPen(isRinged ? QPen(look.accent, 1) : QPen(Qt::NoPen));
+    painter.setBrush(brush);
+    painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), look.scaled(8),
+                            look.scaled(8));
+  };
   for (qint64 row = firstRowInView(); row <= lastRowInView(); ++row) {
-    const auto top = static_cast<int>(row * rowHeight() - _scrollBar->value());
-    const QRectF place(0, top, width(), rowHeight());
-    if (row == _selectedRow) {
-      painter.setPen(hasFocus() ? QPen(look.accent(), 1) : QPen(Qt::NoPen));
-      painter.setBrush(look.selection());
-      painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), look.scaled(8),
-                              look.scaled(8));
-    }
-    if (row > 0) {
-      painter.fillRect(QRectF(margin, top, place.width() - 2 * margin, hairline), look.hairline());
-    }
+    const QRect place = placeOf(row);
+    if (row == _selectedRow) paintPanel(place, hasFocus(), look.selection);
+    const QRectF line(margin, place.top(), place.width() - 2 * margin, 1 / devicePixelRatio());
+    if (row > 0) painter.fillRect(line, look.hairline);
   }
   const bool byKeyboard = window()->testAttribute(Qt::WA_KeyboardFocusChange);
-  if (hasFocus() && byKeyboard && _selectedRow < 0) {
-    painter.setPen(QPen(look.accent(), 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), look.scaled(8),
-                            look.scaled(8));
-  }
+  if (hasFocus() && byKeyboard && _selectedRow < 0) paintPanel(rect(), true, Qt::NoBrush);
 }

@@ -1,17 +1,16 @@
 #pragma once
 
-// A list of rows of one height and one column, "MainCell". It asks its data source how many rows
+// A list of rows of one height and one column. It asks its data source how many rows
 // there are and its delegate for the cell of each row that is in view; rows out of view have no
 // cell.
 //
-//   table.registerPrototype(u"MainCell"_s, [](QWidget *parent) { return new Cell(parent); });
+//   table.setPrototype(u"MainCell"_s, [](QWidget *parent) { return new Cell(parent); });
 //   table.setDelegate(&delegate);
 //   table.setDataSource(&source);
 //   table.reloadData();
 //
 // The delegate and the data source are not owned and must live as long as they are set.
 
-#include <QHash>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -54,24 +53,23 @@ class TableView : public QWidget {
   using Prototype = std::function<TableCellView *(QWidget *parent)>;
 
   explicit TableView(QWidget *parent = nullptr);
-  ~TableView() override;
 
-  void setDelegate(TableViewDelegate *delegate);
-  void setDataSource(TableViewDataSource *dataSource);
+  void setDelegate(TableViewDelegate *delegate) { _delegate = delegate; }
+  void setDataSource(TableViewDataSource *dataSource) { _dataSource = dataSource; }
 
   /// Whether a group's heading stays in view while its rows scroll. There are no groups as yet.
   void setFloatsGroupRows(bool floats) { _floatsGroupRows = floats; }
-  bool floatsGroupRows() const { return _floatsGroupRows; }
 
   /// Asks for the number of rows and for every row in view anew. Keeps the scroll position, the
   /// selected index and the keyboard focus where the rows allow; destroys no button that is in its
   /// own action.
   void reloadData();
 
-  /// A cell of a registered kind, recycled or new, for the delegate to fill in and return. Null for
-  /// an identifier that has no prototype. The table owns it.
+  /// A cell, recycled or new, for the delegate to fill in and return. Null for an identifier that
+  /// is not the prototype's. The table owns it.
   TableCellView *makeView(const QString &identifier);
-  void registerPrototype(const QString &identifier, Prototype prototype);
+  /// How the cells of its column are made.
+  void setPrototype(const QString &identifier, Prototype prototype);
 
   qint64 numberOfRows() const { return _numberOfRows; }
 
@@ -83,9 +81,8 @@ class TableView : public QWidget {
   /// The cells in view, from the top. A row without a cell is left out.
   std::vector<TableCellView *> visibleCells() const;
 
-  /// The cell of a row, null when it is not in view or empty; and the row of a cell, -1 for none.
+  /// Null when the row is not in view, or empty.
   TableCellView *cellAtRow(qint64 row) const;
-  qint64 rowOfCell(const TableCellView *cell) const;
 
   int rowHeight() const;
   QSize sizeHint() const override;
@@ -115,11 +112,12 @@ class TableView : public QWidget {
   };
   using Cells = std::map<qint64, TableCellView *>;
 
+  void layOut();
   void updateScrollBar();
   void showRowsInView();
   void fillRow(qint64 row);
-  void placeCell(TableCellView *cell, qint64 row);
-  TableCellView *takeReusable(const QString &identifier);
+  QRect placeOf(qint64 row) const;
+  TableCellView *takeReusable();
   void letGo(TableCellView *cell);
   void dropRetired();
   qint64 firstRowInView() const;
@@ -134,7 +132,8 @@ class TableView : public QWidget {
   TableViewDelegate *_delegate = nullptr;
   TableViewDataSource *_dataSource = nullptr;
   QScrollBar *_scrollBar;
-  QHash<QString, Prototype> _prototypes;
+  TableColumn _column;
+  Prototype _prototype;
   Cells _cells;                             // in view, by row
   std::vector<TableCellView *> _spare;      // hidden, waiting to be used again
   std::vector<TableCellView *> _retired;    // not to be used again, still in their own action
@@ -142,6 +141,7 @@ class TableView : public QWidget {
   qint64 _rowBeingFilled = -1;
   Cells _formerCells;  // during a reload: what each row showed before it
   bool _isReloading = false;
+  bool _wasShown = false;
   qint64 _numberOfRows = 0;
   qint64 _selectedRow = -1;
   bool _floatsGroupRows = true;

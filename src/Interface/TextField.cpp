@@ -1,6 +1,5 @@
 #include "Interface/TextField.h"
 
-#include <QAccessible>
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QPainter>
@@ -17,20 +16,14 @@ constexpr int kFadeInMilliseconds = 1000;
 
 }  // namespace
 
-TextField::TextField(QWidget *parent) : QWidget(parent) {
+TextField::TextField(QWidget *parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
 void TextField::setStringValue(const QString &text) {
-  if (text == _stringValue) return;
-  const QString former = std::exchange(_stringValue, text);
-  update();
-  QAccessibleTextUpdateEvent textEvent(this, 0, former, text);
-  QAccessible::updateAccessibility(&textEvent);
-  // A name of its own hides the text from those who read names only; the description always has it.
-  QAccessibleEvent event(this, accessibleName().isEmpty() ? QAccessible::NameChanged
-                                                          : QAccessible::DescriptionChanged);
-  QAccessible::updateAccessibility(&event);
+  if (text == stringValue()) return;
+  setText(text);
   if (_announcement) _announcement->say(text);
 }
 
@@ -39,7 +32,7 @@ void TextField::setAnnounced() {
 }
 
 void TextField::setAnimatedStringValue(const QString &text) {
-  if (text == _stringValue) return;
+  if (text == stringValue()) return;
   const QVariantAnimation *fadeOut = fadeTo(0.0, kFadeOutMilliseconds, QEasingCurve::OutQuad);
   connect(fadeOut, &QVariantAnimation::finished, this, [this, text] {
     setStringValue(text);
@@ -77,7 +70,7 @@ void TextField::setTextColor(TextColor color) {
 
 QSize TextField::sizeHint() const {
   const QFontMetrics metrics(Look(this).detailFont());
-  return {metrics.horizontalAdvance(printable(_stringValue)), metrics.lineSpacing()};
+  return {metrics.horizontalAdvance(printable(stringValue())), metrics.lineSpacing()};
 }
 
 QSize TextField::minimumSizeHint() const {
@@ -85,11 +78,11 @@ QSize TextField::minimumSizeHint() const {
 }
 
 bool TextField::event(QEvent *event) {
-  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-  const bool isWhole = fits(_stringValue, QFontMetrics(Look(this).detailFont()), width());
-  const QString detail = _stringValue == _detailedText ? _detail : QString();
+  if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+  const bool isWhole = fits(stringValue(), QFontMetrics(Look(this).detailFont()), width());
+  const QString detail = stringValue() == _detailedText ? _detail : QString();
   showPlainToolTip(this, static_cast<QHelpEvent *>(event)->globalPos(),
-                   {isWhole ? QString() : _stringValue, detail});
+                   {isWhole ? QString() : stringValue(), detail});
   return true;
 }
 
@@ -99,10 +92,10 @@ void TextField::paintEvent(QPaintEvent *) {
   const int side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
   painter.setOpacity(_opacity);
   painter.setFont(look.detailFont());
-  painter.setPen(_textColor == TextColor::Red    ? look.red()
-                 : _textColor == TextColor::Blue ? look.blue()
-                                                 : look.dimText());
+  painter.setPen(_textColor == TextColor::Red    ? look.red
+                 : _textColor == TextColor::Blue ? look.blue
+                                                 : look.dimText);
   painter.drawText(
       rect(), side | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
-      painter.fontMetrics().elidedText(printable(_stringValue), Qt::ElideMiddle, width()));
+      painter.fontMetrics().elidedText(printable(stringValue()), Qt::ElideMiddle, width()));
 }

@@ -5,12 +5,12 @@
 // the tooltip. Its height never changes, so nothing around it moves.
 
 #include <QEasingCurve>
-#include <QWidget>
+#include <QLabel>
 
 class Announcement;
 class QVariantAnimation;
 
-class TextField : public QWidget {
+class TextField : public QLabel {
   Q_OBJECT
 
  public:
@@ -18,7 +18,7 @@ class TextField : public QWidget {
 
   explicit TextField(QWidget *parent = nullptr);
 
-  QString stringValue() const { return _stringValue; }
+  QString stringValue() const { return text(); }
 
   /// Shows the text at once. A fade that is under way goes on.
   void setStringValue(const QString &text);
@@ -50,7 +50,6 @@ class TextField : public QWidget {
  private:
   QVariantAnimation *fadeTo(qreal opacity, int milliseconds, QEasingCurve::Type easing);
 
-  QString _stringValue;
   QString _detail;
   QString _detailedText;
   TextColor _textColor = TextColor::Normal;

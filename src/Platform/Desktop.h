@@ -6,6 +6,7 @@
 //
 // All of it lives on the main thread, and nothing throws.
 
+#include <QColor>
 #include <QList>
 #include <QObject>
 #include <QRect>
@@ -13,10 +14,12 @@
 #include <QVariant>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 class QIcon;
 class QMenu;
+class QWidget;
 
 /// Subjects and what there is to say about each: "Tray", "StatusNotifierItem".
 using Facts = QList<std::pair<QString, QString>>;
@@ -27,7 +30,11 @@ class TrayItem : public QObject {
   Q_OBJECT
 
  public:
+  /// A tray may have a picture of its own that suits it better.
   virtual void setImage(const QIcon &image) = 0;
+
+  /// Whether the item is marked, because what hangs from it is open.
+  virtual void setHighlighted(bool highlighted) = 0;
 
   /// The menu of a right click, or of any click where the desktop knows no other. Not owned.
   virtual void setMenu(QMenu *menu) = 0;
@@ -35,6 +42,9 @@ class TrayItem : public QObject {
   /// Where the item is on the screen; null while the desktop does not tell. That may be the place
   /// of the last click on it.
   virtual QRect place() const = 0;
+
+  /// Whether a tray shows it now, as far as the desktop has told.
+  virtual bool isShown() const = 0;
 
   /// Which kind of tray shows it, in words; empty while none is known.
   virtual QString kind() const = 0;
@@ -53,6 +63,13 @@ class EventMonitor {
   virtual ~EventMonitor() = default;
 };
 
+/// What a window may expect of the desktop.
+struct WindowAbilities {
+  bool canBeTranslucent = true;  // else its transparent parts are black
+  bool canBePlaced = true;       // else the desktop chooses its place
+  bool canFade = true;           // its opacity may be changed while it is shown
+};
+
 class Desktop : public QObject {
   Q_OBJECT
 
@@ -69,6 +86,15 @@ class Desktop : public QObject {
   /// interface; no value, or any other, for a light one. Does not wait.
   virtual QVariant interfaceStyle() const = 0;
 
+  /// The person's accent colour; absent where the desktop has none to tell.
+  virtual std::optional<QColor> accentColor() const { return {}; }
+
+  /// Whether the session itself has started the program, at login, and no person. Decided as it is made.
+  virtual bool wasStartedAtLogin() const { return false; }
+
+  /// What a person can do about the lack of a tray, in a sentence or two.
+  virtual QString adviceWithoutTray() const { return {}; }
+
   /// What it is and which of its ways are in use, for a report of a fault.
   virtual Facts facts() const = 0;
 
@@ -76,13 +102,19 @@ class Desktop : public QObject {
   /// to tell it, `item` does.
   virtual void notify(const QString &title, const QString &text, TrayItem &item) = 0;
 
-  /// Makes this the one instance of the program in the user's session. NO when there is one
-  /// already: it has been asked to show itself. Blocks until the session has answered, some seconds
-  /// at the most; where there is no session to ask, the answer is YES.
+  /// Makes this the one instance of the program in the user's session. False when there is
+  /// one already: it has been asked to show itself, and the person is told if it does not answer.
+  /// Blocks until the session has answered, some four seconds at most; true where no session answers.
   virtual bool becomeOnlyInstance() = 0;
 
+  /// As it is now; it may change while the program runs.
+  virtual WindowAbilities windowAbilities() const { return {}; }
+
+  /// Keeps a window out of task bars and pagers. To be called each time before the window is mapped.
+  virtual void keepOutOfTaskbar(const QWidget & /*window*/) const {}
+
  signals:
-  /// "AppleInterfaceThemeChangedNotification": the interface style may be another one now.
+  /// "AppleInterfaceThemeChangedNotification": the interface style or the accent colour may be another one now.
   void interfaceThemeChanged();
 
   /// The program was started once more, or its entry chosen in the desktop's menu.

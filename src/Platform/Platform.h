@@ -21,6 +21,7 @@
 #include "Platform/LoginItems.h"
 #include "Platform/RawDevices.h"
 #include "Platform/SystemPrograms.h"
+#include "Platform/VolumeFiles.h"
 
 class NotificationCenter;
 
@@ -58,7 +59,8 @@ class DiskService {
                      Completion completion) = 0;
 
   /// Asks for an unmount; the completion as for `mount`. A forced one succeeds though files are
-  /// open, and what was written before it is on the disk when it completes.
+  /// open. What was written before it is on the disk when it completes; where the disk takes too long
+  /// for that, kVolumeUnwrittenNotification is posted before.
   virtual void unmount(const QString &bsdName, UnmountOption option, Completion completion) = 0;
 };
 
@@ -85,10 +87,12 @@ class RunLoop {
   /// is so already. Blocks. Whoever sets the flag calls `stop` after it.
   virtual void run(const bool &finished) = 0;
 
-  /// Makes the innermost `run` look at its flag; does nothing while there is none.
+  /// Makes the innermost `run` look at its flag; does nothing while there is none. A `run` further
+  /// out, and one with an event loop of somebody else inside, looks as soon as that is over.
   virtual void stop() = 0;
 
-  /// Serves what is waiting to be served now, and does not wait for more.
+  /// Serves what is waiting to be served and what comes within the next 20 ms. Blocks that long, so
+  /// that whoever asks something again and again does so fifty times a second at most.
   virtual void servePending() = 0;
 };
 
@@ -127,6 +131,7 @@ class Platform {
   virtual DiskService &diskService() = 0;
   virtual MediaRegistry &mediaRegistry() = 0;
   virtual RawDevices &rawDevices() = 0;
+  virtual VolumeFiles &volumeFiles() = 0;
   virtual RunLoop &runLoop() = 0;
   virtual Clock &clock() = 0;
   virtual SystemFiles &systemFiles() = 0;
@@ -137,14 +142,6 @@ class Platform {
   /// Where, among the system files, the driver bundle with this identifier is. Absent when there is
   /// none.
   virtual std::optional<QString> driverBundle(const QString &identifier) const = 0;
-
-  /// The picture in an icon file on a mounted volume, by its path there; as `SystemFiles::image`.
-  virtual std::optional<QImage> imageOnVolume(const QString &path) const = 0;
-
-  /// "name (process number)" of each process that has a file or folder below this mount point open,
-  /// runs from there or works there, as far as the system lets this user know. Blocks for some
-  /// milliseconds.
-  virtual QStringList processesUsing(const QString &mountPoint) const = 0;
 
   /// The folder below which the system mounts volumes ("/Volumes", "/media/alex").
   virtual QString volumesFolder() const = 0;
@@ -185,4 +182,6 @@ inline const QString kNSWorkspaceDidUnmountNotification =
     QStringLiteral("NSWorkspaceDidUnmountNotification");
 inline const QString kNSWorkspaceDidRenameVolumeNotification =
     QStringLiteral("NSWorkspaceDidRenameVolumeNotification");
+/// Our own: a forced unmount did not wait until everything was written.
+inline const QString kVolumeUnwrittenNotification = QStringLiteral("KeldraVolumeUnwritten");
 inline const QString kNSDevicePathKey = QStringLiteral("NSDevicePath");

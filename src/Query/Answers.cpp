@@ -17,8 +17,8 @@ QString escaped(const QString &json) {
   QString result;
   for (qsizetype index = 0; index < json.size(); ++index) {
     const bool isPair = json[index].isHighSurrogate() && index + 1 < json.size();
-    const char32_t character =
-        isPair ? QChar::surrogateToUcs4(json[index], json[index + 1]) : json[index].unicode();
+    const char32_t character = isPair ? QChar::surrogateToUcs4(json[index], json[index + 1])
+                                      : char32_t{json[index].unicode()};
     const QStringView units = QStringView(json).sliced(index, isPair ? 2 : 1);
     for (const QChar unit : units) {
       result += isHarmless(character) ? QString(unit)
@@ -37,7 +37,9 @@ QString plain(const QJsonValue &value) {
   if (value.isNull()) return u"absent"_s;
   if (value.isBool()) return value.toBool() ? u"YES"_s : u"NO"_s;
   if (value.isDouble()) return QString::number(value.toInteger());
-  return quoted(value.toString());
+  if (value.isString()) return quoted(value.toString());
+  const QByteArray json = QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact);
+  return escaped(QString::fromUtf8(json));
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QUrl>
 
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "DiskArbitrator/GetDADiskDescription.h"
+#include "Foundation/Paths.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +39,7 @@ QJsonValue json(const std::optional<DiskDescription> &description) {
     if (entry->metaType() == QMetaType::fromType<DiskUUID>()) {
       object[entry.key()] = entry->value<DiskUUID>().description().section("> "_L1, 1);
     } else if (entry->metaType() == QMetaType::fromType<QUrl>()) {
-      object[entry.key()] = entry->toUrl().toLocalFile();
+      object[entry.key()] = pathOfUrl(entry->toUrl());
     } else {
       object[entry.key()] = QJsonValue::fromVariant(*entry);
     }
@@ -101,8 +101,8 @@ const QVector<Operation> &operations() {
       ofReference("findMountPointLegacy"_L1, DA::findMountPointLegacy,
                   "Where it is mounted, as /bin/df says."_L1),
       ofReference("isMountPointValid"_L1, DA::isMountPointValid, "Whether it is mounted."_L1),
-      ofReference("findProcessesUsing"_L1, DA::findProcessesUsing,
-                  "The processes that use it while it is mounted."_L1),
+      ofReference<QStringList>("findProcessesUsing"_L1, DA::findProcessesUsing,
+                               "The processes that use it while it is mounted."_L1),
       ofReference("findDeviceNode"_L1, DA::findDeviceNode, "What other programs call it."_L1),
       ofReference("findPartitionSchemeMap"_L1, DA::findPartitionSchemeMap,
                   "The partition scheme of its disk."_L1),

@@ -1,64 +1,58 @@
 #include "SavedData/ManagedObjectContext.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "SavedData/ManagedObjectModel.h"
 #include "SavedData/PersistentStoreCoordinator.h"
 
-/// One object's coming, changing or going: it is absent before it came and after it has gone.
-class ManagedObjectContext::Change : public QUndoCommand {
- public:
-  Change(ManagedObjects &objects, const ObjectID &id, std::optional<ManagedObject> after)
-      : _objects(objects), _id(id), _after(std::move(after)) {
-    if (objects.contains(id)) _before = objects.value(id);
-  }
+namespace {
 
-  void undo() override { put(_before); }
-  void redo() override { put(_after); }
+class Change : public QUndoCommand {
+ public:
+  Change(ManagedObjects &objects, const ManagedObjects &after)
+      : _objects(objects), _before(objects), _after(after) {}
+
+  void undo() override { _objects = _before; }
+  void redo() override { _objects = _after; }
 
  private:
-  void put(const std::optional<ManagedObject> &object) {
-    if (object) {
-      _objects.insert(_id, *object);
-    } else {
-      _objects.remove(_id);
-    }
-  }
-
   ManagedObjects &_objects;
-  ObjectID _id;
-  std::optional<ManagedObject> _before;
-  std::optional<ManagedObject> _after;
+  ManagedObjects _before;
+  ManagedObjects _after;
 };
+
+}  // namespace
 
 ManagedObjectContext::ManagedObjectContext(PersistentStoreCoordinator &coordinator)
     : _coordinator(coordinator), _objects(coordinator.objects()) {}
 
+void ManagedObjectContext::change(const ManagedObjects &after) {
+  _undoManager.push(new Change(_objects, after));
+}
+
 std::optional<ObjectID> ManagedObjectContext::insertObject(const QString &entity) {
   if (!_coordinator.model().hasEntity(entity)) return std::nullopt;
   const ObjectID id = ObjectID::createUuid();
-  _undoManager.push(new Change(_objects, id, ManagedObject{entity, {}}));
+  ManagedObjects after = _objects;
+  after.insert(id, {entity, {}});
+  change(after);
   return id;
 }
 
 bool ManagedObjectContext::setValue(const ObjectID &id, const QString &attribute,
-                                    const std::optional<QString> &value) {
-  const auto found = _objects.constFind(id);
-  if (found == _objects.constEnd()) return false;
-  if (!_coordinator.model().hasAttribute(found->entity, attribute)) return false;
-  ManagedObject changed = *found;
-  if (value.has_value()) {
-    changed.values.insert(attribute, *value);
-  } else {
-    changed.values.remove(attribute);
-  }
-  _undoManager.push(new Change(_objects, id, changed));
+                                    const QString &value) {
+  // An object that is not there is of an entity without attributes.
+  if (!_coordinator.model().hasAttribute(_objects.value(id).entity, attribute)) return false;
+  ManagedObjects after = _objects;
+  after[id].values.insert(attribute, value);
+  change(after);
   return true;
 }
 
 bool ManagedObjectContext::deleteObject(const ObjectID &id) {
-  if (!_objects.contains(id)) return false;
-  _undoManager.push(new Change(_objects, id, std::nullopt));
+  ManagedObjects after = _objects;
+  if (after.remove(id) == 0) return false;
+  change(after);
   return true;
 }
 
@@ -71,10 +65,5 @@ std::optional<Error> ManagedObjectContext::save() {
 }
 
 bool ManagedObjectContext::commitEditing() {
-  // An editor that has committed may take its leave at once.
-  const QList<Editor *> editors = _editors;
-  for (Editor *editor : editors) {
-    if (_editors.contains(editor) && !editor->commitEditing()) return false;
-  }
-  return true;
+  return std::ranges::all_of(_editors, &Editor::commitEditing);
 }

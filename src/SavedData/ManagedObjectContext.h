@@ -23,8 +23,8 @@ class Editor {
  public:
   virtual ~Editor() = default;
 
-  /// Gives the object what has been edited so far. NO when that is not possible: the person may have
-  /// typed what cannot be.
+  /// Gives the object what has been edited so far. False when that is not possible: the person may
+  /// have typed what cannot be.
   virtual bool commitEditing() = 0;
 };
 
@@ -35,10 +35,10 @@ class ManagedObjectContext {
 
   const ManagedObjects &objects() const { return _objects; }
 
-  // Changes. Absent or NO, and nothing is changed, for an entity, an object or an attribute that is
-  // not there. An absent value takes away the one that there is.
+  // Changes. Absent or false, and nothing is changed, for an entity, an object or an attribute that is
+  // not there.
   std::optional<ObjectID> insertObject(const QString &entity);
-  bool setValue(const ObjectID &id, const QString &attribute, const std::optional<QString> &value);
+  bool setValue(const ObjectID &id, const QString &attribute, const QString &value);
   bool deleteObject(const ObjectID &id);
 
   /// Whether there is anything to save.
@@ -46,17 +46,17 @@ class ManagedObjectContext {
   /// When it fails, the changes are still there, and the store is as it was. Blocks.
   std::optional<Error> save();
 
-  // Editors are not owned, and must take their leave before they end.
+  // Editors are not owned. One that ends while it is editing says so before, but not while it commits.
   void objectDidBeginEditing(Editor *editor) { _editors.append(editor); }
   void objectDidEndEditing(Editor *editor) { _editors.removeAll(editor); }
-  /// Asks each editor to commit. NO as soon as one refuses.
+  /// Asks each editor to commit. False as soon as one refuses.
   bool commitEditing();
 
   /// Undoes and repeats the changes. Saving is not undone: what is undone after it is a change.
   QUndoStack &undoManager() { return _undoManager; }
 
  private:
-  class Change;
+  void change(const ManagedObjects &after);
 
   PersistentStoreCoordinator &_coordinator;
   ManagedObjects _objects;

@@ -1,93 +1,96 @@
 #include "SavedData/PersistentStoreCoordinator.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
+#include <QXmlStreamReader>
 #include <cerrno>
-#include <filesystem>
 
-#include "SavedData/XMLStore.h"
+#include "Foundation/PlainFile.h"
+#include "SavedData/ManagedObjectModel.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Far more than a person's notes; reading it takes a second or two.
-constexpr qint64 kLargestStore = 16 * 1024 * 1024;
-
-Error corrupt(const QString &reason) {
-  return {kCocoaErrorDomain, kFileReadCorruptFile,
-          u"The saved data could not be read: %1"_s.arg(reason)};
-}
+// Far more than a person's notes.
+constexpr qint64 kLargestStore = 1024 * 1024;
 
 Error notWritten(const QString &reason) {
   return {kCocoaErrorDomain, kFileWriteUnknown,
           u"The saved data could not be written: %1"_s.arg(reason)};
 }
 
-/// The new name of a file is safe only when its folder is on the disk too.
-void syncFolder(const QString &folder) {
-  const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  fsync(descriptor);
-  close(descriptor);
-}
-
-/// A disk that fills up takes a part at first; only the next part is refused, with the reason.
-bool writeAll(QFileDevice &file, const QByteArray &bytes) {
-  for (qsizetype done = 0; done < bytes.size();) {
-    const qint64 count = file.write(bytes.constData() + done, bytes.size() - done);
-    if (count <= 0) return false;
-    done += count;
+/// What it cannot keep is an error of the reader's: saving would lose it.
+ManagedObjects readObjects(QXmlStreamReader &xml, const ManagedObjectModel &model) {
+  ManagedObjects objects;
+  const auto expect = [&xml](QLatin1StringView name, bool isSound) {
+    if (xml.name() != name || !isSound)
+      xml.raiseError(u"This <%1> does not belong here"_s.arg(xml.name()));
+  };
+  if (xml.readNextStartElement()) expect("store"_L1, true);
+  while (xml.readNextStartElement()) {
+    const auto id = ObjectID::fromString(xml.attributes().value("id"_L1));
+    ManagedObject object{xml.attributes().value("entity"_L1).toString(), {}};
+    expect("object"_L1, !id.isNull() && !objects.contains(id) && model.hasEntity(object.entity));
+    while (xml.readNextStartElement()) {
+      const QString name = xml.attributes().value("name"_L1).toString();
+      expect("attribute"_L1, model.hasAttribute(object.entity, name));
+      object.values.insert(name, xml.attributes().value("value"_L1).toString());
+      xml.skipCurrentElement();
+    }
+    objects.insert(id, object);
   }
-  return file.flush();
+  // What follows the last tag must be nothing.
+  while (!xml.atEnd()) xml.readNext();
+  return objects;
 }
 
-std::optional<Error> writeSafely(const QString &path, const QByteArray &bytes) {
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || !writeAll(file, bytes))
-    return notWritten(file.errorString());
-  // Some file systems find out only now that they are full, and committing would not tell.
-  if (fsync(file.handle()) != 0) return notWritten(qt_error_string(errno));
-  if (!file.commit()) return notWritten(file.errorString());
-  syncFolder(QFileInfo(path).path());
-  return std::nullopt;
+void writeObjects(QXmlStreamWriter &xml, const ManagedObjects &objects) {
+  xml.setAutoFormatting(true);
+  xml.writeStartDocument();
+  xml.writeStartElement(u"store"_s);
+  for (auto object = objects.begin(); object != objects.end(); ++object) {
+    xml.writeStartElement(u"object"_s);
+    xml.writeAttribute(u"entity"_s, object->entity);
+    xml.writeAttribute(u"id"_s, object.key().toString());
+    const auto &values = object->values;
+    for (auto value = values.begin(); value != values.end(); ++value) {
+      xml.writeEmptyElement(u"attribute"_s);
+      xml.writeAttribute(u"name"_s, value.key());
+      xml.writeAttribute(u"value"_s, value.value());
+    }
+    xml.writeEndElement();
+  }
+  xml.writeEndDocument();
 }
 
 }  // namespace
 
 std::optional<Error> PersistentStoreCoordinator::addXMLStore(const QString &path) {
-  std::error_code problem;
-  const auto found = std::filesystem::status(QFile::encodeName(path).toStdString(), problem);
-  if (found.type() == std::filesystem::file_type::not_found) {
-    _path = path;
-    return std::nullopt;
+  const auto content = readPlainFile(QFile::encodeName(path), kLargestStore);
+  const auto *problem = std::get_if<Error>(&content);
+  if (problem != nullptr && problem->code != ENOENT) return *problem;
+  if (problem == nullptr) {
+    QXmlStreamReader xml(std::get<QByteArray>(content));
+    const ManagedObjects objects = readObjects(xml, _model);
+    if (xml.hasError()) {
+      const QString place = u"%1 (line %2)"_s.arg(xml.errorString()).arg(xml.lineNumber());
+      return Error{kCocoaErrorDomain, kFileReadCorruptFile,
+                   u"The saved data could not be read: %1"_s.arg(place)};
+    }
+    _objects = objects;
   }
-  if (problem) return posixError(problem.value());
-  // Opening a pipe would wait for ever.
-  if (!std::filesystem::is_regular_file(found)) return corrupt(u"It is no file"_s);
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return corrupt(file.errorString());
-  if (file.size() > kLargestStore) return corrupt(u"It is too large"_s);
-  auto content = objectsFromXML(file.readAll(), _model);
-  if (const auto *reason = std::get_if<QString>(&content)) return corrupt(*reason);
-  _objects = std::get<ManagedObjects>(std::move(content));
   _path = path;
   return std::nullopt;
 }
 
 std::optional<Error> PersistentStoreCoordinator::save(const ManagedObjects &objects) {
-  const QByteArray bytes = xmlFromObjects(objects);
-  // A file that the next start would refuse, or read otherwise, must not take the place of a good
-  // one.
-  const auto content = objectsFromXML(bytes, _model);
-  const auto *readBack = std::get_if<ManagedObjects>(&content);
-  if (bytes.size() > kLargestStore || readBack == nullptr || *readBack != objects)
-    return notWritten(u"A text is too long, or has characters that cannot be kept"_s);
-  if (auto error = writeSafely(_path, bytes)) return error;
+  QByteArray bytes;
+  QXmlStreamWriter xml(&bytes);
+  writeObjects(xml, objects);
+  if (xml.hasError()) return notWritten(u"A text has characters that cannot be kept"_s);
+  if (bytes.size() > kLargestStore) return notWritten(u"It is too much"_s);
+  if (const auto error = PlainFileWriter(_path).write(bytes))
+    return notWritten(error->localizedDescription);
   _objects = objects;
   return std::nullopt;
 }

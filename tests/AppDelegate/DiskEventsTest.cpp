@@ -31,6 +31,14 @@ TEST(DiskEvents, WhatOthersDoIsFollowedAndSaidInBlue) {
   EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
 }
 
+TEST(DiskEvents, AForcedUnmountThatMayLoseSomethingSaysSo) {
+  TestMachine machine(twoEspMachine());
+  machine.platform.workspaceNotificationCenter().post(
+      {kVolumeUnwrittenNotification, nullptr, {{kNSDevicePathKey, "/media/a"}}});
+  ASSERT_EQ(machine.desktop.notifications.size(), 1);
+  EXPECT_TRUE(machine.desktop.notifications[0].contains("/media/a did not answer"));
+}
+
 TEST(DiskEvents, MessagesFollowAndOnlyARefusalsColourDoesNotWait) {
   TestMachine machine(twoEspMachine());
   TextField *field = machine.interface.statusTextField();

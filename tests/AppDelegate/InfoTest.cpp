@@ -28,6 +28,12 @@ TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
   EXPECT_TRUE(window->text().contains("a simulated machine, not there")) << "asked anew";
 
   machine.settle();
+  const QSize size = window->size();
+  window->showMinimized();
+  machine.delegate.showInfo();
+  machine.settle();
+  EXPECT_EQ(window->size(), size);
+  EXPECT_FALSE(window->isMinimized());
   QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
   const auto *value = qobject_cast<QLabel *>(window->focusWidget());
   ASSERT_NE(value, nullptr);

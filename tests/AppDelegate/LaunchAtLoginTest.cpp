@@ -45,3 +45,14 @@ TEST_F(LaunchAtLogin, LeavesItemsOfOthersAndTakesOneDuplicateAtATime) {
   EXPECT_TRUE(machine.delegate.isLaunchAtStartup()) << "the second one of ours";
   EXPECT_FALSE(stored());
 }
+
+TEST_F(LaunchAtLogin, ATextCountsByItsFirstCharacterBehindBlanksSignAndZeros) {
+  const std::pair<const char *, bool> kRows[] = {{"no", false}, {"off", false}, {"-0", false},
+                                                 {"Yes", true}, {" +07", true}, {"true", true}};
+  for (const auto &[text, isOn] : kRows) {
+    machine.platform.userDefaults().set("RunAtload", text);
+    machine.delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(machine.interface.runAtLoadCheck()->state() == CheckBox::kOn, isOn) << text;
+    EXPECT_EQ(machine.delegate.isLaunchAtStartup(), isOn);
+  }
+}

@@ -143,13 +143,13 @@ TEST(RowActions, AFolderThatMayNotBeReadOrIsGoneIsSaidAndNotOpened) {
 TEST(RowActions, BusyNamesWhoUsesTheVolume) {
   TestMachine machine(R"json({ "disks": [ { "unit": 0, "partitions": [ { "slice": 1,
     "media": "EFI System Partition", "refuse": { "unmount": "busy" },
-    "volume": { "kind": "msdos", "mountPoint": "EFI", "usedBy": ["a (1)", "b<i> (2)", "c (3)",
+    "volume": { "kind": "msdos", "mountPoint": "EFI", "usedBy": ["a (1)", "b<i> (2)", "%1%2 (3)",
       "d (4)", "e (5)", "f (6)", "g (7)", "h (8)"] } } ] } ] })json");
   machine.click(machine.mountButton(0));
   const QString refusal = "umount failed for disk0s1, reason: busy";
   EXPECT_EQ(machine.status(), refusal);
   QWidget *statusLine = machine.interface.statusTextField();
-  EXPECT_TRUE(toolTipOf(statusLine).contains("In use by a (1), b&lt;i&gt; (2), c (3)"));
+  EXPECT_TRUE(toolTipOf(statusLine).contains("In use by a (1), b&lt;i&gt; (2), %1%2 (3)"));
   EXPECT_TRUE(toolTipOf(statusLine).contains("f (6) and 2 more"));
 
   RowButton *button = machine.mountButton(0);

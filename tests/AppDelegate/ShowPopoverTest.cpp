@@ -2,6 +2,7 @@
 
 #include <QTimer>
 
+#include "Interface/Notice.h"
 #include "support/TestMachine.h"
 
 namespace {
@@ -55,6 +56,26 @@ TEST_F(ShowPopoverTest, OpensWhereTheItemIsAndWithAnEmptyStatusLine) {
   emit machine.desktop.reopened();
   EXPECT_TRUE(popover().isShown());
   EXPECT_TRUE(popover().placement().arrowEdge.has_value());
+}
+
+TEST(ProgramWithoutATray, SaysSoInThePopoverOnceUnlessTheSessionHasStartedIt) {
+  for (const bool startedAtLogin : {true, false}) {
+    SimulatedPlatform platform(machineOf(twoEspMachine()), std::make_unique<SteppingClock>());
+    const CurrentPlatform current(platform);
+    SimulatedDesktop desktop;
+    desktop.hasTray = false;
+    desktop.startedAtLogin = startedAtLogin;
+    AppDelegate delegate(platform, desktop);
+    MainInterface interface;
+    connectOutlets(interface, delegate);
+    delegate.applicationDidFinishLaunching();
+    const auto isShown = [&] { return interface.popover()->isShown(); };
+    EXPECT_EQ(QTest::qWaitFor(isShown, 2000), !startedAtLogin);
+    EXPECT_EQ(interface.trayNotice()->text(), startedAtLogin ? "" : "Get a tray.");
+    interface.popover()->close();
+    delegate.showPopover();
+    EXPECT_FALSE(interface.trayNotice()->isVisible()) << "it has been said";
+  }
 }
 
 TEST_F(ShowPopoverTest, RefusalThatFindsItClosedBecomesANotification) {

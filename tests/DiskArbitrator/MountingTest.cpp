@@ -46,7 +46,8 @@ TEST_F(Mounting, MountsWhereTheServiceLikesOrAtAFolderThatItMakes) {
 }
 
 TEST_F(Mounting, AnOccupiedFolderIsNotMountedOver) {
-  EXPECT_FALSE(DiskArbitrator::mountPartition("disk1s1", machine.folder("Data")));
+  EXPECT_FALSE(DiskArbitrator::mountPartition("disk1s1", machine.folder("Data//.")));
+  EXPECT_TRUE(DiskArbitrator::mountPartition("disk1s2", machine.folder("Data/")));
   EXPECT_FALSE(DiskArbitrator::isMountPointValid("disk1s1"));
   EXPECT_TRUE(notes.isEmpty());
 }

@@ -5,6 +5,7 @@
 
 #include "Foundation/MainQueue.h"
 #include "Foundation/NotificationCenter.h"
+#include "Foundation/Paths.h"
 #include "Foundation/Text.h"
 
 TEST(Text, ReadsTheNumberThatATextBeginsWith) {
@@ -24,7 +25,19 @@ TEST(Text, AbsentTextsAreNeverTheSame) {
   EXPECT_FALSE(areEqualTexts(std::nullopt, std::nullopt));
   EXPECT_FALSE(areEqualTexts(QString(), std::nullopt));
   EXPECT_TRUE(areEqualTexts(QString("a"), QString("a")));
-  EXPECT_FALSE(fileExistsAtPath(std::nullopt));
+}
+
+TEST(Paths, KeepTheirBytes) {
+  const QByteArray all[] = {"/plain",        "/caf\xc3\xa9 100%",
+                            "/a\xff/b\xc3",  "/\xe2\x82z\xf0\x9f\x98\x80",
+                            "/\xed\xb2\x80", ""};
+  for (const QByteArray &bytes : all) {
+    const QString path = pathFromBytes(bytes);
+    EXPECT_EQ(bytesOfPath(path), bytes);
+    EXPECT_EQ(pathOfUrl(urlOfPath(path)), path) << bytes.toPercentEncoding().constData();
+  }
+  EXPECT_EQ(urlOfPath(pathFromBytes("/a b\xff")).toEncoded(), "file:///a%20b%FF");
+  EXPECT_FALSE(isHarmless(pathFromBytes("\xff").front().unicode())) << "it is not painted";
 }
 
 TEST(MainQueue, RunsJobsInOrderAfterTheirCallerAndNeverWhileHeld) {

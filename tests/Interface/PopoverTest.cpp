@@ -12,58 +12,34 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr PopoverMetrics kMetrics{9, 22, 6};
-const QSize kPanel(470, 400);
-const QRect kScreen(0, 26, 1280, 742);  // a panel along the top
-
-PopoverPlacement at(const QRect &anchor, Qt::Edge edge = Qt::BottomEdge,
-                    const QRect &screen = kScreen) {
-  return placePopover(kPanel, anchor, edge, screen, kMetrics);
+/// Where a panel of 470 to 400 goes, and the arrow's tip, if it has one.
+QString at(const QRect &item, const QRect &available, bool endsAtRight = true) {
+  const QRect whole(0, 0, 1280, 800);
+  const PopoverPlacement place =
+      placePopover({470, 400}, item, Qt::BottomEdge, {whole, available}, {9, 6, 6}, endsAtRight);
+  const QString text = QString("%1,%2").arg(place.panel.left()).arg(place.panel.top());
+  if (!place.arrowEdge) return text;
+  const int tip = place.panel.left() + place.arrowX;
+  return text + (place.arrowEdge == Qt::TopEdge ? " ^" : " v") + QString::number(tip);
 }
 
-TEST(PopoverPlacementTest, HangsBelowItsAnchor) {
-  const PopoverPlacement place = at({600, 1, 24, 24});
-  EXPECT_EQ(place.panel, QRect(611 - 235, 34, 470, 400));
-  EXPECT_EQ(place.arrowEdge, Qt::TopEdge);
-  EXPECT_EQ(place.panel.left() + place.arrowX, 611);
+TEST(PopoverPlacementTest, HangsFromItsItemAndStaysOnTheScreen) {
+  const QRect screen(0, 26, 1280, 742);  // a panel along the top
+  EXPECT_EQ(at({600, 1, 24, 24}, screen), "376,35 ^611") << "all below the bar";
+  EXPECT_EQ(at({1256, 1, 24, 24}, screen), "804,35 ^1267");
+  EXPECT_EQ(at({-1280, 301, 24, 24}, screen.translated(-1280, 300)), "-1274,335 ^-1268");
+  EXPECT_EQ(at({600, 775, 24, 24}, screen.translated(0, -26)), "376,333 v611");
+  const QRect betweenBars(30, 0, 1220, 800);
+  EXPECT_EQ(at({3, 500, 24, 24}, betweenBars), "36,311");
+  EXPECT_EQ(at({1253, 780, 24, 24}, betweenBars), "774,391");
+  EXPECT_EQ(at({300, 0, 20, 20}, {0, 0, 320, 200}), "6,9 ^309") << "too small a screen";
 }
 
-TEST(PopoverPlacementTest, StaysOnTheScreenInEveryCorner) {
-  for (const QRect &screen :
-       {kScreen, kScreen.translated(1280, 300), kScreen.translated(-1280, -768)}) {
-    const int left = screen.left();
-    const int top = screen.top();
-    for (const QPoint &corner : {QPoint(left, top - 25), QPoint(left + 1256, top - 25),
-                                 QPoint(left, top + 718), QPoint(left + 1256, top + 718)}) {
-      const PopoverPlacement place = at({corner, QSize(24, 24)}, Qt::BottomEdge, screen);
-      EXPECT_TRUE(screen.contains(place.panel));
-      EXPECT_EQ(place.arrowEdge, corner.y() < top ? Qt::TopEdge : Qt::BottomEdge);
-      EXPECT_GE(place.arrowX, kMetrics.arrowInset);
-      EXPECT_LE(place.arrowX, kPanel.width() - kMetrics.arrowInset);
-    }
-  }
-}
-
-TEST(PopoverPlacementTest, WithoutAnAnchorInTheMiddle) {
-  const PopoverPlacement place = at({});
-  EXPECT_EQ(place.arrowEdge, std::nullopt);
-  EXPECT_EQ(place.panel.center(), kScreen.center());
-}
-
-TEST(PopoverPlacementTest, BesideAnItemInABarAtTheSide) {
-  const QRect screen(30, 0, 1220, 800);  // a bar on either side
-  const PopoverPlacement left = at({3, 500, 24, 24}, Qt::BottomEdge, screen);
-  EXPECT_EQ(left.arrowEdge, std::nullopt);
-  EXPECT_EQ(left.panel, QRect(36, 311, 470, 400));
-  const PopoverPlacement right = at({1253, 780, 24, 24}, Qt::BottomEdge, screen);
-  EXPECT_EQ(right.arrowEdge, std::nullopt);
-  EXPECT_EQ(right.panel, QRect(774, 394, 470, 400));
-}
-
-TEST(PopoverPlacementTest, TooSmallAScreenShowsTheTop) {
-  const QRect small(0, 0, 320, 200);
-  const PopoverPlacement place = at({300, 0, 20, 20}, Qt::BottomEdge, small);
-  EXPECT_EQ(place.panel.topLeft(), QPoint(6, 6));
+TEST(PopoverPlacementTest, WithoutAnAnchorAtTheEndOfTheWidestBar) {
+  EXPECT_EQ(at({}, {0, 0, 1280, 800}), "405,200");
+  EXPECT_EQ(at({}, {0, 30, 1280, 750}), "804,39");
+  EXPECT_EQ(at({}, {0, 20, 1280, 750}, false), "6,361");
+  EXPECT_EQ(at({}, {30, 0, 1250, 800}), "36,391");
 }
 
 struct Content : QWidget {
@@ -81,31 +57,33 @@ class PopoverTest : public testing::Test, public PopoverDelegate {
     popover.setContentView(content);
     popover.setDelegate(this);
     popover.setBehavior(Popover::Behavior::Transient);
-    popover.showRelativeTo({400, 0, 24, 24}, Qt::BottomEdge);
+    showAt(400);
   }
 
+  void showAt(int left) { popover.showRelativeTo({left, 0, 24, 24}, Qt::BottomEdge); }
   bool popoverShouldDetach(Popover *) override { return false; }
-  void popoverDidShow() override { ++shown; }
-  void popoverWillClose() override { ++closing; }
+  void popoverDidShow() override { said += "shown"; }
+  void popoverWillClose() override { said += "closing"; }
 
-  int shown = 0;
-  int closing = 0;
+  QStringList said;
   Popover popover;
   Content *content = new Content;
 };
 
 TEST_F(PopoverTest, TellsOfEachOpeningAndClosingOnce) {
-  popover.showRelativeTo({500, 0, 24, 24}, Qt::BottomEdge);
-  EXPECT_EQ(shown, 1);
-  QTest::keyClick(&popover, Qt::Key_Escape);
-  EXPECT_FALSE(popover.isShown());
+  showAt(500);
+  popover.setHeldOpen(true);
+  emit qApp->applicationStateChanged(Qt::ApplicationInactive);
+  popover.setHeldOpen(false);
+  emit qApp->applicationStateChanged(Qt::ApplicationActive);
+  EXPECT_EQ(said, QStringList("shown"));
+  emit qApp->applicationStateChanged(Qt::ApplicationInactive);
   popover.close();
-  EXPECT_EQ(closing, 1);
+  EXPECT_EQ(said, QStringList({"shown", "closing"}));
 }
 
 TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
   const QRect before = popover.placement().panel;
-  EXPECT_EQ(before.size(), QSize(300, 100));
   content->grow({300, 260});
   EXPECT_TRUE(QTest::qWaitFor([&] { return content->height() == 260; }));
   EXPECT_EQ(popover.placement().panel.topLeft(), before.topLeft());
@@ -117,30 +95,12 @@ TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
 TEST_F(PopoverTest, PaintsItsFrameAnewForAnotherShapeOrPalette) {
   const auto picture = [this] { return popover.grab().toImage(); };
   const QImage before = picture();
-  EXPECT_EQ(picture(), before);
-  popover.showRelativeTo({401, 0, 24, 24}, Qt::BottomEdge);  // the arrow alone moves
-  popover.showRelativeTo({400, 0, 24, 24}, Qt::BottomEdge);
-  EXPECT_EQ(picture(), before);
-  popover.showRelativeTo({20, 0, 24, 24}, Qt::BottomEdge);
+  showAt(20);
   EXPECT_NE(picture(), before) << "the arrow is elsewhere";
-  popover.showRelativeTo({400, 0, 24, 24}, Qt::BottomEdge);
-  QPalette dark;
-  dark.setColor(QPalette::Window, Qt::black);
-  dark.setColor(QPalette::Base, Qt::black);
-  dark.setColor(QPalette::WindowText, Qt::white);
-  popover.setPalette(dark);
+  showAt(400);
+  EXPECT_EQ(picture(), before);
+  popover.setPalette(QPalette(Qt::black));
   EXPECT_NE(picture(), before) << "dark";
-}
-
-TEST_F(PopoverTest, ClosesWhenAnotherProgramIsActiveUnlessHeld) {
-  popover.setHeldOpen(true);
-  emit qApp->applicationStateChanged(Qt::ApplicationInactive);
-  EXPECT_TRUE(popover.isShown());
-  popover.setHeldOpen(false);
-  emit qApp->applicationStateChanged(Qt::ApplicationActive);
-  EXPECT_TRUE(popover.isShown());
-  emit qApp->applicationStateChanged(Qt::ApplicationInactive);
-  EXPECT_FALSE(popover.isShown());
 }
 
 struct HandClock : Clock {
@@ -155,23 +115,20 @@ TEST(StatusItemTest, ClickOpensOrClosesAndASecondOneOfTheSameIntentDoesNothing) 
   QStringList asked;
   QObject::connect(&item, &StatusItem::action, [&] { asked += "open"; });
   QObject::connect(&item, &StatusItem::dismissal, [&] { asked += "close"; });
+  const auto clickAfter = [&](std::chrono::milliseconds time) {
+    clock.time += time;
+    desktop.clickItem();
+    return std::exchange(asked, {}).join(", ");
+  };
   const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
 
-  desktop.clickItem();
-  item.setHighlighted(true);
-  clock.time += doubleClick - 1ms;
-  desktop.clickItem();
-  EXPECT_EQ(asked, QStringList({"open"})) << "the rest of a double click";
-  clock.time += 1ms;
-  desktop.clickItem();
-  EXPECT_EQ(asked, QStringList({"open", "close"}));
-  item.setHighlighted(false);
-  clock.time += 249ms;
-  desktop.clickItem();
-  EXPECT_EQ(asked, QStringList({"open", "close"})) << "the click that has closed it";
-  clock.time += 1ms;
-  desktop.clickItem();
-  EXPECT_EQ(asked, QStringList({"open", "close", "open"}));
+  EXPECT_EQ(clickAfter(0ms), "open");
+  item.setOpen(true);
+  EXPECT_EQ(clickAfter(doubleClick - 1ms), "") << "the rest of a double click";
+  EXPECT_EQ(clickAfter(1ms), "close");
+  item.setOpen(false);
+  EXPECT_EQ(clickAfter(249ms), "") << "the click that has closed it";
+  EXPECT_EQ(clickAfter(1ms), "open");
 }
 
 }  // namespace

@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
 
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "Foundation/NotificationCenter.h"
+#include "Interface/InputGate.h"
 #include "conformance/ConformanceMachine.h"
+#include "support/VolumeNews.h"
 
 namespace {
 
@@ -61,6 +65,11 @@ class Conformance : public testing::Test {
   DissenterStatus unmount(const QString &name, Option option = Option::Default) {
     service().unmount(name, option, answer());
     return answered();
+  }
+
+  /// As a posted event, which the event loop serves before it waits.
+  static void later(const std::function<void()> &work) {
+    QMetaObject::invokeMethod(qApp, work, Qt::QueuedConnection);
   }
 
   bool hears(const QStringList &expected) {
@@ -145,7 +154,7 @@ TEST_F(Conformance, ABusyVolumeIsUnmountedByForceOnly) {
   machine->occupy();
   EXPECT_EQ(unmount(esp), kDAReturnBusy);
   EXPECT_EQ(mountPoint(), path);
-  EXPECT_FALSE(machine->platform().processesUsing(path).isEmpty());
+  EXPECT_FALSE(processesUsing(machine->platform(), path).isEmpty());
   EXPECT_EQ(unmount(esp, Option::Force), kDAReturnSuccess);
   EXPECT_TRUE(hears({"-" + path}));
   EXPECT_EQ(mountPoint(), "");
@@ -210,7 +219,66 @@ TEST_F(Conformance, AWaitEndsWithItsOwnFlagOnly) {
   loop.run(isOuterOver);
   order += "outer";
   EXPECT_EQ(order, (QStringList{"inner", "outer"}));
-  loop.servePending();
+}
+
+TEST_F(Conformance, AWaitEndsThoughALoopInsideItHasTakenItsStop) {
+  RunLoop &loop = machine->platform().runLoop();
+  bool isOver = false;
+  const auto poll = [&] {
+    while (!isOver) loop.servePending();
+  };
+  const auto showDialog = [] {
+    QEventLoop dialog;
+    QTimer::singleShot(5, &dialog, &QEventLoop::quit);
+    dialog.exec();
+  };
+  for (const auto &runInside : {std::function<void()>(poll), std::function<void()>(showDialog)}) {
+    isOver = false;
+    later([&] {
+      later([&] { isOver = true, loop.stop(); });
+      runInside();
+    });
+    QElapsedTimer time;
+    time.start();
+    loop.run(isOver);
+    EXPECT_LT(time.elapsed(), 2000);
+  }
+}
+
+TEST_F(Conformance, APollServesForAMomentAndAsksNoMoreThanFiftyTimesASecond) {
+  bool isServed = false;
+  QTimer::singleShot(5, [&] { isServed = true; });
+  QElapsedTimer time;
+  time.start();
+  for (int times = 0; times < 3; ++times) machine->platform().runLoop().servePending();
+  EXPECT_TRUE(isServed);
+  EXPECT_GE(time.elapsed(), 55);
+}
+
+TEST_F(Conformance, ATapDuringAWaitDoesNotReachTheButtonAfterwards) {
+  QPushButton button;
+  button.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&button));
+  int clicks = 0;
+  QObject::connect(&button, &QPushButton::clicked, [&] { ++clicks; });
+  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+  const auto tap = [&] {
+    const QPoint place = button.rect().center();
+    QTest::touchEvent(&button, screen.get(), false).press(0, place, &button).commit(false);
+    QTest::touchEvent(&button, screen.get(), false).release(0, place, &button).commit(false);
+  };
+  {
+    const InputGate gate;
+    RunLoop &loop = machine->platform().runLoop();
+    bool isOver = false;
+    later([&] { tap(), isOver = true, loop.stop(); });
+    loop.run(isOver);
+  }
+  QCoreApplication::processEvents();
+  EXPECT_EQ(clicks, 0);
+  tap();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(Conformance, ThePartitionIsMountedWhenTheProgramsWaitIsOver) {

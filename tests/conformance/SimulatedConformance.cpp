@@ -21,7 +21,7 @@ class SimulatedConformance final : public ConformanceMachine {
   void pull() override { _machine.platform.pull(3); }
 
  private:
-  TestPlatform _machine{kMachine};
+  TestPlatform _machine{kMachine, QtRunLoop::kMoment};
 };
 
 }  // namespace

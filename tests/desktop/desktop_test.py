@@ -69,7 +69,8 @@ class DesktopTest(unittest.TestCase):
         with tempfile.NamedTemporaryFile("w", suffix=".json", delete=False) as file:
             json.dump(MACHINE, file)
         self.addCleanup(os.unlink, file.name)
-        program = Program([PROGRAM, file.name], self.screen)
+        # As at login: a program that a hand starts opens its popover where there is no tray, to say so.
+        program = Program(["env", "DESKTOP_AUTOSTART_ID=test", PROGRAM, file.name], self.screen)
         self.addCleanup(program.end)
         program.wait_for("the program should be up", self.is_up)
         return program

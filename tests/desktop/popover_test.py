@@ -145,22 +145,6 @@ class PopoverTest(DesktopTest):
             program.wait_for(f"{number} should make it {'dark' if is_dark else 'light'}",
                              lambda: (max(screen.colours(ground)[0]) < 100) == is_dark)
 
-    def test_info_window_by_keyboard(self):
-        program = self.open_program()
-        program.focus("Info")
-        screen.press("Return")
-        windows = accessibility.find_application("keldra").children
-        about = program.wait_for("the info window should open", lambda: next(
-            (window for window in windows() if window.role == "dialog" and window.is_active()), None))
-        program.wait_for("the keyboard should be there", lambda: self.focused(about))
-        self.assertEqual(self.focused(about).name, "Close")
-        self.assertEqual(self.press(program, "Tab", about), "Keldra v1.6")
-        screen.press("Escape")
-        program.wait_for("the info window should close", lambda: not about.is_showing())
-        self.launch_again()
-        self.assert_open(program)
-        self.assertEqual(self.focused(program.window()).name, "Partitions")
-
 
 if __name__ == "__main__":
     main("xev")

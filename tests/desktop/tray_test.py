@@ -1,10 +1,11 @@
-"""The popover on the item in a panel's tray: tray_test.py KELDRA_DEMO trayer|xfce|lxqt."""
+"""The popover on the item in a panel's tray: tray_test.py KELDRA_DEMO trayer|xfce."""
 
 import sys
 
 from desktop_test import DesktopTest, main
 
 import screen
+import tray
 
 KIND = sys.argv[2]
 
@@ -24,18 +25,15 @@ class TrayTest(DesktopTest):
         program.open()
         return program
 
-    def test_program_comes_before_the_panel(self):
-        program = self.start_program()
-        self.start_panel(KIND)
-        program.open()
-
     def test_panel_is_killed_and_comes_back(self):
         panel = self.start_panel(KIND)
         program = self.start_program()
         for _ in range(2):
             program.wait_for_item()
             self.end(panel)
-            program.wait_for("the item should be gone", lambda: not screen.tray_item("keldra"))
+            # The panel's bus names outlive it a little, and a new one would find them taken.
+            program.wait_for("the panel should be gone",
+                             lambda: not (tray.has_host() or screen.has_trayer() or screen.tray_item("keldra")))
             panel = self.start_panel(KIND)
         program.open()
 
@@ -72,13 +70,6 @@ class TrayTest(DesktopTest):
         self.assertEqual(arrow, ground, "the arrow should be on the item")
         self.assertNotIn(ground, beside, "the arrow should be narrow")
 
-    def test_click_mounts(self):
-        program = self.open_program()
-        program.click("mount disk0s1")
-        view = program.wait_for_view("disk0s1 should be mounted", lambda view: view.mounted_at("disk0s1"))
-        path = view.mounted_at("disk0s1")
-        program.wait_for_view("the status line should say so", lambda view: view.status == f"disk0s1 mouted at {path}")
-
     def test_clicks_on_the_item(self):
         program = self.open_program()
         item = screen.tray_item("keldra")
@@ -107,4 +98,4 @@ class TrayTest(DesktopTest):
 
 
 if __name__ == "__main__":
-    main({"xfce": "xfce4-panel", "lxqt": "lxqt-panel"}.get(KIND, KIND))
+    main({"xfce": "xfce4-panel"}.get(KIND, KIND))

@@ -21,15 +21,6 @@ class TraysComeAndGoTest(DesktopTest):
             self.open_and_close(program)
             self.end(panel)
 
-    def test_item_shows_once_where_both_protocols_are_spoken(self):
-        self.start_panel("trayer")
-        program = self.start_program()
-        program.wait_for("its icon should be docked", lambda: screen.docked_icon("keldra"))
-        self.start_panel("xfce", "bottom")
-        program.wait_for("its item should have moved", lambda: tray.items() and not screen.docked_icon("keldra"))
-        self.open_and_close(program)
-        self.assertEqual(len(tray.items()), 1)
-
     @staticmethod
     def open_and_close(program):
         program.open()

@@ -23,16 +23,6 @@ class WaylandTest(DesktopTest):
         wayland_screen.press("Escape")
         self.assert_stays_closed(program)
 
-    def test_bar_is_killed_and_comes_back(self):
-        program = self.start_program()
-        bar = self.start_panel("swaybar")
-        program.open()
-        self.end(bar)
-        self.start_panel("swaybar")
-        wayland_screen.press("Escape")
-        program.wait_until_closed()
-        program.open()
-
     def test_clicks(self):
         self.start_panel("swaybar")
         program = self.start_program()
@@ -45,15 +35,6 @@ class WaylandTest(DesktopTest):
         self.assert_stays_closed(program)
         wayland_screen.click(item)
         self.assert_stays_open(program)
-
-    def test_popover_has_no_arrow(self):
-        """Which would leave less room at its side than there is elsewhere."""
-        self.start_panel("swaybar")
-        program = self.start_program()
-        program.open()
-        rows = next(node for node in program.window().descendants() if node.role == "list")
-        (left, top, _, _), (window_left, window_top, _, _) = rows.place(), program.window().place()
-        self.assertEqual(top - window_top, left - window_left)
 
     def test_activation_elsewhere_closes_it(self):
         program = self.start_program()

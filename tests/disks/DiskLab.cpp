@@ -68,10 +68,6 @@ void DiskLab::startService() {
   run(tool("disk-service"), {"start", "udisksd"});
 }
 
-void DiskLab::stopService() {
-  run(tool("disk-service"), {"stop", "udisksd"});
-}
-
 void DiskLab::killService() {
   run(tool("disk-service"), {"kill", "udisksd"});
 }

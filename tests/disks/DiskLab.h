@@ -29,7 +29,6 @@ QString imageFile(const QString &name);
 QString makeFolder(const QString &name);
 
 void startService();
-void stopService();
 void killService();
 bool isServiceRunning();
 

@@ -4,13 +4,15 @@
 #include <QProcess>
 #include <QUrl>
 
-#include "Platform/ThisMachine.h"
+#include "Platform/linux/LinuxPlatform.h"
 #include "support/VolumeNews.h"
 
 void DiskTest::SetUp() {
   if (!DiskLab::isHere()) GTEST_SKIP() << "not in a disk laboratory";
-  startPlatform();
-  ASSERT_TRUE(waitForPresence(DiskService::Presence::Answering));
+  platform = makeLinuxPlatform(productVersion());
+  noteVolumeNews(platform->workspaceNotificationCenter(), _observer, events);
+  ASSERT_TRUE(waitFor(
+      [&] { return platform->diskService().presence() == DiskService::Presence::Answering; }));
 }
 
 void DiskTest::TearDown() {
@@ -26,22 +28,6 @@ void DiskTest::TearDown() {
     }
     DiskLab::pull(disk);
   }
-}
-
-void DiskTest::startPlatform() {
-  platform = makePlatform();
-  events.clear();
-  noteVolumeNews(platform->workspaceNotificationCenter(), _observer, events);
-}
-
-QStringList DiskTest::volumeEvents() const {
-  QStringList list = events;
-  list.removeAll("changed");
-  return list;
-}
-
-bool DiskTest::waitForPresence(DiskService::Presence presence) {
-  return waitFor([&] { return platform->diskService().presence() == presence; });
 }
 
 QString DiskTest::addDisk(const QString &name, const QByteArray &table, int partitions) {

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "Foundation/NotificationCenter.h"
 #include "Platform/Platform.h"
@@ -22,10 +23,6 @@ class DiskTest : public testing::Test {
   static bool waitFor(const std::function<bool()> &condition) {
     return QTest::qWaitFor(condition, 10000);
   }
-
-  /// A new platform, whose events go to `events` from now on.
-  void startPlatform();
-  bool waitForPresence(DiskService::Presence presence);
 
   /// A disk with this table, which is removed after the test. Waits until all its partitions are
   /// known.
@@ -50,10 +47,12 @@ class DiskTest : public testing::Test {
 
   /// As support/VolumeNews.h notes them.
   QStringList events;
-  /// Those with a path.
-  QStringList volumeEvents() const;
 
   std::unique_ptr<Platform> platform;
+
+ protected:
+  /// Of the machine that the program finds itself on; absent for the one that ships.
+  virtual std::optional<QString> productVersion() const { return {}; }
 
  private:
   DissenterStatus answerTo(const std::function<void(DiskService::Completion)> &request);

@@ -13,29 +13,18 @@ using DA = DiskArbitrator;
 
 class OldSystem : public DiskTest {
  public:
-  void SetUp() override {
-    DiskTest::SetUp();
-    if (IsSkipped()) return;
-    device = addSystemPartition("OLD");
-    name = nameOf(device);
-    ASSERT_TRUE(QFile::link(device, qEnvironmentVariable("KELDRA_LAB") + "/old/devices/" + name));
-    program.emplace(*platform);
-    ASSERT_EQ(DA::findOSXMinorVersion(), 8);
-  }
-  void TearDown() override {
-    program.reset();
-    DiskTest::TearDown();
-  }
-
-  QString device;
-  QString name;
-  std::optional<Program> program;
+  std::optional<QString> productVersion() const override { return "10.8.5"; }
 };
 
 }  // namespace
 
 TEST_F(OldSystem, MountsFindsAndUnmountsAnESPByItsPrograms) {
-  EXPECT_EQ(program->title(name), "umount " + name) << "as if mounted";
+  const QString device = addSystemPartition("OLD");
+  const QString name = nameOf(device);
+  ASSERT_TRUE(QFile::link(device, qEnvironmentVariable("KELDRA_LAB") + "/old/devices/" + name));
+  Program program(*platform);
+  ASSERT_EQ(DA::findOSXMinorVersion(), 8);
+  EXPECT_EQ(program.title(name), "umount " + name) << "as if mounted";
   EXPECT_EQ(DA::findMountPoint(name), "N/A");
   ASSERT_TRUE(QDir().mkpath("/Volumes/EFI"));
   ASSERT_TRUE(QDir().mkpath("/Volumes/EFI 1/in use"));
@@ -44,12 +33,12 @@ TEST_F(OldSystem, MountsFindsAndUnmountsAnESPByItsPrograms) {
   EXPECT_EQ(mountPointOf(name), path) << "as the kernel tells";
   EXPECT_EQ(DA::findMountPoint(name), path) << "as df tells";
   EXPECT_EQ(DA::findBSDName(path), name);
-  EXPECT_TRUE(program->says(name + " mouted at " + path));
-  EXPECT_EQ(program->rowOf(name)->openButton()->title(), "open " + path);
+  EXPECT_TRUE(program.says(name + " mouted at " + path));
+  EXPECT_EQ(program.rowOf(name)->openButton()->title(), "open " + path);
 
-  program->click(name);
-  EXPECT_TRUE(program->says(path + " umounted!"));
+  program.click(name);
+  EXPECT_TRUE(program.says(path + " umounted!"));
   EXPECT_EQ(mountPointOf(name), "");
   EXPECT_EQ(DA::findMountPoint(name), "N/A");
-  EXPECT_EQ(program->title(name), "umount " + name);
+  EXPECT_EQ(program.title(name), "umount " + name);
 }

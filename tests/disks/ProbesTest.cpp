@@ -13,16 +13,6 @@ QByteArray queried(const QStringList &words) {
 
 }  // namespace
 
-TEST_F(Probes, TellTheSizesThatTheKernelTells) {
-  const QString device = addSystemPartition("SIZES");
-  const CurrentPlatform current(*platform);
-  const QString disk = device.section('p', 0, -2);
-  const QByteArray physical = DiskLab::run("blockdev", {"--getpbsz", disk}).trimmed();
-  EXPECT_EQ(DiskArbitrator::findSectorSize(nameOf(device)), "Physical " + physical + "-bytes");
-  const QByteArray logical = DiskLab::run("blockdev", {"--getss", disk}).trimmed();
-  EXPECT_EQ(platform->rawDevices().logicalBlockSize(nameOf(disk)), logical.toUInt());
-}
-
 // No kernel is needed that mounts FAT: it is written over a file system while that is mounted.
 TEST_F(Probes, TellTheWidthOfFATAsTheServiceReadsIt) {
   const QString device = addSystemPartition("COVERED");
@@ -46,7 +36,8 @@ TEST_F(Probes, TellTheWidthOfFATAsTheServiceReadsIt) {
 TEST_F(Probes, AreAnsweredFromOutside) {
   const QString device = addSystemPartition("OUTSIDE");
   const QString name = nameOf(device);
-  EXPECT_EQ(queried({"findDeviceNode", name}), "\"" + device.toUtf8() + "\"");
+  const QByteArray size = DiskLab::run("blockdev", {"--getpbsz", device}).trimmed();
+  EXPECT_EQ(queried({"findSectorSize", name}), "\"Physical " + size + "-bytes\"");
   ASSERT_EQ(mount(name), kDAReturnSuccess);
   EXPECT_EQ(queried({"findBSDName", mountPointOf(name)}), "\"" + name.toUtf8() + "\"");
 }

@@ -5,9 +5,6 @@
 
 void fuzz(const QByteArray &bytes) {
   const QString output = QString::fromUtf8(bytes);
-  const QString device = QStringLiteral("/dev/disk0s1");
-  const auto mountPoint = mountPointInDiskFree(output, device);
-  if (!mountPoint.has_value()) return;
-  mustHold(output.contains(device) && output.contains(*mountPoint));
-  mustHold(*mountPoint == mountPoint->trimmed() && !mountPoint->contains(u'\n'));
+  const auto mountPoint = mountPointInDiskFree(output, QStringLiteral("/dev/disk0s1"));
+  mustHold(!mountPoint || (output.contains(*mountPoint) && !mountPoint->contains(u'\n')));
 }

@@ -1,60 +1,41 @@
-#include <QCoreApplication>
 #include <QTemporaryDir>
 
-#include "Platform/common/SystemFilesRoot.h"
-#include "Platform/macos/MacPlatform.h"
 #include "conformance/ConformanceMachine.h"
-#include "macos/fake/Fake.h"
+#include "macos/MacMachine.h"
 
 namespace {
 
-constexpr char kEsp[] = "disk3s1";
-
-class MacConformance final : public ConformanceMachine {
+class MacConformance final : public ConformanceMachine, MacMachine {
  public:
   MacConformance() {
-    _mac.volumesFolder = _volumes.path().toStdString();
-    _mac.plug("disk3", {{"DAMediaName", "Stick"},
-                        {"DAMediaBSDUnit", 3},
-                        {"DAMediaContent", "GUID_partition_scheme"},
-                        {"DAMediaWritable", true}});
-    _mac.plug(kEsp, {{"DAMediaName", "EFI System Partition"},
-                     {"DAMediaBSDUnit", 3},
-                     {"DAMediaUUID", fake::Uuid{"0E2F0B4C-1111-4C4C-8D8D-121212121212"}},
-                     {"DAMediaWritable", true},
-                     {"DAVolumeKind", "msdos"},
-                     {"DAVolumeName", "EFI"}});
-    _mac.plug("disk3s2",
-              {{"DAMediaName", "Empty"}, {"DAMediaBSDUnit", 3}, {"DAMediaWritable", true}});
-    _platform = makeMacPlatform(systemFilesRoot());
-    // What is there from the beginning has been told.
-    fake::serve();
-    QCoreApplication::processEvents();
+    SetUp();
+    mac.volumesFolder = _volumes.path();
+    mac.plug("disk0s2", {{"DAMediaBSDUnit", 0}, {"DAMediaWritable", true}});
+    start();
+    told();
   }
 
-  Platform &platform() override { return *_platform; }
-  QString disk() const override { return "disk3"; }
+  Platform &platform() override { return *MacMachine::platform; }
+  QString disk() const override { return "disk0"; }
 
-  void mount() override { _mac.mount(kEsp, _mac.volumesFolder + "/EFI"); }
-  void unmount() override { _mac.unmount(kEsp); }
+  void mount() override { mac.mount(kEsp, mac.volumesFolder + "/EFI"); }
+  void unmount() override { mac.unmount(kEsp); }
   void rename(const QString &label) override {
-    const bool isMounted = _mac.mountPoint(kEsp).has_value();
-    const std::string name = label.toStdString();
-    _mac.rename(kEsp, name,
-                isMounted ? std::optional(_mac.volumesFolder + "/" + name) : std::nullopt);
+    const bool isMounted = !mac.mountPoint(kEsp).isEmpty();
+    mac.rename(kEsp, label, isMounted ? mac.volumesFolder + "/" + label : QString());
   }
   void occupy() override {
-    _mac.onUnmount(kEsp) = fake::refused(kDAReturnBusy);
-    _mac.processes[_mac.mountPoint(kEsp).value()] = {{42, "less"}};
+    mac.onUnmount[kEsp].status = 1;
+    mac.processes[42] = {mac.mountPoint(kEsp).toStdString(), "less"};
   }
   void pull() override {
-    for (const char *name : {kEsp, "disk3s2", "disk3"}) _mac.pull(name);
+    for (const char *name : {kEsp, "disk0s2", "disk0"}) mac.pull(name);
   }
 
  private:
+  void TestBody() override {}
+
   QTemporaryDir _volumes;
-  fake::Machine _mac;
-  std::unique_ptr<Platform> _platform;
 };
 
 }  // namespace

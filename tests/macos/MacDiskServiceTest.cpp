@@ -1,20 +1,24 @@
-// What only this backend's service does: refusals inside a request, values of any type, no answer.
+// What only this backend's service does: refusals inside a request, an administrator's mount, a new
+// start of the service.
 
-#include <QUrl>
+#include <QTemporaryDir>
+#include <QTest>
 
-#include "DiskArbitrator/DiskArbitrator.h"
 #include "macos/MacMachine.h"
+#include "support/AsAnybody.h"
+#include "support/Files.h"
 
 namespace {
 
-using Answers = std::vector<DissenterStatus>;
+using Answers = QList<DissenterStatus>;
+using When = fake::Answer::When;
 
 class MacDisks : public MacMachine {
  protected:
   DiskService &service() const { return platform->diskService(); }
   DiskService::Completion answer() {
     return [this](const std::optional<Dissenter> &dissenter) {
-      answers.push_back(dissenter ? dissenter->status : kDAReturnSuccess);
+      answers += dissenter ? dissenter->status : kDAReturnSuccess;
     };
   }
 
@@ -23,59 +27,68 @@ class MacDisks : public MacMachine {
 
 }  // namespace
 
-TEST_F(MacDisks, ARefusalInsideTheCallEndsTheWaitThatComesAfterIt) {
-  mac.mount(kEsp, "/usr");  // a folder that is there
-  mac.onUnmount(kEsp) = fake::refusedInside(kDAReturnNotPrivileged);
-  start();
-  const CurrentPlatform current(*platform);
-  QStringList refusals;
-  QObject observer;
-  NotificationCenter::defaultCenter().addObserver(
-      &observer, "arbitrator",
-      [&](const Notification &note) { refusals += note.userInfo.value("note").toString(); });
-  EXPECT_TRUE(DiskArbitrator::umountPartition(kEsp, false));
-  ASSERT_EQ(refusals.size(), 1);
-  EXPECT_TRUE(refusals.first().startsWith("umount failed for disk0s1, reason: not privileged"));
-}
-
-TEST_F(MacDisks, ARequestIsAnsweredOnceOrEndsWithThePlatform) {
-  using When = fake::Answer::When;
-  const struct {
-    fake::Answer answer;
-    Answers expected;
-  } cases[] = {{fake::refusedInside(kDAReturnBusy), {kDAReturnBusy}},
-               {fake::refused(0xC00D), {0xC00D}},
-               {{When::WhenTheDiskHasVanished}, {kDAReturnNotFound}},
-               {{When::Never}, {}}};
-  start();
-  for (const auto &each : cases) {
-    mac.onMount(kEsp) = each.answer;
-    answers.clear();
-    service().mount(kEsp, "/Volumes/Elsewhere", answer());
-    fake::serve(fake::Mode::ModalPanel);
-    EXPECT_EQ(answers.empty(), each.answer.when != When::InsideTheCall);
-    fake::serve();
-    EXPECT_EQ(answers, each.expected);
-    if (each.answer.when == When::WhenTheDiskHasVanished) SetUp();
-  }
-  mac.onMount(kEsp) = {};
-  service().mount(kEsp, "/Volumes/Elsewhere", answer());
-  platform.reset();
-  fake::serve();
-  EXPECT_EQ(answers, Answers{});
-}
-
-TEST_F(MacDisks, AVolumeIsMountedWhereItIsWanted) {
+TEST_F(MacDisks, ARequestIsAnsweredOnceOrEndsWithTheServiceOrThePlatform) {
   start();
   service().mount(kEsp, "/Volumes/Ä b", answer());
-  fake::serve();
+  fake::serve(fake::Mode::ModalPanel);
+  EXPECT_EQ(answers, Answers{});
+  settle();
   EXPECT_EQ(answers, Answers{kDAReturnSuccess});
-  EXPECT_EQ(mac.mountPoint(kEsp), "/Volumes/Ä b");
-  EXPECT_EQ(service()
-                .descriptionOfVolume("/Volumes/Ä b")
-                .value_or(DiskDescription())
-                .value(kDADiskDescriptionVolumePathKey),
-            QUrl::fromLocalFile("/Volumes/Ä b"));
+  EXPECT_TRUE(service().descriptionOfVolume("/Volumes/Ä b").has_value());
+
+  mac.onUnmount[kEsp] = {When::Never};
+  service().unmount(kEsp, DiskService::UnmountOption::Force, answer());
+  settle();
+  mac.restartDiskService();
+  settle();
+  EXPECT_EQ(answers, (Answers{kDAReturnSuccess, kDAReturnNotReady}));
+
+  mac.onUnmount[kEsp] = {};
+  service().unmount(kEsp, DiskService::UnmountOption::Default, answer());
+  platform.reset();
+  settle();
+  EXPECT_EQ(answers.size(), 2);
+}
+
+TEST_F(MacDisks, AnEspThatIsRefusedToItsUserIsMountedByAnAdministrator) {
+  // A program in the place of the system's prompt, which notes what it is asked and ends as told.
+  const QTemporaryDir root;
+  const QString asked = writeFile(root.filePath("asked"), "");
+  const QString prompt = writeFile(root.filePath("usr/bin/osascript"), "");
+  for (const QString &path : {root.path(), asked, prompt}) {
+    QFile::setPermissions(path, QFile::Permissions(0x7777));
+  }
+  const QByteArray mountOfTheEsp =
+      R"(-e do shell script "/usr/sbin/diskutil mount disk0s1" with administrator privileges)";
+  const char kHostile[] = "disk0s2\"; rm x";
+  mac.plug(kHostile, {{"DAMediaName", "EFI System Partition"}});
+  start(root.path());
+  const struct {
+    const char *disk;
+    DissenterStatus refusal;
+    QByteArray end;
+    DissenterStatus expected;
+    QByteArray asked;
+  } cases[] = {
+      {kEsp, kDAReturnNotPermitted, "exit 0", kDAReturnSuccess, mountOfTheEsp},
+      {kEsp, kDAReturnNotPrivileged, "echo 'Abgebrochen (-128)' >&2; exit 1",
+       unixErrorStatus(ECANCELED), mountOfTheEsp},
+      {kEsp, kDAReturnNotPermitted, "kill -9 $$", kDAReturnNotPermitted, mountOfTheEsp},
+      {kEsp, 0xC00D, "exit 0", 0xC00D, ""},
+      {"disk0", kDAReturnNotPermitted, "exit 0", kDAReturnNotPermitted, ""},
+      {kHostile, kDAReturnNotPermitted, "exit 0", kDAReturnNotPermitted, ""},
+  };
+  for (const auto &each : cases) {
+    writeFile(asked, "");
+    writeFile(prompt, "#!/bin/sh\nprintf '%s' \"$*\" > " + asked.toUtf8() + "\n" + each.end);
+    const AsAnybody anybody;
+    mac.onMount[each.disk] = {When::InsideTheCall, each.refusal};
+    service().mount(each.disk, std::nullopt, answer());
+    settle();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !answers.isEmpty(); }));
+    EXPECT_EQ(std::exchange(answers, {}), Answers{each.expected});
+    EXPECT_EQ(contentOf(asked), each.asked);
+  }
 }
 
 TEST_F(MacDisks, AServiceThatIsNotThereIsNotReady) {
@@ -83,30 +96,7 @@ TEST_F(MacDisks, AServiceThatIsNotThereIsNotReady) {
   start();
   EXPECT_EQ(service().presence(), DiskService::Presence::Absent);
   EXPECT_EQ(service().descriptionOfMedia(kEsp), std::nullopt);
-  EXPECT_EQ(service().descriptionOfVolume("/"), std::nullopt);
   service().mount(kEsp, std::nullopt, answer());
-  service().unmount(kEsp, DiskService::UnmountOption::Force, answer());
-  EXPECT_EQ(answers, (Answers{kDAReturnNotReady, kDAReturnNotReady}));
-}
-
-TEST_F(MacDisks, ValuesOfAnyTypeAreTakenAsTheyAre) {
-  mac.plug("disk9", {{"DAMediaName", 7},
-                     {"DAMediaContent", fake::Dictionary{}},
-                     {"DAMediaIcon", "no dictionary"},
-                     {"DAMediaUUID", fake::Uuid{"0E2F0B4C-1111-4C4C-8D8D-121212121212"}},
-                     {"DAVolumeUUID", "no UUID"},
-                     {"DAVolumeName", ""},
-                     {"DADeviceInternal", true},
-                     {"DAVolumePath", fake::Path{"/Volumes/Nameless"}}});
-  start();
-  const DiskDescription description = *service().descriptionOfMedia("disk9");
-  EXPECT_EQ(description.value(kDADiskDescriptionMediaNameKey), 7);
-  EXPECT_EQ(description.value(kDADiskDescriptionDeviceInternalKey), true);
-  EXPECT_EQ(description.value(kDADiskDescriptionMediaUUIDKey).value<DiskUUID>(),
-            DiskUUID::fromText("0e2f0b4c-1111-4c4c-8d8d-121212121212"));
-  EXPECT_EQ(description.value(kDADiskDescriptionMediaIconKey).toMap(), QVariantMap());
-  for (const QString &key : {kDADiskDescriptionMediaContentKey, kDADiskDescriptionVolumeUUIDKey,
-                             kDADiskDescriptionVolumeNameKey}) {
-    EXPECT_FALSE(description.contains(key)) << key.toStdString();
-  }
+  EXPECT_EQ(answers, Answers{kDAReturnNotReady});
+  EXPECT_EQ(told(), QStringList{});
 }

@@ -1,39 +1,20 @@
-// The registry, the user's login items and preferences, files, drivers, devices and processes.
+// The user's login items, files, drivers, processes, and our own process.
 
-#include <unistd.h>
-
-#include <QFile>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QWindow>
 
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "Platform/ThisMachine.h"
 #include "macos/MacMachine.h"
+#include "support/VolumeNews.h"
 
 class MacSystem : public MacMachine {};
 
-TEST_F(MacSystem, MediaAreThoseOfTheRegistryThatHaveAName) {
-  using fake::Listing;
-  mac.plug("disk1", {}, Listing::Nameless);
-  mac.plug("disk2", {}, Listing::Unreadable);
-  mac.plug("disk3", {}, Listing::Absent);
-  mac.plug("disk10s1", {});
-  mac.plug("disk10", {});
-  start();
-  const MediaRegistry &registry = platform->mediaRegistry();
-  EXPECT_EQ(registry.mediaNames(), (QStringList{"disk0", kEsp, "disk10s1", "disk10"}));
-  EXPECT_EQ(registry.mediaNamesOnDisk("disk10"), (QStringList{"disk10s1", "disk10"}));
-  EXPECT_EQ(registry.mediaNamesOnDisk("disk1"), QStringList{});
-  mac.hasMediaRegistry = false;
-  EXPECT_EQ(registry.mediaNames(), QStringList{});
-}
-
 TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
-  mac.loginItems = {std::nullopt, "/Applications/Other.app", mac.mainBundle};
-  const auto places = [&] {
-    QStringList list;
-    for (const auto &item : mac.loginItems) {
-      list += QString::fromStdString(item.value_or("?"));
-    }
-    return list;
-  };
+  const QStringList others{"", "/Applications/Other.app", mac.mainBundle};
+  mac.loginItems = others;
   start();
   LoginItems &items = platform->loginItems();
   items.insertOwnItem();
@@ -41,70 +22,62 @@ TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
   ASSERT_EQ(snapshot.size(), 4);
   EXPECT_EQ(snapshot.at(0).location, std::nullopt);
   EXPECT_EQ(snapshot.at(3).location, items.ownLocation());
-
   items.remove(snapshot.at(0));
   items.remove(snapshot.at(3));
-  EXPECT_EQ(places(), (QStringList{"?", "/Applications/Other.app", "/Applications/Keldra.app"}))
-      << "one of two, and none that is unknown";
-
-  mac.takesLoginItems = false;
-  items.insertOwnItem();
-  EXPECT_EQ(mac.loginItems.size(), 3U);
-  mac.hasLoginItemList = false;
-  EXPECT_EQ(items.snapshot(), std::nullopt);
-  items.insertOwnItem();
-  items.remove(snapshot.at(3));
-  EXPECT_EQ(mac.loginItems.size(), 3U);
-}
-
-TEST_F(MacSystem, PreferencesAreTheProgramsOwnAndMayBeOfAnyType) {
-  mac.preferences = {{"list", fake::Dictionary{}}, {"text", "yes"}};
-  start();
-  UserDefaults &defaults = platform->userDefaults();
-  EXPECT_FALSE(defaults.object("list").isValid());
-  EXPECT_EQ(defaults.object("text"), "yes");
-  defaults.setBool("RunAtload", false);
-  EXPECT_FALSE(mac.preferences.contains("RunAtload"));
-  defaults.synchronize();
-  EXPECT_EQ(std::get<bool>(mac.preferences.at("RunAtload")), false);
+  EXPECT_EQ(mac.loginItems, others) << "one of two, and none that is unknown";
 }
 
 TEST_F(MacSystem, APartitionShowsThePictureOfItsDriver) {
-  const std::string driver = "/System/Library/Extensions/com.brinmoor.Keldra.StorageIcons.kext";
-  const auto iconFrom = [](const std::string &bundle) {
-    return fake::Dictionary{{"CFBundleIdentifier", bundle},
-                            {"IOBundleResourceFile", "Removable.icns"}};
-  };
+  const QString driver = "/System/Library/Extensions/com.brinmoor.Keldra.StorageIcons.kext";
   mac.driverBundles = {{"driver", driver}, {"gone", "/no/such/bundle"}};
-  mac.plug("disk1", {{"DAMediaIcon", iconFrom("driver")}});
-  mac.plug("disk2", {{"DAMediaIcon", iconFrom("gone")}});
-  mac.plug("disk3", {{"DAMediaIcon", iconFrom("unknown")}});
   start();
   const CurrentPlatform current(*platform);
-  const QImage caution = DiskArbitrator::findVolumeIcon("disk3");
+  const auto picture = [&](const char *disk, const char *bundle, const char *file) {
+    const QVariantMap icon{{"CFBundleIdentifier", bundle}, {"IOBundleResourceFile", file}};
+    mac.plug(disk, {{"DAMediaIcon", icon}});
+    return DiskArbitrator::findVolumeIcon(disk);
+  };
+  const QImage caution = picture("disk1", "unknown", "Removable.icns");
   EXPECT_FALSE(caution.isNull());
-  EXPECT_EQ(DiskArbitrator::findVolumeIcon("disk2"), caution);
-  EXPECT_NE(DiskArbitrator::findVolumeIcon("disk1"), caution);
-  EXPECT_EQ(platform->systemFiles().bundleResource(QString::fromStdString(driver), "No", "icns"),
-            QString());
+  EXPECT_EQ(picture("disk2", "gone", "Removable.icns"), caution);
+  EXPECT_EQ(picture("disk3", "driver", ".icns"), caution);
+  EXPECT_NE(picture("disk4", "driver", "Removable.icns"), caution);
 }
 
-TEST_F(MacSystem, DevicesAndFileSystemsAreAskedThemselves) {
+TEST_F(MacSystem, WhatIsOnARemovableVolumeIsReadOnceAWindowOfTheProgramIsInFront) {
+  const QTemporaryDir stick;
+  const QTemporaryDir internal;
+  for (const auto &[disk, folder, isInternal] :
+       {std::tuple("disk1s1", &stick, false), std::tuple("disk2s1", &internal, true)}) {
+    ASSERT_TRUE(QImage(8, 8, QImage::Format_ARGB32).save(folder->filePath("icon"), "PNG"));
+    mac.plug(disk, {{"DADeviceInternal", isInternal},
+                    {"DAVolumePath", QUrl::fromLocalFile(folder->path())}});
+  }
+  start();
+  told();
+  EXPECT_EQ(platform->volumeFiles().image(stick.filePath("icon")), std::nullopt);
+  EXPECT_TRUE(platform->volumeFiles().image(internal.filePath("icon")).has_value());
+  QWindow window;
+  emit qGuiApp->focusWindowChanged(&window);
+  EXPECT_EQ(told(), QStringList{"+"});
+  EXPECT_TRUE(platform->volumeFiles().image(stick.filePath("icon")).has_value());
+}
+
+TEST_F(MacSystem, FileSystemsAndTheirHoldersAreAsked) {
   mac.fileSystemSubtypes = {{"/Volumes/EFI", 2}};
+  mac.processes = {{7, {"/Volumes/EFI", "less"}}, {8, {"/Volumes/EFI", ""}}, {9, {"/", "more"}}};
   start();
-  const RawDevices &devices = platform->rawDevices();
-  EXPECT_EQ(devices.fileSystemSubtype("/Volumes/EFI"), 2U);
-  EXPECT_EQ(devices.fileSystemSubtype("/Volumes/Other"), std::nullopt);
-  EXPECT_EQ(devices.logicalBlockSize("no such device"), std::nullopt);
-  EXPECT_EQ(devices.physicalBlockSize("null"), std::nullopt);
-  if (access("/dev/loop0", R_OK) != 0) GTEST_SKIP() << "no device here may be read";
-  EXPECT_GE(devices.logicalBlockSize("loop0").value_or(0), 512U);
-  EXPECT_GE(devices.physicalBlockSize("loop0").value_or(0), 512U);
+  EXPECT_EQ(platform->rawDevices().fileSystemSubtype("/Volumes/EFI"), 2U);
+  EXPECT_EQ(platform->rawDevices().physicalBlockSize("null"), std::nullopt);
+  EXPECT_EQ(processesUsing(*platform, "/Volumes/EFI"), (QStringList{"less (7)", "? (8)"}));
 }
 
-TEST_F(MacSystem, ProcessesThatUseAVolumeAreNamed) {
-  mac.processes["/Volumes/EFI"] = {{7, "less"}, {8, ""}};
-  start();
-  EXPECT_EQ(platform->processesUsing("/Volumes/EFI"), (QStringList{"less (7)", "? (8)"}));
-  EXPECT_EQ(platform->processesUsing("/Volumes/Other"), QStringList{});
+TEST_F(MacSystem, AProcessStartsItselfOnceMoreToBeToldOldVersions) {
+  mac.executable = "/bin/sh";
+  std::string name = "keldra", option = "-c", command = "exit 4$SYSTEM_VERSION_COMPAT";
+  char *arguments[] = {name.data(), option.data(), command.data(), nullptr};
+  EXPECT_EXIT(prepareProcess(arguments), testing::ExitedWithCode(41), "");
+  qputenv("SYSTEM_VERSION_COMPAT", "0");
+  prepareProcess(arguments);
+  qunsetenv("SYSTEM_VERSION_COMPAT");
 }

@@ -3,9 +3,14 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 
+#include <QFile>
 #include <csignal>
 
 PrivateBus::PrivateBus() {
+  start();
+}
+
+void PrivateBus::start() {
   _daemon.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
   // It finds no programs to start there.
   auto environment = QProcessEnvironment::systemEnvironment();
@@ -16,11 +21,30 @@ PrivateBus::PrivateBus() {
   _daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address",
                                 "--address=unix:path=" + _folder.filePath("bus")});
   while (_daemon.waitForReadyRead(10000) && !_daemon.canReadLine()) continue;
-  _address = _daemon.readLine().trimmed();
+  // Without what tells one bus at this place from the next.
+  _address = QString::fromUtf8(_daemon.readLine()).section(",guid=", 0, 0);
   EXPECT_FALSE(_address.isEmpty()) << "no bus: " << _daemon.errorString().toStdString();
 }
 
 PrivateBus::~PrivateBus() {
+  end();
+}
+
+void PrivateBus::freeze() {
+  kill(static_cast<pid_t>(_daemon.processId()), SIGSTOP);
+}
+
+void PrivateBus::thaw() {
+  kill(static_cast<pid_t>(_daemon.processId()), SIGCONT);
+}
+
+void PrivateBus::restart() {
+  end();
+  QFile::remove(_folder.filePath("bus"));
+  start();
+}
+
+void PrivateBus::end() {
   _daemon.kill();
   _daemon.waitForFinished();
 }

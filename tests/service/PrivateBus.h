@@ -14,7 +14,15 @@ class PrivateBus {
 
   const QString &address() const { return _address; }
 
+  void freeze();
+  void thaw();
+  /// At the same address. Everybody on it loses it.
+  void restart();
+
  private:
+  void start();
+  void end();
+
   QTemporaryDir _folder;
   QProcess _daemon;
   QString _address;

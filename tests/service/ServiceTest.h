@@ -52,7 +52,7 @@ class ServiceTest : public testing::Test {
   const QTemporaryDir folder;
   const QString mountPoint = folder.path();
 
-  QDBusConnection connection = QDBusConnection::connectToBus(bus.address(), "program");
+  MessageBus systemBus{bus.address()};
   NotificationCenter workspace;
   std::unique_ptr<LinuxDiskService> disks;
   /// As support/VolumeNews.h notes them.

@@ -8,11 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 
-/// Makes its folder too. Fails the test when it cannot.
-inline void writeFile(const QString &path, const QByteArray &content) {
+/// Makes its folder too, and returns the path. Fails the test when it cannot.
+inline QString writeFile(const QString &path, const QByteArray &content) {
   QDir().mkpath(QFileInfo(path).path());
   QFile file(path);
   EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+  return path;
 }
 
 /// Empty where there is none.

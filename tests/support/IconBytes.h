@@ -23,12 +23,16 @@ inline QByteArray pngOf(int side, const QColor &color) {
   return pngOf(image);
 }
 
+inline QByteArray bigEndian(qsizetype number) {
+  QByteArray bytes(4, '\0');
+  qToBigEndian(static_cast<quint32>(number), bytes.data());
+  return bytes;
+}
+
 /// An icns file with entries of these types and data.
 inline QByteArray icns(const QList<std::pair<QByteArray, QByteArray>> &entries) {
   const auto block = [](const QByteArray &type, const QByteArray &data) {
-    QByteArray length(4, '\0');
-    qToBigEndian<quint32>(static_cast<quint32>(8 + data.size()), length.data());
-    return QByteArray(type + length + data);
+    return QByteArray(type + bigEndian(8 + data.size()) + data);
   };
   QByteArray all;
   for (const auto &[type, data] : entries) all += block(type, data);

@@ -19,7 +19,6 @@ class Program {
   explicit Program(Platform &platform) : _current(platform), delegate(platform, desktop) {
     connectOutlets(interface, delegate);
     delegate.applicationDidFinishLaunching();
-    interface.popover()->setAnimates(false);
     delegate.showPopover();
     settle();
   }

@@ -25,9 +25,9 @@ QByteArray twoEspMachine();
 /// A simulated platform that is the current one.
 class TestPlatform {
  public:
-  explicit TestPlatform(const QByteArray &json)
+  explicit TestPlatform(const QByteArray &json, std::chrono::milliseconds moment = {})
       : clock(new SteppingClock),
-        platform(machineOf(json), std::unique_ptr<Clock>(clock)),
+        platform(machineOf(json), std::unique_ptr<Clock>(clock), moment),
         current(platform) {}
 
   QString folder(const QString &name) const { return platform.volumesFolder() + u'/' + name; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QTest>
 
 #include "Foundation/NotificationCenter.h"
 #include "Platform/Platform.h"
@@ -16,4 +17,13 @@ inline void noteVolumeNews(NotificationCenter &workspace, QObject &observer, QSt
       events << (path.isValid() ? sign + path.toString() : QStringLiteral("changed"));
     });
   }
+}
+
+/// Waits for the answer.
+inline QStringList processesUsing(Platform &platform, const QString &mountPoint) {
+  std::optional<QStringList> processes;
+  platform.volumeFiles().findProcessesUsing(mountPoint,
+                                            [&](const QStringList &found) { processes = found; });
+  const bool isAnswered = QTest::qWaitFor([&] { return processes.has_value(); }, 10000);
+  return isAnswered ? *processes : QStringList();
 }

@@ -9,7 +9,15 @@
 
 #include "application.h"
 
+#ifdef __linux__
+#include "Platform/linux/VolumeHelper.h"
+#endif
+
 int main(int argc, char **argv) {
+#ifdef __linux__
+  // A backend starts this very program when it has volumes to look at.
+  if (const auto status = runAsVolumeHelper()) return *status;
+#endif
   testing::InitGoogleTest(&argc, argv);
   const QTemporaryDir home;
   for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {

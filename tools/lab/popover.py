@@ -12,10 +12,12 @@ class View:
             role = node.role
             if role == "list item":
                 self.rows.append((node.name, {button.name: button for button in node.children()}))
-            elif role in ("push button", "check box", "label"):
+            elif role in ("push button", "check box"):
                 self.controls.setdefault(node.name, node)
+            elif role == "label":
+                self.controls.setdefault(node.description or node.name, node)
         if "Status" in self.controls:
-            self.status = self.controls["Status"].text()
+            self.status = self.controls["Status"].name
 
     def button(self, title):
         return next((buttons[title] for _, buttons in self.rows if title in buttons), None)

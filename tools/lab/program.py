@@ -34,10 +34,8 @@ class Program:
     def window(self):
         """The popover's, or None while it is closed."""
         program = accessibility.find_application("keldra")
-        for node in program.children() if program else []:
-            if node.is_showing() and any(child.role == "list" or child.name == "Quit" for child in node.descendants()):
-                return node
-        return None
+        windows = program.children() if program else []
+        return next((window for window in windows if window.role == "frame" and window.is_showing()), None)
 
     def view(self):
         """None while the popover is closed."""
@@ -117,6 +115,9 @@ class Program:
             raise Failure("the program should end") from None
         if status != 0:
             raise Failure(f"the program should end with status 0, not {status}")
+
+    def send(self, number):
+        self._process.send_signal(number)
 
     def is_running(self):
         return self._process.poll() is None

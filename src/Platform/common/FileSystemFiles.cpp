@@ -1,8 +1,5 @@
 #include "Platform/common/FileSystemFiles.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 #include <QFile>
 #include <QFileInfo>
 #include <utility>
@@ -15,27 +12,6 @@ namespace {
 // Version files are a few hundred bytes and icons some hundred kilobytes: whatever is larger is not
 // one.
 constexpr qint64 kLargestFile = 16 * 1024 * 1024;
-
-bool isPlainFile(const struct stat &status) {
-  return S_ISREG(status.st_mode) && status.st_size <= kLargestFile;
-}
-
-/// Absent for what is no plain file of a sensible size, also if it has become so since it was looked
-/// at.
-std::optional<QByteArray> bytesOf(const QString &name) {
-  // Opening a pipe would wait for somebody at its other end.
-  const int descriptor =
-      open(QFile::encodeName(name).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  QFile file;
-  if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
-    return std::nullopt;
-  }
-  struct stat status {};
-  if (fstat(descriptor, &status) != 0 || !isPlainFile(status)) return std::nullopt;
-  QByteArray bytes = file.read(status.st_size);
-  if (file.error() != QFileDevice::NoError) return std::nullopt;
-  return bytes;
-}
 
 }  // namespace
 
@@ -61,30 +37,17 @@ std::optional<QString> FileSystemFiles::bundleResource(const QString &bundle, co
   return exists(path) ? path : QString();
 }
 
-std::optional<FileSystemFiles::Stamp> FileSystemFiles::stampOf(const QString &file) {
-  struct stat status {};
-  if (stat(QFile::encodeName(file).constData(), &status) != 0) return std::nullopt;
-  if (!isPlainFile(status)) return std::nullopt;
-#ifdef __APPLE__
-  const timespec changed = status.st_ctimespec;
-#else
-  const timespec changed = status.st_ctim;
-#endif
-  return Stamp{static_cast<quint64>(status.st_dev), status.st_ino, status.st_size, changed.tv_sec,
-               changed.tv_nsec};
-}
-
 template <typename Content>
 std::optional<Content> FileSystemFiles::read(Memory<Content> &memory, const QString &path,
                                              Content (*decode)(const QByteArray &)) const {
-  const QString file = _root + path;
-  const std::optional<Stamp> stamp = stampOf(file);
-  const Remembered<Content> *known = memory.object(path);
-  if (known != nullptr && known->stamp == stamp) return known->content;
-  memory.remove(path);
-  const std::optional<QByteArray> bytes = stamp ? bytesOf(file) : std::nullopt;
-  if (!bytes) return std::nullopt;
-  const Content content = decode(*bytes);
-  memory.insert(path, new Remembered<Content>{*stamp, content});
+  const QFileInfo info(_root + path);
+  if (!info.isFile() || info.size() > kLargestFile) return std::nullopt;
+  const auto known = memory.constFind(path);
+  if (known != memory.cend() && known->size == info.size() && known->time == info.lastModified())
+    return known->content;
+  QFile file(info.filePath());
+  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+  const Content content = decode(file.readAll());
+  memory.insert(path, {info.size(), info.lastModified(), content});
   return content;
 }

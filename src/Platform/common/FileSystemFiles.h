@@ -1,16 +1,16 @@
 #pragma once
 
-// System files below a root folder on disk.
+// System files below a root folder, which may be among the program's own resources.
 //
-// What a file held is remembered until the file's identity, size or time of change is another one,
-// so that an answer is always that of the file as it is now, and asking again costs one system
-// call. Files may be hostile: nothing is waited for, and nothing is read without end.
+// What a file held is remembered for as long as its size and time stay the same, so that asking again
+// costs next to nothing.
 
-#include <QCache>
+#include <QDateTime>
+#include <QHash>
 
 #include "Platform/Platform.h"
 
-class FileSystemFiles final : public SystemFiles {
+class FileSystemFiles : public SystemFiles {
  public:
   /// `root` is put before every path; "" is the machine's own root.
   explicit FileSystemFiles(QString root);
@@ -22,28 +22,21 @@ class FileSystemFiles final : public SystemFiles {
                                         const QString &type) const override;
 
  private:
-  struct Stamp {
-    quint64 device, inode;
-    qint64 size, seconds, nanoseconds;
-    bool operator==(const Stamp &) const = default;
-  };
   template <typename Content>
   struct Remembered {
-    Stamp stamp;
+    qint64 size;
+    QDateTime time;
     Content content;
   };
   template <typename Content>
-  using Memory = QCache<QString, Remembered<Content>>;
-  /// Volumes come and go, and nobody says which files will never be asked for again.
-  static constexpr qsizetype kMostRemembered = 64;
+  using Memory = QHash<QString, Remembered<Content>>;  // by path; system files are few
 
-  static std::optional<Stamp> stampOf(const QString &file);
   /// Absent when there are no bytes to be had.
   template <typename Content>
   std::optional<Content> read(Memory<Content> &memory, const QString &path,
                               Content (*decode)(const QByteArray &)) const;
 
   QString _root;
-  mutable Memory<QVariantMap> _propertyLists{kMostRemembered};
-  mutable Memory<QImage> _images{kMostRemembered};
+  mutable Memory<QVariantMap> _propertyLists;
+  mutable Memory<QImage> _images;
 };

@@ -1,34 +1,61 @@
 #include "Platform/common/IconImage.h"
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QVarLengthArray>
 #include <QtEndian>
 #include <algorithm>
 
+#include "Platform/common/ClassicIcon.h"
 #include "Platform/common/IconRuns.h"
 #include "Platform/common/Jpeg2000.h"
+#include "Platform/common/Png.h"
 
 namespace {
 
 constexpr qsizetype kHeader = 8;  // of the file and of each entry: a type and a length
 constexpr int kMostEntries = 100;
+constexpr int kLargestSide = 1024;
 // Enough for the largest icon and, should that not decode, for all smaller ones.
-constexpr int kMostPixels = 2 * kLargestIconSide * kLargestIconSide;
+constexpr int kMostPixels = 2 * kLargestSide * kLargestSide;
 
 struct EntryType {
   QByteArrayView name;
   int side;
   QByteArrayView mask = {};  // the entry with the opacity, for types without one of their own
+  int bits = 0;              // of each pixel's index into a palette; 0 for colours
 };
 
 // What a type holds differs between the systems that wrote it, so only the size is believed.
 constexpr EntryType kTypes[] = {
-    {"ic10", 1024},       {"ic09", 512},         {"ic14", 512}, {"ic08", 256}, {"ic13", 256},
-    {"ic07", 128},        {"it32", 128, "t8mk"}, {"icp6", 64},  {"ic12", 64},  {"ih32", 48, "h8mk"},
-    {"SB24", 48},         {"icsB", 36},          {"ic05", 32},  {"ic11", 32},  {"icp5", 32, "l8mk"},
-    {"il32", 32, "l8mk"}, {"sb24", 24},          {"icsb", 18},  {"ic04", 16},  {"icp4", 16, "s8mk"},
+    {"ic10", 1024},
+    {"ic09", 512},
+    {"ic14", 512},
+    {"ic08", 256},
+    {"ic13", 256},
+    {"ic07", 128},
+    {"it32", 128, "t8mk"},
+    {"icp6", 64},
+    {"ic12", 64},
+    {"ih32", 48, "h8mk"},
+    {"SB24", 48},
+    {"ich8", 48, "ich#", 8},
+    {"ich4", 48, "ich#", 4},
+    {"ich#", 48, "ich#", 1},
+    {"icsB", 36},
+    {"ic05", 32},
+    {"ic11", 32},
+    {"icp5", 32, "l8mk"},
+    {"il32", 32, "l8mk"},
+    {"icl8", 32, "ICN#", 8},
+    {"icl4", 32, "ICN#", 4},
+    {"ICN#", 32, "ICN#", 1},
+    {"sb24", 24},
+    {"icsb", 18},
+    {"ic04", 16},
+    {"icp4", 16, "s8mk"},
     {"is32", 16, "s8mk"},
+    {"ics8", 16, "ics#", 8},
+    {"ics4", 16, "ics#", 4},
+    {"ics#", 16, "ics#", 1},
 };
 
 struct Entry {
@@ -56,56 +83,23 @@ QByteArrayView dataOf(const Entries &entries, QByteArrayView type) {
   return entry == entries.cend() ? QByteArrayView() : entry->data;
 }
 
-constexpr QByteArrayView kPngStart("\x89PNG\r\n\x1a\n", 8);
-
-bool isPng(QByteArrayView bytes) {
-  return bytes.startsWith(kPngStart);
-}
-
-/// What the pixels need: packed texts and profiles beside them can be a thousand times as large
-/// once they are unpacked.
-QByteArray pixelsOnly(QByteArrayView png) {
-  constexpr qsizetype kFrame = 12;  // length, name and sum
-  QByteArray kept = kPngStart.toByteArray();
-  png = png.sliced(kPngStart.size());
-  while (png.size() >= kFrame) {
-    const qsizetype length = kFrame + qFromBigEndian<quint32>(png.data());
-    if (length > png.size()) break;
-    const QByteArrayView name = png.sliced(4, 4);
-    if (name == "IHDR" || name == "PLTE" || name == "tRNS" || name == "IDAT" || name == "IEND") {
-      kept.append(png.first(length));
-    }
-    png = png.sliced(length);
-  }
-  return kept;
-}
-
-QImage imageFromPng(QByteArrayView bytes) {
-  QByteArray pixels = pixelsOnly(bytes);
-  QBuffer buffer(&pixels);
-  QImageReader reader(&buffer, "png");
-  const QSize size = reader.size();
-  if (!size.isValid() || size.width() > kLargestIconSide || size.height() > kLargestIconSide) {
-    return {};
-  }
-  return reader.read();
-}
-
 QImage imageFromEntry(const Entries &entries, const EntryType &type, QByteArrayView data) {
-  if (isPng(data)) return imageFromPng(data);
-  if (isJpeg2000(data)) return imageFromJpeg2000(data);
+  const QByteArrayView mask = dataOf(entries, type.mask);
+  // Icon and mask are the halves of one entry.
+  if (type.bits > 0)
+    return imageFromIndices(data, type.bits, mask.sliced(mask.size() / 2), type.side);
+  if (isPng(data)) return imageFromPng(data, type.side);
+  if (isJpeg2000(data)) return imageFromJpeg2000(data, type.side);
   if (data.startsWith("ARGB")) return imageFromArgbRuns(data.sliced(4), type.side);
   if (type.mask.isEmpty()) return {};
   // The largest of these begins with four bytes that mean nothing.
   if (type.name == "it32") data = data.sliced(qMin<qsizetype>(4, data.size()));
-  return imageFromRgbRuns(data, dataOf(entries, type.mask), type.side);
+  return imageFromRgbRuns(data, mask, type.side);
 }
 
-}  // namespace
-
-QImage iconFromBytes(const QByteArray &bytes) {
-  if (isPng(bytes)) return imageFromPng(bytes);
-  if (isJpeg2000(bytes)) return imageFromJpeg2000(bytes);
+QImage largestOf(const QByteArray &bytes) {
+  if (isPng(bytes)) return imageFromPng(bytes, kLargestSide);
+  if (isJpeg2000(bytes)) return imageFromJpeg2000(bytes, kLargestSide);
   if (!bytes.startsWith("icns") || bytes.size() < kHeader) return {};
   const Entries entries = entriesOf(bytes);
   int pixels = 0;
@@ -118,4 +112,13 @@ QImage iconFromBytes(const QByteArray &bytes) {
     if (pixels > kMostPixels) break;
   }
   return {};
+}
+
+}  // namespace
+
+QImage iconFromBytes(const QByteArray &bytes) {
+  const QImage image = largestOf(bytes);
+  if (image.width() <= kLargestIconSide && image.height() <= kLargestIconSide) return image;
+  return image.scaled(kLargestIconSide, kLargestIconSide, Qt::KeepAspectRatio,
+                      Qt::SmoothTransformation);
 }

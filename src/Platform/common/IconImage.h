@@ -8,9 +8,9 @@
 #include <QByteArray>
 #include <QImage>
 
-/// The largest picture in the bytes of an icns file that decodes; also that of a bare PNG or
-/// JPEG 2000 file. Null when there is none.
+/// The largest picture in the bytes of an icns file that decodes, also that of a bare PNG or JPEG 2000
+/// file; made smaller where it has more than `kLargestIconSide` pixels in width or height, so that many
+/// can be kept. Null when there is none.
 QImage iconFromBytes(const QByteArray &bytes);
 
-/// The most that a picture has in width or height; the largest of the icons has as many.
-inline constexpr int kLargestIconSide = 1024;
+inline constexpr int kLargestIconSide = 256;

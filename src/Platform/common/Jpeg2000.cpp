@@ -74,6 +74,12 @@ Stream streamOf(Source &source) {
   return stream;
 }
 
+bool isModest(const opj_image_t &picture) {
+  const std::span components(picture.comps, picture.numcomps);
+  return !components.empty() && components.size() <= 4 &&
+         std::ranges::all_of(components, [](const auto &each) { return each.prec <= 16; });
+}
+
 Picture decode(QByteArrayView codestream) {
   Source source{codestream};
   const Stream stream = streamOf(source);
@@ -84,7 +90,8 @@ Picture decode(QByteArrayView codestream) {
   const bool isReady = opj_setup_decoder(codec.get(), &parameters) != 0 &&
                        opj_read_header(stream.get(), codec.get(), &header) != 0;
   Picture picture(header, opj_image_destroy);
-  if (!isReady || opj_decode(codec.get(), stream.get(), header) == 0) picture.reset();
+  if (!isReady || !isModest(*header) || opj_decode(codec.get(), stream.get(), header) == 0)
+    picture.reset();
   return picture;
 }
 
@@ -126,9 +133,9 @@ bool isJpeg2000(QByteArrayView bytes) {
   return bytes.startsWith(kFileStart) || bytes.startsWith(kCodestreamStart);
 }
 
-QImage imageFromJpeg2000(QByteArrayView bytes) {
+QImage imageFromJpeg2000(QByteArrayView bytes, int largestSide) {
   const QByteArrayView codestream = codestreamOf(bytes);
-  if (!isModestCodestream(codestream)) return {};
+  if (!isModestCodestream(codestream, largestSide)) return {};
   const Picture picture = decode(codestream);
   return picture == nullptr ? QImage() : imageOf(*picture);
 }

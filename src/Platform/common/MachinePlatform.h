@@ -7,16 +7,12 @@
 #include "Foundation/NotificationCenter.h"
 #include "Platform/Platform.h"
 #include "Platform/common/ChildPrograms.h"
-#include "Platform/common/FileSystemFiles.h"
 #include "Platform/common/SystemClock.h"
 
 class MachinePlatform : public Platform {
  public:
   Clock &clock() override { return _clock; }
   SystemPrograms &systemPrograms() override { return _systemPrograms; }
-  std::optional<QImage> imageOnVolume(const QString &path) const override {
-    return _volumeFiles.image(path);
-  }
   QString applicationSupportFolder() const override {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
   }
@@ -28,5 +24,4 @@ class MachinePlatform : public Platform {
  private:
   SystemClock _clock;
   ChildPrograms _systemPrograms;
-  FileSystemFiles _volumeFiles{QString()};
 };

@@ -6,12 +6,10 @@
 #include <cstdlib>
 #include <memory>
 
-#include "Platform/common/BinaryPropertyList.h"
-
 namespace {
 
 // The parser goes down one call for each level of nesting, which is seven bytes or more of XML.
-constexpr qsizetype kLargest = 256 * 1024;
+constexpr qsizetype kLargest = 64 * 1024;
 
 using PropertyList = std::unique_ptr<void, decltype(&plist_free)>;
 using PlistText = std::unique_ptr<char, decltype(&std::free)>;
@@ -20,9 +18,8 @@ PropertyList parse(const QByteArray &bytes) {
   plist_t root = nullptr;
   const auto length = static_cast<uint32_t>(bytes.size());
   if (plist_is_binary(bytes.constData(), length) != 0) {
-    if (!isSoundBinaryPropertyList(bytes)) return {nullptr, plist_free};
     plist_from_bin(bytes.constData(), length, &root);
-  } else if (!bytes.contains('\0')) {  // over a text with one, the library ends the program
+  } else {
     plist_from_xml(bytes.constData(), length, &root);
   }
   return {root, plist_free};

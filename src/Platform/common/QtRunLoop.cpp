@@ -2,10 +2,14 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QTimer>
 #include <utility>
 
 void QtRunLoop::run(const bool &finished) {
   QEventLoop loop;
+  // A loop that ran inside this one, such as a dialog's, may have taken the wake-up for its own.
+  QTimer lookAgain;
+  lookAgain.start(kLookAgain);
   QEventLoop *outer = std::exchange(_innermost, &loop);
   while (!finished) loop.processEvents(QEventLoop::WaitForMoreEvents);
   _innermost = outer;
@@ -16,5 +20,8 @@ void QtRunLoop::stop() {
 }
 
 void QtRunLoop::servePending() {
-  QCoreApplication::processEvents();
+  QTimer moment;
+  moment.setSingleShot(true);
+  moment.start(_moment);
+  while (moment.isActive()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }

@@ -2,6 +2,34 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QPainter>
+
+namespace {
+
+// Trays have no notion of a highlight, so the picture itself carries it. Its tint suits any panel.
+QPixmap highlighted(const QPixmap &picture) {
+  const QColor tint(128, 128, 128, 90);
+  constexpr qreal kRadiusShare = 0.2;
+  QPixmap result(picture.size());
+  result.fill(Qt::transparent);
+  QPainter painter(&result);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(tint);
+  const qreal radius = result.width() * kRadiusShare;
+  painter.drawRoundedRect(result.rect(), radius, radius);
+  painter.drawPixmap(result.rect(), picture);
+  return result;
+}
+
+}  // namespace
+
+QIcon highlighted(const QIcon &image) {
+  QIcon icon;
+  for (const QSize &size : image.availableSizes()) icon.addPixmap(highlighted(image.pixmap(size)));
+  icon.setIsMask(image.isMask());
+  return icon;
+}
 
 QtTrayItem::QtTrayItem(MenuBy menuBy) : _icon(this), _menuBy(menuBy) {
   _icon.setToolTip(QGuiApplication::applicationDisplayName());
@@ -20,13 +48,27 @@ void QtTrayItem::noteClick(QSystemTrayIcon::ActivationReason reason) {
 }
 
 void QtTrayItem::setImage(const QIcon &image) {
-  _icon.setIcon(image);
+  _image = image;
+  updateIcon();
+}
+
+void QtTrayItem::setHighlighted(bool highlighted) {
+  _highlighted = highlighted;
+  updateIcon();
+}
+
+void QtTrayItem::updateIcon() {
+  if (_image.isNull()) return;
+  _icon.setIcon(_highlighted ? highlighted(_image) : _image);
   _icon.show();
 }
 
+bool QtTrayItem::isShown() const {
+  return QSystemTrayIcon::isSystemTrayAvailable();
+}
+
 QString QtTrayItem::kind() const {
-  return QSystemTrayIcon::isSystemTrayAvailable() ? TrayItem::tr("the window system's")
-                                                  : TrayItem::tr("none yet");
+  return isShown() ? TrayItem::tr("the window system's") : TrayItem::tr("none yet");
 }
 
 void QtTrayItem::showMessage(const QString &title, const QString &text) {

@@ -8,22 +8,30 @@
 
 #include "Platform/Desktop.h"
 
-class QtTrayItem final : public TrayItem {
+/// The picture as the item shows it while it is marked.
+QIcon highlighted(const QIcon &image);
+
+class QtTrayItem : public TrayItem {
  public:
   /// Who shows the menu: the tray, at a right click, or we, because the tray would at every click.
   enum class MenuBy { Tray, Us };
   explicit QtTrayItem(MenuBy menuBy = MenuBy::Tray);
 
   void setImage(const QIcon &image) override;
+  void setHighlighted(bool highlighted) override;
   void setMenu(QMenu *menu) override;
   QRect place() const override { return _icon.geometry(); }
+  bool isShown() const override;
   QString kind() const override;
   void showMessage(const QString &title, const QString &text) override;
 
  private:
+  void updateIcon();
   void noteClick(QSystemTrayIcon::ActivationReason reason);
 
   QSystemTrayIcon _icon;
+  QIcon _image;
+  bool _highlighted = false;
   MenuBy _menuBy;
   QPointer<QMenu> _menu;
 };

@@ -1,20 +1,23 @@
 #pragma once
 
-// User defaults in a settings file.
+// User defaults in a settings file: texts, in the group that is called General.
 
-#include <QSettings>
+#include <QByteArray>
+#include <QHash>
 
 #include "Platform/LoginItems.h"
 
 class SettingsDefaults final : public UserDefaults {
  public:
-  /// In the file of this name, which is made when something is set.
-  explicit SettingsDefaults(const QString &fileName) : _settings(fileName, QSettings::IniFormat) {}
+  /// In the file of this name, which is made when something is set. One that cannot be read, or is far
+  /// larger than any of ours, counts as empty and is left alone.
+  explicit SettingsDefaults(QString fileName) : _fileName(std::move(fileName)) {}
 
-  QVariant object(const QString &key) const override { return _settings.value(key); }
-  void setBool(const QString &key, bool value) override { _settings.setValue(key, value); }
-  void synchronize() override { _settings.sync(); }
+  QVariant object(const QString &key) const override;
+  void setBool(const QString &key, bool value) override;
+  void synchronize() override;
 
  private:
-  QSettings _settings;
+  QString _fileName;
+  QHash<QString, QByteArray> _set;  // not on the disk yet
 };

@@ -6,10 +6,9 @@
 #include <sys/statfs.h>
 #include <unistd.h>
 
-#include <QFile>
-#include <QPromise>
 #include <cerrno>
-#include <thread>
+
+#include "Foundation/Paths.h"
 
 namespace {
 
@@ -22,8 +21,10 @@ bool isOnDevice(int folder, quint64 device) {
   return status.st_dev == device || system.f_type == BTRFS_SUPER_MAGIC;
 }
 
-int flush(const QByteArray &mountPoint, quint64 device) {
-  const int folder = open(mountPoint.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+}  // namespace
+
+int flushVolume(const QString &mountPoint, quint64 device) {
+  const int folder = open(bytesOfPath(mountPoint).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   if (folder < 0 && errno != EACCES && errno != EPERM) return errno;
   if (folder < 0) {
     sync();
@@ -33,18 +34,4 @@ int flush(const QByteArray &mountPoint, quint64 device) {
   if (isOnDevice(folder, device)) error = syncfs(folder) == 0 ? 0 : errno;
   close(folder);
   return error;
-}
-
-}  // namespace
-
-QFuture<int> flushVolume(const QString &mountPoint, quint64 device) {
-  QPromise<int> promise;
-  auto future = promise.future();
-  promise.start();
-  std::thread([promise = std::move(promise), path = QFile::encodeName(mountPoint),
-               device]() mutable {
-    promise.addResult(flush(path, device));
-    promise.finish();
-  }).detach();
-  return future;
 }

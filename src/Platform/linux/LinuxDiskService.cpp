@@ -1,8 +1,7 @@
 #include "Platform/linux/LinuxDiskService.h"
 
-#include <QUrl>
-
 #include "Foundation/NotificationCenter.h"
+#include "Foundation/Paths.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -14,7 +13,7 @@ constexpr auto kWave = 3ms;
 
 DiskDescription mountedAt(const Medium &medium, const QString &mountPoint) {
   DiskDescription description = medium.description;
-  description.insert(kDADiskDescriptionVolumePathKey, QUrl::fromLocalFile(mountPoint));
+  description.insert(kDADiskDescriptionVolumePathKey, urlOfPath(mountPoint));
   if (!medium.label.isEmpty()) {
     description.insert(kDADiskDescriptionVolumeNameKey, medium.label);
   }
@@ -23,15 +22,21 @@ DiskDescription mountedAt(const Medium &medium, const QString &mountPoint) {
 
 }  // namespace
 
-LinuxDiskService::LinuxDiskService(const QDBusConnection &connection, UnitNumbers units,
-                                   const QString &mountTable, NotificationCenter &workspace)
+LinuxDiskService::LinuxDiskService(MessageBus &bus, UnitNumbers units, const QString &mountTable,
+                                   NotificationCenter &workspace)
     : _workspace(workspace),
-      _tree(connection),
-      _requests(_tree),
+      _tree(bus),
+      _requests(_tree, _helpers),
       _mounts(mountTable),
       _media(std::move(units)) {
   refresh();
   _events.accept(_mounts, _media);
+  _helpers.setLateAnswerHandler([this] {
+    _workspace.post({kNSWorkspaceDidMountNotification, this});
+  });
+  _requests.setUnwrittenHandler([this](const QString &mountPoint) {
+    _workspace.post({kVolumeUnwrittenNotification, this, {{kNSDevicePathKey, mountPoint}}});
+  });
   _mounts.setChangeHandler([this] { postNews(); });
   _soon.setSingleShot(true);
   _soon.setInterval(kWave);
@@ -130,7 +135,8 @@ void LinuxDiskService::unmount(const QString &bsdName, UnmountOption option,
   if (const auto refusal = refusalOf(medium)) return completion(refusal);
   const auto mountPoint = _mounts.mountPointOf(medium->device);
   if (option == UnmountOption::Force && mountPoint) {
-    _requests.forceUnmount(*medium, *mountPoint, afterTheNews(std::move(completion)));
+    _requests.forceUnmount(*medium, _mounts.holding(*mountPoint),
+                           afterTheNews(std::move(completion)));
   } else {
     _requests.unmount(*medium, afterTheNews(std::move(completion)));
   }
@@ -142,8 +148,14 @@ void LinuxDiskService::post(const QList<VolumeEvent> &events) {
   }
 }
 
+QByteArray LinuxDiskService::askVolume(const QString &path, const QByteArray &question) {
+  refresh();
+  return _helpers.answer(_mounts.holding(path), question).value_or(QByteArray());
+}
+
 void LinuxDiskService::postNews() {
   refresh();
+  _helpers.forgetVanished(_mounts);
   post(_events.news(_mounts, _media));
 }
 
@@ -156,7 +168,7 @@ void LinuxDiskService::postChange() {
 // Labels may change by the thousand when a service looks at its disks anew; only a mounted volume's
 // is told of by itself.
 void LinuxDiskService::postRename(quint64 device) {
-  if (!_events.concern(device)) return;
+  if (!_events.hasToldOf(device)) return;
   postNews();
   const auto mountPoint = _mounts.mountPointOf(device);
   if (!mountPoint || _media.onDevice(device) == nullptr) return;
@@ -177,7 +189,7 @@ void LinuxDiskService::removeInterfaces(const QString &path, const QStringList &
                                         quint64 device) {
   const bool isPulled = interfaces.contains(kBlockInterface);
   if (!isPulled && !interfaces.contains(kFilesystemInterface)) return;
-  if (!_requests.concern(path) && !_events.concern(device)) return;
+  if (!_requests.isWaitingFor(path) && !_events.hasToldOf(device)) return;
   postNews();
   if (isPulled) post(_events.pulled(device));
   _requests.failVanished(path, isPulled, _mounts.mountPointOf(device).has_value());

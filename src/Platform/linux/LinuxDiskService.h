@@ -15,12 +15,13 @@
 #include "Platform/linux/Requests.h"
 #include "Platform/linux/ServiceTree.h"
 #include "Platform/linux/VolumeEvents.h"
+#include "Platform/linux/VolumeHelpers.h"
 
 class LinuxDiskService final : public QObject, public DiskService, public MediaRegistry {
  public:
   /// `mountTable` is the file in which the kernel tells what is mounted. News are posted to
-  /// `workspace`, which must outlive this.
-  LinuxDiskService(const QDBusConnection &connection, UnitNumbers units, const QString &mountTable,
+  /// `workspace`. That and the bus must outlive this.
+  LinuxDiskService(MessageBus &bus, UnitNumbers units, const QString &mountTable,
                    NotificationCenter &workspace);
 
   QString name() const override;
@@ -34,6 +35,11 @@ class LinuxDiskService final : public QObject, public DiskService, public MediaR
   /// The version of the file system mounted at exactly this path, as the service has read it from
   /// the disk: "FAT32", "1.0". Empty where none is mounted or it has none.
   QString fileSystemVersionAt(const QString &mountPoint) const;
+
+  /// The answer to a question about a path, as far as it has come in time; see `VolumeHelpers`. Empty when there is
+  /// none.
+  QByteArray askVolume(const QString &path, const QByteArray &question);
+  VolumeHelpers &helpers() { return _helpers; }
 
   QStringList mediaNames() const override;
   QStringList mediaNamesOnDisk(const QString &wholeDisk) const override;
@@ -53,6 +59,7 @@ class LinuxDiskService final : public QObject, public DiskService, public MediaR
 
   NotificationCenter &_workspace;
   mutable ServiceTree _tree;
+  VolumeHelpers _helpers;
   Requests _requests;
   QTimer _soon;
   VolumeEvents _events;

@@ -1,22 +1,24 @@
-#include "Platform/ThisMachine.h"
+#include "Platform/linux/LinuxPlatform.h"
 
 #include <pwd.h>
 #include <unistd.h>
 
-#include <QDBusConnection>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <cstdlib>
+#include <utility>
 
-#include "Platform/common/FileSystemFiles.h"
+#include "Platform/ThisMachine.h"
 #include "Platform/common/MachinePlatform.h"
 #include "Platform/common/MediaIcon.h"
 #include "Platform/common/QtRunLoop.h"
 #include "Platform/common/SettingsDefaults.h"
-#include "Platform/common/SystemFilesRoot.h"
+#include "Platform/common/ShippedFiles.h"
 #include "Platform/linux/LinuxDiskService.h"
 #include "Platform/linux/LinuxRawDevices.h"
-#include "Platform/linux/VolumeUsers.h"
+#include "Platform/linux/LinuxVolumeFiles.h"
+#include "Platform/linux/VolumeHelper.h"
 #include "Platform/linux/XdgLoginItems.h"
 
 using namespace Qt::StringLiterals;
@@ -28,8 +30,19 @@ QString bootId() {
   return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll().trimmed()) : QString();
 }
 
+// A name must mean the same disk to a user and to root on that user's behalf (sudo, pkexec).
+QString runtimeFolder() {
+  for (const char *variable : {"SUDO_UID", "PKEXEC_UID"}) {
+    bool isNumber = false;
+    const uint user = qEnvironmentVariable(variable).toUInt(&isNumber);
+    const QString folder = u"/run/user/%1"_s.arg(user);
+    if (geteuid() == 0 && isNumber && QFileInfo(folder).isDir()) return folder;
+  }
+  return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
 UnitNumbers sharedUnitNumbers() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+  const QString folder = runtimeFolder();
   const QString file = folder.isEmpty() ? QString() : folder + u"/keldra/units"_s;
   return {BlockDevices(u"/sys/block"_s), UnitFile(file, bootId())};
 }
@@ -51,17 +64,18 @@ QString mountFolderOfUser() {
 
 class LinuxPlatform final : public MachinePlatform {
  public:
-  LinuxPlatform()
-      : _systemFiles(systemFilesRoot()),
+  explicit LinuxPlatform(std::optional<QString> productVersion)
+      : _systemFiles(std::move(productVersion)),
         _loginItems(XdgLoginItems::ofThisUser()),
         _userDefaults(settingsFile()),
-        _disks(QDBusConnection::systemBus(), sharedUnitNumbers(), u"/proc/self/mountinfo"_s,
-               _workspace),
-        _rawDevices(_disks) {}
+        _disks(_systemBus, sharedUnitNumbers(), u"/proc/self/mountinfo"_s, _workspace),
+        _rawDevices(_disks),
+        _volumeFiles(_disks) {}
 
   DiskService &diskService() override { return _disks; }
   MediaRegistry &mediaRegistry() override { return _disks; }
   RawDevices &rawDevices() override { return _rawDevices; }
+  VolumeFiles &volumeFiles() override { return _volumeFiles; }
   RunLoop &runLoop() override { return _runLoop; }
   SystemFiles &systemFiles() override { return _systemFiles; }
   LoginItems &loginItems() override { return _loginItems; }
@@ -69,23 +83,30 @@ class LinuxPlatform final : public MachinePlatform {
   std::optional<QString> driverBundle(const QString &identifier) const override {
     return shippedDriverBundle(_systemFiles, identifier);
   }
-  QStringList processesUsing(const QString &mountPoint) const override {
-    return processesUsingVolume(mountPoint);
-  }
   QString volumesFolder() const override { return mountFolderOfUser(); }
   QString legacyVolumesFolder() const override { return u"/Volumes"_s; }
 
  private:
   QtRunLoop _runLoop;
-  FileSystemFiles _systemFiles;
+  ShippedFiles _systemFiles;
   XdgLoginItems _loginItems;
   SettingsDefaults _userDefaults;
+  MessageBus _systemBus{MessageBus::systemAddress()};
   LinuxDiskService _disks;
   LinuxRawDevices _rawDevices;
+  LinuxVolumeFiles _volumeFiles;
 };
 
 }  // namespace
 
+void prepareProcess(char **) {
+  if (const auto status = runAsVolumeHelper()) std::exit(*status);
+}
+
+std::unique_ptr<Platform> makeLinuxPlatform(std::optional<QString> productVersion) {
+  return std::make_unique<LinuxPlatform>(std::move(productVersion));
+}
+
 std::unique_ptr<Platform> makePlatform() {
-  return std::make_unique<LinuxPlatform>();
+  return makeLinuxPlatform();
 }

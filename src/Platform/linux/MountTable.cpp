@@ -11,6 +11,8 @@
 #include <array>
 #include <utility>
 
+#include "Foundation/Paths.h"
+
 namespace {
 
 int openTable(const QString &file) {
@@ -21,7 +23,8 @@ int openTable(const QString &file) {
 // one.
 quint64 deviceBehind(const MountLine &line) {
   if (major(line.device) != 0) return line.device;
-  if (line.fileSystem != "btrfs") return 0;
+  // Anything else might lie on a volume.
+  if (line.fileSystem != "btrfs" || !line.source.startsWith("/dev/")) return 0;
   struct stat source {};
   if (stat(line.source.constData(), &source) != 0 || !S_ISBLK(source.st_mode)) return 0;
   return source.st_rdev;
@@ -88,11 +91,11 @@ QByteArray MountTable::readAll() const {
 void MountTable::takeLines(const QList<MountLine> &lines) {
   _mounts.clear();
   _mountPointOf.clear();
-  _deviceAt.clear();
+  _topmost.clear();
   for (const MountLine &line : lines) {
     const quint64 device = isWholeVolume(line) ? deviceBehind(line) : 0;
-    const QString mountPoint = QFile::decodeName(line.mountPoint);
-    _deviceAt.insert(mountPoint, device);
+    const QString mountPoint = pathFromBytes(line.mountPoint);
+    _topmost.insert(mountPoint, {line.id, device, mountPoint});
     if (device == 0) continue;
     _mounts.append({line.id, device, mountPoint});
     QString &shown = _mountPointOf[device];
@@ -104,4 +107,12 @@ std::optional<QString> MountTable::mountPointOf(quint64 device) const {
   const auto found = _mountPointOf.constFind(device);
   if (found == _mountPointOf.constEnd()) return std::nullopt;
   return *found;
+}
+
+Mount MountTable::holding(const QString &path) const {
+  for (QString folder = path; folder.size() > 1; folder.truncate(folder.lastIndexOf(u'/'))) {
+    const auto mount = _topmost.constFind(folder);
+    if (mount != _topmost.constEnd()) return *mount;
+  }
+  return _topmost.value(QStringLiteral("/"));
 }

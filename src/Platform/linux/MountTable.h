@@ -66,7 +66,10 @@ class MountTable {
   std::optional<QString> mountPointOf(quint64 device) const;
 
   /// Where several are mounted at the same place, the one on top. 0 if there is none.
-  quint64 deviceAt(const QString &mountPoint) const { return _deviceAt.value(mountPoint); }
+  quint64 deviceAt(const QString &mountPoint) const { return _topmost.value(mountPoint).device; }
+
+  /// The mount on which a path lies, by its text; its device is 0 if it is none of the above.
+  Mount holding(const QString &path) const;
 
  private:
   bool hasChanged() const;
@@ -79,5 +82,5 @@ class MountTable {
   bool _isRead = false;
   QList<Mount> _mounts;
   QHash<quint64, QString> _mountPointOf;
-  QHash<QString, quint64> _deviceAt;
+  QHash<QString, Mount> _topmost;  // by mount point, of all kinds
 };

@@ -2,14 +2,17 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QFutureWatcher>
+#include <QTimer>
 #include <algorithm>
+#include <cerrno>
 #include <limits>
+#include <utility>
 
 #include "Foundation/SystemLog.h"
-#include "Platform/linux/Flush.h"
 #include "Platform/linux/Refusals.h"
 #include "Platform/linux/ServiceTree.h"
+#include "Platform/linux/VolumeHelpers.h"
+#include "Platform/linux/VolumeQuestions.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +20,8 @@ namespace {
 
 // A person may be typing a password.
 constexpr int kNoTimeOut = std::numeric_limits<int>::max();
+
+constexpr std::chrono::seconds kFlushTime(5);
 
 const QString kMount = u"Mount"_s;
 const QString kUnmount = u"Unmount"_s;
@@ -32,31 +37,44 @@ void Requests::unmount(const Medium &medium, DiskService::Completion completion)
 }
 
 // The service's forced unmount is a lazy one: it returns at once, with the data still on its way.
-void Requests::forceUnmount(const Medium &medium, const QString &mountPoint,
+void Requests::forceUnmount(const Medium &medium, const Mount &mount,
                             DiskService::Completion completion) {
   const Number number = enter(medium, kUnmount, {{u"force"_s, true}}, std::move(completion));
-  auto *flush = new QFutureWatcher<int>(this);
-  connect(flush, &QFutureWatcherBase::finished, this, [this, number, mountPoint, flush] {
-    flush->deleteLater();
-    if (const int error = flush->result()) {
-      systemLog(u"%1 was not flushed: %2"_s.arg(mountPoint, qt_error_string(error)));
-    }
-    send(number);
+  const QByteArray flush =
+      packed(static_cast<quint8>(VolumeQuestion::Flush), mount.mountPoint, mount.device);
+  _helpers.ask(mount, flush, [this, number, mount](const QByteArray &answer) {
+    int error = EIO;
+    unpack(answer, error);
+    if (error == 0) return send(number);
+    sendUnwritten(number, mount, qt_error_string(error));
   });
-  flush->setFuture(flushVolume(mountPoint, medium.device));
+  QTimer::singleShot(kFlushTime, this, [=, this] { sendUnwritten(number, mount, u"no answer"_s); });
+}
+
+void Requests::setUnwrittenHandler(std::function<void(const QString &)> handler) {
+  _unwritten = std::move(handler);
+}
+
+// A disk that does not answer is the very one that force is for.
+void Requests::sendUnwritten(Number number, const Mount &mount, const QString &reason) {
+  const auto request = _pending.constFind(number);
+  if (request == _pending.constEnd() || request->isSent) return;
+  systemLog(u"%1 was not flushed: %2"_s.arg(mount.mountPoint, reason));
+  if (_unwritten) _unwritten(mount.mountPoint);
+  send(number);
 }
 
 Requests::Number Requests::enter(const Medium &medium, const QString &method,
                                  const QVariantMap &options, DiskService::Completion completion) {
   const Number number = ++_last;
-  _pending.insert(number,
-                  {medium.bsdName(), medium.objectPath, method, options, std::move(completion)});
+  _pending.insert(
+      number, {medium.bsdName(), medium.objectPath, method, options, std::move(completion), false});
   return number;
 }
 
 void Requests::send(Number number) {
-  const auto request = _pending.constFind(number);
-  if (request == _pending.constEnd()) return;  // completed during the flush
+  const auto request = _pending.find(number);
+  if (request == _pending.end() || std::exchange(request->isSent, true)) return;
   auto call = QDBusMessage::createMethodCall(_tree.owner(), request->objectPath,
                                              kFilesystemInterface, request->method);
   call.setArguments({request->options});
@@ -83,7 +101,7 @@ void Requests::failAll() {
   for (const Number number : numbers) complete(number, Dissenter{kDAReturnNotReady});
 }
 
-bool Requests::concern(const QString &objectPath) const {
+bool Requests::isWaitingFor(const QString &objectPath) const {
   return std::ranges::any_of(
       _pending, [&](const Request &request) { return request.objectPath == objectPath; });
 }

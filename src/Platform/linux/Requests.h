@@ -10,28 +10,33 @@
 
 #include "Platform/Platform.h"
 #include "Platform/linux/Medium.h"
+#include "Platform/linux/MountTable.h"
 
 class QDBusMessage;
 class ServiceTree;
+class VolumeHelpers;
 
 class Requests : public QObject {
  public:
-  /// `tree` must outlive this.
-  explicit Requests(const ServiceTree &tree) : _tree(tree) {}
+  /// Both must outlive this.
+  Requests(const ServiceTree &tree, VolumeHelpers &helpers) : _tree(tree), _helpers(helpers) {}
+
+  /// `handler` is called with the mount point when a forced unmount goes out although not everything may have been
+  /// written.
+  void setUnwrittenHandler(std::function<void(const QString &)> handler);
 
   void mount(const Medium &medium, DiskService::Completion completion);
   void unmount(const Medium &medium, DiskService::Completion completion);
 
-  /// Unmounts although files are open. What was written to `mountPoint` until now is on the disk
-  /// first.
-  void forceUnmount(const Medium &medium, const QString &mountPoint,
-                    DiskService::Completion completion);
+  /// Unmounts although files are open. What was written until now is on the disk first, if that takes no longer than
+  /// five seconds.
+  void forceUnmount(const Medium &medium, const Mount &mount, DiskService::Completion completion);
 
   /// Completes everything: the service that was asked is gone.
   void failAll();
 
   /// Whether anything that was asked of this object is not answered yet.
-  bool concern(const QString &objectPath) const;
+  bool isWaitingFor(const QString &objectPath) const;
 
   /// Completes what was asked of an object that is gone (`isPulled`) or has no file system any more.
   /// In the second case a mount waits on: the service may be looking at the disk anew. `isMounted`:
@@ -45,16 +50,20 @@ class Requests : public QObject {
     QString method;
     QVariantMap options;
     DiskService::Completion completion;
+    bool isSent = false;
   };
   using Number = quint64;
 
   Number enter(const Medium &medium, const QString &method, const QVariantMap &options,
                DiskService::Completion completion);
   void send(Number number);
+  void sendUnwritten(Number number, const Mount &mount, const QString &reason);
   void takeAnswer(Number number, const QDBusMessage &answer);
   void complete(Number number, const std::optional<Dissenter> &dissenter);
 
   const ServiceTree &_tree;
+  VolumeHelpers &_helpers;
+  std::function<void(const QString &)> _unwritten;
   QHash<Number, Request> _pending;
   Number _last = 0;
 };

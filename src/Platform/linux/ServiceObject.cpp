@@ -2,7 +2,8 @@
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
-#include <QFile>
+
+#include "Foundation/Paths.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ bool ServiceObject::flag(const QString &interface, const QString &property) cons
 QString ServiceObject::fileName(const QString &interface, const QString &property) const {
   const QVariant found = value(interface, property);
   if (found.typeId() != QMetaType::QByteArray) return {};
-  return QFile::decodeName(found.toByteArray().constData());  // to the first NUL, or all of it
+  return pathFromBytes(found.toByteArray().constData());  // to the first NUL, or all of it
 }
 
 QString ServiceObject::link(const QString &interface, const QString &property) const {

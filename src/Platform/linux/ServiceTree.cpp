@@ -21,7 +21,7 @@ using ManagedObjects = QMap<QDBusObjectPath, InterfaceMap>;
 const QString kRootPath = u"/org/freedesktop/UDisks2"_s;
 const QString kObjectManager = u"org.freedesktop.DBus.ObjectManager"_s;
 const QString kProperties = u"org.freedesktop.DBus.Properties"_s;
-const QString kLocal = u"org.freedesktop.DBus.Local"_s;
+const QString kBus = u"org.freedesktop.DBus"_s;
 
 // Nobody waits for the tree, so that a slow answer is as good as a quick one.
 constexpr int kNoTimeOut = std::numeric_limits<int>::max();
@@ -42,35 +42,52 @@ quint64 deviceOf(const ServiceObject &object) {
 
 }  // namespace
 
-ServiceTree::ServiceTree(const QDBusConnection &connection) : _connection(connection) {
+ServiceTree::ServiceTree(MessageBus &bus) : _bus(bus) {
   qDBusRegisterMetaType<InterfaceMap>();
   qDBusRegisterMetaType<ManagedObjects>();
-  if (!_connection.isConnected()) {
-    systemLog(u"there is no system bus: "_s + _connection.lastError().message());
-    _presence = DiskService::Presence::Absent;
-    return;
-  }
   _again.setSingleShot(true);
   connect(&_again, &QTimer::timeout, this, &ServiceTree::fetch);
-  followSignals();
-  fetch();
-}
-
-void ServiceTree::followSignals() {
-  _watcher.setConnection(_connection);
   _watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
   _watcher.addWatchedService(kDiskServiceName);
   connect(&_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString &, const QString &before, const QString &after) {
             changeOwner(before, after);
           });
-  _connection.connect(kDiskServiceName, kRootPath, kObjectManager, u"InterfacesAdded"_s, this,
-                      SLOT(addInterfaces(QDBusMessage)));
-  _connection.connect(kDiskServiceName, kRootPath, kObjectManager, u"InterfacesRemoved"_s, this,
-                      SLOT(removeInterfaces(QDBusMessage)));
-  _connection.connect(kDiskServiceName, {}, kProperties, u"PropertiesChanged"_s, this,
-                      SLOT(changeProperties(QDBusMessage)));
-  _connection.connect({}, {}, kLocal, u"Disconnected"_s, this, SLOT(loseBus()));
+  connect(&_bus, &MessageBus::connected, this, &ServiceTree::start);
+  connect(&_bus, &MessageBus::lost, this, &ServiceTree::loseBus);
+  connect(&_bus, &MessageBus::missing, this, [this] { becomeAbsent(u"no system bus answers"_s); });
+  if (connection().isConnected()) start();
+}
+
+void ServiceTree::start() {
+  followSignals();
+  askForOwner();
+  fetch();
+}
+
+void ServiceTree::followSignals() {
+  _watcher.setConnection(connection());
+  QDBusConnection bus = connection();
+  bus.connect(kDiskServiceName, kRootPath, kObjectManager, u"InterfacesAdded"_s, this,
+              SLOT(addInterfaces(QDBusMessage)));
+  bus.connect(kDiskServiceName, kRootPath, kObjectManager, u"InterfacesRemoved"_s, this,
+              SLOT(removeInterfaces(QDBusMessage)));
+  bus.connect(kDiskServiceName, {}, kProperties, u"PropertiesChanged"_s, this,
+              SLOT(changeProperties(QDBusMessage)));
+}
+
+// Asked before the tree, so that it is known when the tree comes. A service that starts or ends in
+// the meantime is told of by a signal, which knows better.
+void ServiceTree::askForOwner() {
+  auto question =
+      QDBusMessage::createMethodCall(kBus, u"/org/freedesktop/DBus"_s, kBus, u"GetNameOwner"_s);
+  question << kDiskServiceName;
+  auto *call = new QDBusPendingCallWatcher(connection().asyncCall(question), this);
+  connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
+    call->deleteLater();
+    const QDBusPendingReply<QString> reply = *call;
+    if (!_owner && reply.isValid()) _owner = reply.value();
+  });
 }
 
 void ServiceTree::fetch() {
@@ -78,14 +95,14 @@ void ServiceTree::fetch() {
   _sinceFetch.start();
   const auto question = QDBusMessage::createMethodCall(kDiskServiceName, kRootPath, kObjectManager,
                                                        u"GetManagedObjects"_s);
-  _fetching = new QDBusPendingCallWatcher(_connection.asyncCall(question, kNoTimeOut), this);
+  _fetching = new QDBusPendingCallWatcher(connection().asyncCall(question, kNoTimeOut), this);
   connect(_fetching, &QDBusPendingCallWatcher::finished, this, &ServiceTree::takeTree);
 }
 
 void ServiceTree::fetchAgain() {
   const bool isUnanswered = std::exchange(_fetching, nullptr) != nullptr;
-  // Nobody but us starts it, and all that it does is die: what it said last is not worth showing.
-  if (isUnanswered && _delay == kLongestDelay) becomeAbsent();
+  // Nobody but us starts it, and it dies each time: what it said last is not worth showing.
+  if (isUnanswered && _delay == kLongestDelay) becomeAbsent(u"the disk service dies each time"_s);
   const bool diesAgain = std::chrono::milliseconds(_sinceFetch.elapsed()) < kShortLife;
   _delay = diesAgain ? std::clamp<std::chrono::milliseconds>(_delay * 2, kFirstDelay, kLongestDelay)
                      : 0ms;
@@ -98,7 +115,6 @@ void ServiceTree::takeTree(QDBusPendingCallWatcher *call) {
   const QDBusPendingReply<ManagedObjects> reply = *call;
   if (reply.isError()) return fetchFailed(reply.error());
   _fetching = nullptr;
-  _owner = reply.reply().service();
   const ManagedObjects tree = reply.value();
   ServiceObjects objects;
   objects.reserve(tree.size());
@@ -111,11 +127,10 @@ void ServiceTree::takeTree(QDBusPendingCallWatcher *call) {
 
 void ServiceTree::fetchFailed(const QDBusError &error) {
   // It died over the question, and its successor may do better; or it has come since.
-  const bool hasCome = error.type() == QDBusError::ServiceUnknown && !_owner.isEmpty();
+  const bool hasCome = error.type() == QDBusError::ServiceUnknown && !owner().isEmpty();
   if (error.type() == QDBusError::NoReply || hasCome) return fetchAgain();
   _fetching = nullptr;
-  systemLog(u"no disk service: %1: %2"_s.arg(error.name(), error.message()));
-  becomeAbsent();
+  becomeAbsent(u"no disk service: %1: %2"_s.arg(error.name(), error.message()));
 }
 
 void ServiceTree::changeOwner(const QString &before, const QString &after) {
@@ -131,9 +146,8 @@ void ServiceTree::changeOwner(const QString &before, const QString &after) {
 void ServiceTree::loseBus() {
   _fetching = nullptr;
   _again.stop();
-  _owner.clear();
-  systemLog(u"the system bus is gone"_s);
-  becomeAbsent();
+  _owner.reset();
+  becomeAbsent(u"the system bus is gone"_s);
   emit serviceLost();
 }
 
@@ -153,7 +167,8 @@ void ServiceTree::setPresence(DiskService::Presence presence) {
   if (std::exchange(_presence, presence) != presence) emit presenceChanged();
 }
 
-void ServiceTree::becomeAbsent() {
+void ServiceTree::becomeAbsent(const QString &reason) {
+  if (_presence != DiskService::Presence::Absent) systemLog(reason);
   replaceTree({});
   setPresence(DiskService::Presence::Absent);
 }

@@ -6,9 +6,9 @@
 // service goes away it is asked for anew, which also starts it where the bus can; until the answer
 // comes the last tree stands, so that a restart of the service changes nothing that anyone can see.
 // A service that dies over the question again and again is asked ever more slowly and soon counts
-// as absent; one that appears is fetched when it does.
+// as absent; one that appears is fetched when it does. After a restart of the bus all of it begins
+// again.
 
-#include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QElapsedTimer>
 #include <QObject>
@@ -16,6 +16,7 @@
 #include <QTimer>
 
 #include "Platform/Platform.h"
+#include "Platform/linux/MessageBus.h"
 #include "Platform/linux/ServiceObject.h"
 
 inline const QString kDiskServiceName = QStringLiteral("org.freedesktop.UDisks2");
@@ -28,14 +29,15 @@ class ServiceTree : public QObject {
   Q_OBJECT
 
  public:
-  explicit ServiceTree(const QDBusConnection &connection);
+  /// `bus` must outlive this.
+  explicit ServiceTree(MessageBus &bus);
 
   DiskService::Presence presence() const { return _presence; }
   const ServiceObjects &objects() const { return _objects; }
-  const QDBusConnection &connection() const { return _connection; }
+  QDBusConnection connection() const { return _bus.connection(); }
   /// The service's own address, which no successor has: what is asked of it is answered by it or,
   /// when `serviceLost` is sent, by nobody. Empty while there is none.
-  const QString &owner() const { return _owner; }
+  QString owner() const { return _owner.value_or(QString()); }
 
   bool hasChanges() const { return !_changes.isEmpty(); }
   /// The paths of the objects that came, went or changed since the last call.
@@ -57,10 +59,11 @@ class ServiceTree : public QObject {
   void addInterfaces(const QDBusMessage &message);
   void removeInterfaces(const QDBusMessage &message);
   void changeProperties(const QDBusMessage &message);
-  void loseBus();
 
  private:
+  void start();
   void followSignals();
+  void askForOwner();
   void fetch();
   void fetchAgain();
   void takeTree(QDBusPendingCallWatcher *call);
@@ -68,13 +71,14 @@ class ServiceTree : public QObject {
   void changeOwner(const QString &before, const QString &after);
   void replaceTree(ServiceObjects objects);
   void setPresence(DiskService::Presence presence);
-  void becomeAbsent();
+  void becomeAbsent(const QString &reason);
+  void loseBus();
   void noteChange(const QString &path);
 
-  QDBusConnection _connection;
+  MessageBus &_bus;
   QDBusServiceWatcher _watcher;
   DiskService::Presence _presence = DiskService::Presence::Asking;
-  QString _owner;
+  std::optional<QString> _owner;  // nothing while the bus has not told
   ServiceObjects _objects;
   QSet<QString> _changes;
   QDBusPendingCallWatcher *_fetching = nullptr;  // answers of earlier fetches are void

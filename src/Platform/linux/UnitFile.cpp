@@ -3,8 +3,9 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QSet>
+
+#include "Foundation/PlainFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,9 +23,10 @@ bool isNumber(const QJsonValue &value) {
 UnitFile::UnitFile(QString path, QString boot) : _path(std::move(path)), _boot(std::move(boot)) {}
 
 Units UnitFile::read() const {
-  QFile file(_path);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QJsonObject content = QJsonDocument::fromJson(file.read(kLargestFile)).object();
+  const auto file = readPlainFile(QFile::encodeName(_path), kLargestFile);
+  const auto *bytes = std::get_if<QByteArray>(&file);
+  if (bytes == nullptr) return {};
+  const QJsonObject content = QJsonDocument::fromJson(*bytes).object();
   if (content["boot"_L1].toString() != _boot || !isNumber(content["next"_L1])) return {};
   Units units{{}, content["next"_L1].toInt()};
   QSet<int> used;
@@ -38,13 +40,11 @@ Units UnitFile::read() const {
   return units;
 }
 
-bool UnitFile::write(const Units &units) const {
+QByteArray UnitFile::bytesOf(const Units &units) const {
   QJsonObject numbers;
   for (auto unit = units.numbers.begin(); unit != units.numbers.end(); ++unit) {
     numbers.insert(unit.key(), unit.value());
   }
   const QJsonObject content{{u"boot"_s, _boot}, {u"next"_s, units.next}, {u"units"_s, numbers}};
-  const QByteArray text = QJsonDocument(content).toJson(QJsonDocument::Compact);
-  QSaveFile file(_path);
-  return file.open(QIODevice::WriteOnly) && file.write(text) > 0 && file.commit();
+  return QJsonDocument(content).toJson(QJsonDocument::Compact);
 }

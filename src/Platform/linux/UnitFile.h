@@ -21,8 +21,8 @@ class UnitFile {
   /// Empty when there is no file, or none from this boot, or none that makes sense.
   Units read() const;
 
-  /// False when it cannot be written.
-  bool write(const Units &units) const;
+  /// What is to be written into the file.
+  QByteArray bytesOf(const Units &units) const;
 
   const QString &path() const { return _path; }
 

@@ -1,23 +1,40 @@
 #include "Platform/linux/UnitNumbers.h"
 
-#include <QDir>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSet>
 #include <algorithm>
-#include <chrono>
+#include <cstdlib>
 
-#include "Foundation/SystemLog.h"
-
-using namespace Qt::StringLiterals;
+#include "Foundation/PlainFile.h"
 
 namespace {
 
-// The file is held for a millisecond or two. Longer than this, and its holder is in trouble.
-constexpr std::chrono::milliseconds kLongestWait{200};
-
 // With more than these, disks that are gone are forgotten, and the file stays small.
 constexpr qsizetype kMostDisks = 5000;
+
+/// While it lives, root is the owner of a folder: it leaves nothing of its own there, and follows no
+/// link that the owner could not.
+class AsOwnerOf {
+ public:
+  explicit AsOwnerOf(const QString &folder) {
+    struct stat found {};
+    const bool isOthers = stat(QFile::encodeName(folder).constData(), &found) == 0 && found.st_uid;
+    if (geteuid() != 0 || !isOthers) return;
+    _isSomebodyElse = setegid(found.st_gid) == 0 && seteuid(found.st_uid) == 0;
+  }
+  ~AsOwnerOf() {
+    if (_isSomebodyElse && (seteuid(0) != 0 || setegid(0) != 0)) std::abort();
+  }
+  AsOwnerOf(const AsOwnerOf &) = delete;
+  AsOwnerOf &operator=(const AsOwnerOf &) = delete;
+
+ private:
+  bool _isSomebodyElse = false;
+};
 
 }  // namespace
 
@@ -44,15 +61,13 @@ void UnitNumbers::number(QList<Candidate> candidates) {
   std::ranges::stable_sort(candidates, comesBefore, &Candidate::disk);
 
   if (_file.path().isEmpty()) return numberOnwards(candidates);
-  QDir().mkpath(QFileInfo(_file.path()).path());
-  QLockFile lock(_file.path() + u".lock"_s);
-  const bool isLocked = lock.tryLock(kLongestWait);
+  const AsOwnerOf owner(QFileInfo(QFileInfo(_file.path()).path()).path());
+  // Nobody else writes between reading and writing.
+  PlainFileWriter writer(_file.path());
   adopt(_file.read());
   numberOnwards(candidates);
   if (_units.numbers.size() > kMostDisks) keepOnly(candidates);
-  if (!isLocked || !_file.write(_units)) {
-    systemLog(u"the unit numbers of disks cannot be shared through "_s + _file.path());
-  }
+  writer.write(_file.bytesOf(_units));
 }
 
 void UnitNumbers::numberOnwards(const QList<Candidate> &candidates) {

@@ -45,7 +45,7 @@ QList<VolumeEvent> VolumeEvents::news(const MountTable &table, const MediaCatalo
   return events;
 }
 
-bool VolumeEvents::concern(quint64 device) const {
+bool VolumeEvents::hasToldOf(quint64 device) const {
   return std::any_of(_told.keyBegin(), _told.keyEnd(),
                      [&](const Mount &mount) { return mount.device == device; });
 }

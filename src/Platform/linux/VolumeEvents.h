@@ -27,7 +27,7 @@ class VolumeEvents {
   QList<VolumeEvent> news(const MountTable &table, const MediaCatalog &media);
 
   /// Whether a mount of this device was told of, or accepted, and its end was not.
-  bool concern(quint64 device) const;
+  bool hasToldOf(quint64 device) const;
 
   /// The news that a medium's removal is, in the order in which the volumes were mounted.
   QList<VolumeEvent> pulled(quint64 device);

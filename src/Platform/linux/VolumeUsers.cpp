@@ -4,6 +4,8 @@
 #include <QFile>
 #include <filesystem>
 
+#include "Foundation/Paths.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -39,7 +41,7 @@ QString nameOf(const QString &process) {
 }  // namespace
 
 QStringList processesUsingVolume(const QString &mountPoint) {
-  const std::string path = QFile::encodeName(mountPoint).toStdString();
+  const std::string path = bytesOfPath(mountPoint).toStdString();
   QStringList users;
   for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
     bool isProcess = false;

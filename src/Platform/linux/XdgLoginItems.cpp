@@ -4,32 +4,26 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <utility>
+
+#include "Foundation/PlainFile.h"
+#include "Platform/common/KeyFile.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr qint64 kLargestEntry = 64 * 1024;
+const QByteArray kGroup = "Desktop Entry";
+const QByteArray kHidden = "Hidden";
+const QByteArray kEnabled = "X-GNOME-Autostart-enabled";
 
-/// The keys of the "Desktop Entry" group, without translations.
-QHash<QString, QString> readEntry(const QString &fileName) {
-  QHash<QString, QString> keys;
-  QFile file(fileName);
-  if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) return keys;
-  bool isInGroup = false;
-  const QStringList lines = QString::fromUtf8(file.read(kLargestEntry)).split(u'\n');
-  for (const QString &each : lines) {
-    const QString line = each.trimmed();
-    if (line.startsWith(u'[')) isInGroup = line == "[Desktop Entry]"_L1;
-    const qsizetype equals = line.indexOf(u'=');
-    if (!isInGroup || line.startsWith(u'#') || equals < 0) continue;
-    keys.insert(line.first(equals).trimmed(), line.sliced(equals + 1).trimmed());
-  }
-  return keys;
+/// Without lines for what is no plain file of a sensible size.
+KeyFile readEntry(const QString &fileName) {
+  const auto content = readPlainFile(QFile::encodeName(fileName), kLargestEntry);
+  const auto *bytes = std::get_if<QByteArray>(&content);
+  return KeyFile(bytes == nullptr ? QByteArray() : *bytes);
 }
 
 /// The program that an "Exec" line starts: its first word, which may stand in double quotes.
@@ -57,13 +51,14 @@ QString quotedForExec(QString program) {
   return u'"' + escaped(program.replace(u'%', "%%"_L1)) + u'"';
 }
 
-bool isSwitchedOff(const QHash<QString, QString> &keys) {
-  return keys.value(u"Hidden"_s) == "true"_L1 ||
-         keys.value(u"X-GNOME-Autostart-enabled"_s) == "false"_L1;
+bool isSwitchedOff(const KeyFile &entry) {
+  return entry.value(kGroup, kHidden) == "true" || entry.value(kGroup, kEnabled) == "false";
 }
 
-std::optional<QString> programOf(const QHash<QString, QString> &keys) {
-  const QString word = firstWord(keys.value(u"Exec"_s)).replace("%%"_L1, "%"_L1);
+/// Also of an entry that is switched off.
+std::optional<QString> programOf(const KeyFile &entry) {
+  const QString exec = QString::fromUtf8(entry.value(kGroup, "Exec").value_or(QByteArray()));
+  const QString word = firstWord(exec).replace("%%"_L1, "%"_L1);
   const QString program = word.startsWith(u'/') ? word : QStandardPaths::findExecutable(word);
   const QString canonical = word.isEmpty() ? QString() : QFileInfo(program).canonicalFilePath();
   if (canonical.isEmpty()) return std::nullopt;
@@ -85,43 +80,53 @@ QString XdgLoginItems::ownLocation() const {
   return _program;
 }
 
+QStringList XdgLoginItems::entryNames() const {
+  return QDir(_folder).entryList({u"*.desktop"_s}, QDir::Files | QDir::Readable, QDir::Name);
+}
+
 std::optional<QVector<LoginItems::Item>> XdgLoginItems::snapshot() const {
-  const QDir folder(_folder);
   QVector<Item> items;
-  for (const QString &name :
-       folder.entryList({u"*.desktop"_s}, QDir::Files | QDir::Readable, QDir::Name)) {
-    const auto keys = readEntry(folder.filePath(name));
-    items.append({name, isSwitchedOff(keys) ? std::nullopt : programOf(keys)});
+  for (const QString &name : entryNames()) {
+    const bool isDone = _leftAlone.contains(name);
+    items.append(
+        {name, isDone ? std::nullopt : programOf(readEntry(QDir(_folder).filePath(name)))});
   }
   return items;
 }
 
-// An entry of that name may be somebody else's, or one of ours for a program that has moved since.
-// One that starts this program may be switched off, and is written anew.
-QString XdgLoginItems::fileNameForOwnItem() const {
-  const QDir folder(_folder);
-  QString name = folder.filePath(u"keldra.desktop"_s);
-  for (int number = 1; QFile::exists(name) && programOf(readEntry(name)) != _program; ++number) {
-    name = folder.filePath(u"keldra-%1.desktop"_s.arg(number));
-  }
-  return name;
+bool XdgLoginItems::switchOn(const QString &name) {
+  KeyFile entry = readEntry(QDir(_folder).filePath(name));
+  if (!isSwitchedOff(entry) || programOf(entry) != _program) return false;
+  entry.remove(kGroup, kHidden);
+  entry.remove(kGroup, kEnabled);
+  if (!PlainFileWriter(QDir(_folder).filePath(name)).write(entry.bytes())) _leftAlone.remove(name);
+  return true;
 }
 
 void XdgLoginItems::insertOwnItem() {
-  const QDir folder(_folder);
   const bool fitsInALine = !_program.contains(u'\n') && !_program.contains(u'\r');
-  if (_program.isEmpty() || !fitsInALine || !folder.mkpath(u"."_s)) return;
-  QSaveFile file(fileNameForOwnItem());
-  if (!file.open(QIODevice::WriteOnly)) return;
+  if (_program.isEmpty() || !fitsInALine) return;
+  for (const QString &name : entryNames()) {
+    if (switchOn(name)) return;
+  }
+  const QDir folder(_folder);
+  QString name = folder.filePath(u"keldra.desktop"_s);
+  for (int number = 1; QFile::exists(name); ++number) {
+    name = folder.filePath(u"keldra-%1.desktop"_s.arg(number));
+  }
   const QString entry =
       u"[Desktop Entry]\nType=Application\nName=Keldra\n"
       u"Comment=EFI System Partitions one click away\nExec=%1\nTryExec=%2\n"
       u"Icon=com.brinmoor.Keldra\nX-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(_program),
                                                                           escaped(_program));
-  file.write(entry.toUtf8());
-  file.commit();
+  PlainFileWriter(name).write(entry.toUtf8());
 }
 
 void XdgLoginItems::remove(const Item &item) {
-  QFile::remove(QDir(_folder).filePath(item.identifier));
+  const QString name = QDir(_folder).filePath(item.identifier);
+  if (isSwitchedOff(readEntry(name))) {
+    _leftAlone.insert(item.identifier);
+  } else {
+    QFile::remove(name);
+  }
 }

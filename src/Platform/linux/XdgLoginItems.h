@@ -3,6 +3,8 @@
 // Login items as the desktops of this system keep them: one desktop entry each in a folder of the
 // user's.
 
+#include <QSet>
+
 #include "Platform/LoginItems.h"
 
 class XdgLoginItems final : public LoginItems {
@@ -17,18 +19,24 @@ class XdgLoginItems final : public LoginItems {
   QString ownLocation() const override;
 
   /// An item's location is the program that its entry starts: absolute, or found on the search
-  /// path, links resolved. Absent for an entry that is switched off or broken, or names no program
-  /// that is there.
+  /// path, links resolved; also of one that the user, or the desktop, has switched off. Absent for an
+  /// entry that is broken, or names no program that is there.
   std::optional<QVector<Item>> snapshot() const override;
 
-  /// Also switches an own item on again that the user, or the desktop, has switched off. Entries of
-  /// others are left alone.
+  /// Switches an own item on that is switched off, and changes nothing else of it. Entries of others
+  /// are left alone.
   void insertOwnItem() override;
+
+  /// An item that is switched off starts nothing: its entry stays as it is, and has no location from
+  /// then on.
   void remove(const Item &item) override;
 
  private:
-  QString fileNameForOwnItem() const;
+  QStringList entryNames() const;
+  /// False when this is no own entry that is switched off.
+  bool switchOn(const QString &name);
 
+  QSet<QString> _leftAlone;
   QString _folder;
   QString _program;
 };

@@ -1,31 +1,44 @@
 #include "Platform/macos/DiskArbitration.h"
 
 #include <DiskArbitration/DiskArbitration.h>
+#include <dispatch/dispatch.h>
 
-#include <algorithm>
+#include <QCoreApplication>
 
 #include "Platform/macos/Values.h"
 
-struct DiskArbitration::Request {
-  DiskArbitration &service;
+// It may outlive the service's object while the service's library has it in hand.
+struct DiskArbitration::Request : std::enable_shared_from_this<Request> {
+  DiskArbitration *service = nullptr;  // null once it has been dropped
   Completion completion;
   Owned<DASessionRef> session;
   Owned<DADiskRef> disk;
-};
 
-struct DiskArbitration::Callbacks {
-  // May be called inside the request itself, whose caller holds on to it.
+  void complete(const std::optional<quint32> &status) {
+    if (service == nullptr) return;
+    service->drop(*this);
+    completion(status);
+  }
+
+  // A refusal may come inside the request, and so on the queue where that is made.
   static void finish(DADiskRef, DADissenterRef dissenter, void *context) {
-    auto *asked = static_cast<Request *>(context);
-    const std::shared_ptr<Request> request = asked->service.take(asked);
-    if (!request) return;
     std::optional<quint32> status;
     if (dissenter != nullptr) status = static_cast<quint32>(DADissenterGetStatus(dissenter));
-    request->completion(status);
+    const auto request = static_cast<Request *>(context)->shared_from_this();
+    QMetaObject::invokeMethod(qApp, [request, status] { request->complete(status); });
   }
 };
 
 namespace {
+
+void onAnotherQueue(std::function<void()> work) {
+  using Work = std::function<void()>;
+  const auto run = [](void *context) {
+    const std::unique_ptr<Work> owned(static_cast<Work *>(context));
+    (*owned)();
+  };
+  dispatch_async_f(dispatch_get_global_queue(0, 0), new Work(std::move(work)), run);
+}
 
 Owned<DASessionRef> openSession() {
   return Owned<DASessionRef>(DASessionCreate(kCFAllocatorDefault));
@@ -77,7 +90,7 @@ std::optional<DiskArbitration::Record> recordOf(const Owned<DADiskRef> &disk) {
 DiskArbitration::DiskArbitration() = default;
 
 DiskArbitration::~DiskArbitration() {
-  while (!_requests.empty()) take(_requests.back().get());
+  while (!_requests.empty()) drop(*_requests.back());
 }
 
 bool DiskArbitration::answers() {
@@ -97,46 +110,45 @@ std::optional<DiskArbitration::Record> DiskArbitration::recordOfVolume(const QSt
       Owned<DADiskRef>(DADiskCreateFromVolumePath(kCFAllocatorDefault, session.get(), url.get())));
 }
 
-// Nothing is asked, and the result is null, when there is nobody to ask or no such disk could be.
-std::shared_ptr<DiskArbitration::Request> DiskArbitration::begin(const QString &bsdName,
-                                                                 Completion completion) {
+// The library may ask for a password inside the request, on the thread that makes it.
+void DiskArbitration::ask(const QString &bsdName, Completion completion, Question question) {
   Owned<DASessionRef> session = openSession();
   Owned<DADiskRef> disk = diskNamed(bsdName, session);
-  if (!disk) {
-    completion(static_cast<quint32>(session ? kDAReturnNotFound : kDAReturnNotReady));
-    return nullptr;
-  }
-  DASessionScheduleWithRunLoop(session.get(), CFRunLoopGetCurrent(), kCFRunLoopDefaultMode);
-  _requests.push_back(std::make_shared<Request>(
-      Request{*this, std::move(completion), std::move(session), std::move(disk)}));
-  return _requests.back();
+  if (!disk)
+    return completion(static_cast<quint32>(session ? kDAReturnNotFound : kDAReturnNotReady));
+  DASessionScheduleWithRunLoop(session.get(), CFRunLoopGetMain(), kCFRunLoopDefaultMode);
+  const auto request = _requests.emplace_back(std::make_shared<Request>());
+  request->service = this;
+  request->completion = std::move(completion);
+  request->session = std::move(session);
+  request->disk = std::move(disk);
+  onAnotherQueue([request, question = std::move(question)] { question(*request); });
 }
 
-// Null when it has been taken before.
-std::shared_ptr<DiskArbitration::Request> DiskArbitration::take(const Request *request) {
-  const auto found = std::find_if(_requests.begin(), _requests.end(),
-                                  [&](const auto &each) { return each.get() == request; });
-  if (found == _requests.end()) return nullptr;
-  std::shared_ptr<Request> taken = std::move(*found);
-  _requests.erase(found);
-  DASessionUnscheduleFromRunLoop(taken->session.get(), CFRunLoopGetCurrent(),
-                                 kCFRunLoopDefaultMode);
-  return taken;
+void DiskArbitration::answerAll(quint32 status) {
+  const auto pending = _requests;
+  for (const auto &request : pending) request->complete(status);
+}
+
+void DiskArbitration::drop(Request &request) {
+  DASessionUnscheduleFromRunLoop(request.session.get(), CFRunLoopGetMain(), kCFRunLoopDefaultMode);
+  request.service = nullptr;
+  std::erase_if(_requests, [&](const auto &each) { return each.get() == &request; });
 }
 
 void DiskArbitration::mount(const QString &bsdName, const std::optional<QString> &path,
                             Completion completion) {
-  const std::shared_ptr<Request> request = begin(bsdName, std::move(completion));
-  if (!request) return;
-  const Owned<CFURLRef> url = path ? makeFolderUrl(*path) : Owned<CFURLRef>();
-  DADiskMountWithArguments(request->disk.get(), url.get(), kDADiskMountOptionDefault,
-                           Callbacks::finish, request.get(), nullptr);
+  ask(bsdName, std::move(completion), [path](Request &request) {
+    const Owned<CFURLRef> url = path ? makeFolderUrl(*path) : Owned<CFURLRef>();
+    DADiskMountWithArguments(request.disk.get(), url.get(), kDADiskMountOptionDefault,
+                             Request::finish, &request, nullptr);
+  });
 }
 
 void DiskArbitration::unmount(const QString &bsdName, bool isForced, Completion completion) {
-  const std::shared_ptr<Request> request = begin(bsdName, std::move(completion));
-  if (!request) return;
-  const DADiskUnmountOptions option =
-      isForced ? kDADiskUnmountOptionForce : kDADiskUnmountOptionDefault;
-  DADiskUnmount(request->disk.get(), option, Callbacks::finish, request.get());
+  ask(bsdName, std::move(completion), [isForced](Request &request) {
+    const DADiskUnmountOptions option =
+        isForced ? kDADiskUnmountOptionForce : kDADiskUnmountOptionDefault;
+    DADiskUnmount(request.disk.get(), option, Request::finish, &request);
+  });
 }

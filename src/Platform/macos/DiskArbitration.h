@@ -35,18 +35,21 @@ class DiskArbitration {
   static std::optional<Record> recordOfMedia(const QString &bsdName);
   static std::optional<Record> recordOfVolume(const QString &path);
 
-  // The completion is called inside these when the service refuses at once, else from the run loop
-  // in its default mode.
+  // The completion is called inside these when there is nobody to ask, else from the run loop in its
+  // default mode. A password prompt of the service's keeps only the request waiting.
 
   void mount(const QString &bsdName, const std::optional<QString> &path, Completion completion);
   void unmount(const QString &bsdName, bool isForced, Completion completion);
 
+  /// Completes all requests that are under way.
+  void answerAll(quint32 status);
+
  private:
   struct Request;
-  struct Callbacks;
+  using Question = std::function<void(Request &)>;
 
-  std::shared_ptr<Request> begin(const QString &bsdName, Completion completion);
-  std::shared_ptr<Request> take(const Request *request);
+  void ask(const QString &bsdName, Completion completion, Question question);
+  void drop(Request &request);
 
   std::vector<std::shared_ptr<Request>> _requests;
 };

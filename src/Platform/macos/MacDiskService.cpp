@@ -3,7 +3,10 @@
 #include <QFile>
 #include <QUrl>
 #include <QUuid>
+#include <cerrno>
 #include <utility>
+
+#include "Platform/macos/AdministratorMount.h"
 
 namespace {
 
@@ -22,12 +25,6 @@ DiskDescription descriptionFrom(DiskArbitration::Record record) {
   setUuid(record, kDADiskDescriptionMediaUUIDKey);
   setUuid(record, kDADiskDescriptionVolumeUUIDKey);
   return record;
-}
-
-DiskArbitration::Completion inWordsOfTheSeam(DiskService::Completion completion) {
-  return [call = std::move(completion)](const std::optional<quint32> &status) {
-    call(status ? std::optional(Dissenter{*status}) : std::nullopt);
-  };
 }
 
 }  // namespace
@@ -58,12 +55,29 @@ std::optional<DiskDescription> MacDiskService::descriptionOfVolume(
   return descriptionFrom(std::move(*record));
 }
 
+// The service takes an unknown disk for a bad argument, and hands on that the volume was busy as the
+// system said it.
+DissenterStatus MacDiskService::inWordsOfTheSeam(const QString &bsdName, quint32 status) const {
+  if (status == unixErrorStatus(EBUSY)) return kDAReturnBusy;
+  const bool isUnknown = status == kDAReturnBadArgument && !descriptionOfMedia(bsdName);
+  return isUnknown ? kDAReturnNotFound : status;
+}
+
 void MacDiskService::mount(const QString &bsdName, const std::optional<QString> &path,
                            Completion completion) {
-  _arbitration.mount(bsdName, path, inWordsOfTheSeam(std::move(completion)));
+  const auto end = [this, bsdName, path, call = std::move(completion)](const auto &status) {
+    if (!status) return call(std::nullopt);
+    const DissenterStatus refusal = inWordsOfTheSeam(bsdName, *status);
+    const DiskDescription disk = descriptionOfMedia(bsdName).value_or(DiskDescription());
+    if (path || !mayAskAdministrator(disk, refusal)) return call(Dissenter{refusal});
+    mountAsAdministrator(bsdName, refusal, _root, _prompts, call);
+  };
+  _arbitration.mount(bsdName, path, end);
 }
 
 void MacDiskService::unmount(const QString &bsdName, UnmountOption option, Completion completion) {
-  _arbitration.unmount(bsdName, option == UnmountOption::Force,
-                       inWordsOfTheSeam(std::move(completion)));
+  const auto end = [this, bsdName, call = std::move(completion)](const auto &status) {
+    call(status ? std::optional(Dissenter{inWordsOfTheSeam(bsdName, *status)}) : std::nullopt);
+  };
+  _arbitration.unmount(bsdName, option == UnmountOption::Force, end);
 }

@@ -7,6 +7,9 @@
 
 class MacDiskService final : public DiskService {
  public:
+  /// `root` is put before the paths of the system's programs.
+  explicit MacDiskService(const QString &root) : _root(root) {}
+
   Presence presence() const override;
   QString name() const override;
   std::optional<DiskDescription> descriptionOfMedia(const QString &bsdName) const override;
@@ -15,6 +18,13 @@ class MacDiskService final : public DiskService {
              Completion completion) override;
   void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
 
+  /// Completes what is under way: the service that it was asked of is gone.
+  void noteServiceStart() { _arbitration.answerAll(kDAReturnNotReady); }
+
  private:
+  DissenterStatus inWordsOfTheSeam(const QString &bsdName, quint32 status) const;
+
+  QString _root;
   DiskArbitration _arbitration;
+  QObject _prompts;  // owns what asks a person for a password
 };

@@ -28,8 +28,10 @@ LSSharedFileListItemRef itemAt(const Owned<CFArrayRef> &items, CFIndex index) {
 }
 
 std::optional<QString> locationOf(LSSharedFileListItemRef item) {
+  // An item may be on a server.
+  constexpr auto kQuietly = kLSSharedFileListNoUserInteraction | kLSSharedFileListDoNotMountVolumes;
   CFURLRef url = nullptr;
-  const OSStatus status = LSSharedFileListItemResolve(item, 0, &url, nullptr);
+  const OSStatus status = LSSharedFileListItemResolve(item, kQuietly, &url, nullptr);
   const Owned<CFURLRef> location(url);
   return status == 0 ? pathOf(location.get()) : std::nullopt;
 }

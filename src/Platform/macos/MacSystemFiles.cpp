@@ -9,6 +9,8 @@ std::optional<QString> MacSystemFiles::bundleResource(const QString &bundle, con
   const Owned<CFURLRef> url = makeFolderUrl(_root + bundle);
   const Owned<CFBundleRef> opened(url ? CFBundleCreate(kCFAllocatorDefault, url.get()) : nullptr);
   if (!opened) return std::nullopt;
+  // For no name the system gives any file of the type.
+  if (name.isEmpty()) return QString();
   const Owned<CFURLRef> resource(
       CFBundleCopyResourceURL(opened.get(), makeText(name).get(), makeText(type).get(), nullptr));
   return pathOf(resource.get()).value_or(QString()).mid(_root.size());

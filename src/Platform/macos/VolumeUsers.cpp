@@ -20,10 +20,12 @@ QString nameOf(int process) {
 }  // namespace
 
 QStringList processesUsingVolume(const QString &mountPoint) {
+  // Who only watches the volume for changes does not hold it.
+  constexpr auto kHolders = PROC_LISTPIDSPATH_PATH_IS_VOLUME | PROC_LISTPIDSPATH_EXCLUDE_EVTONLY;
   std::vector<int> processes(kMostProcesses);
-  const int bytes = proc_listpidspath(PROC_ALL_PIDS, 0, QFile::encodeName(mountPoint).constData(),
-                                      PROC_LISTPIDSPATH_PATH_IS_VOLUME, processes.data(),
-                                      static_cast<int>(processes.size() * sizeof(int)));
+  const int bytes =
+      proc_listpidspath(PROC_ALL_PIDS, 0, QFile::encodeName(mountPoint).constData(), kHolders,
+                        processes.data(), static_cast<int>(processes.size() * sizeof(int)));
   processes.resize(bytes > 0 ? static_cast<std::size_t>(bytes) / sizeof(int) : 0);
   QStringList users;
   for (const int process : processes) {

@@ -2,5 +2,5 @@
 
 #include <QStringList>
 
-/// As `Platform::processesUsing`.
+/// As `VolumeFiles::findProcessesUsing`; blocks for some milliseconds.
 QStringList processesUsingVolume(const QString &mountPoint);

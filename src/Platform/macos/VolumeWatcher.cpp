@@ -2,7 +2,7 @@
 
 #include <DiskArbitration/DiskArbitration.h>
 
-#include "Platform/macos/Values.h"
+#include "Platform/macos/Observation.h"
 
 // The service's callbacks; each hands on which disk it is about and where that is mounted now. A
 // volume without media, such as one on the network, has no BSD name, and what is not mounted no
@@ -10,34 +10,28 @@
 struct VolumeWatcher::Session {
   explicit Session(VolumeWatcher &owner)
       : watcher(owner), reference(DASessionCreate(kCFAllocatorDefault)) {
-    if (!reference) return;
-    DARegisterDiskAppearedCallback(reference.get(), nullptr, appeared, this);
-    DARegisterDiskDisappearedCallback(reference.get(), nullptr, disappeared, this);
+    using Watcher = VolumeWatcher;
+    const DASessionRef session = reference.get();
+    if (session == nullptr) return;
+    DARegisterDiskAppearedCallback(session, nullptr, tell<&Watcher::noteAppeared>, this);
+    DARegisterDiskDisappearedCallback(session, nullptr, tell<&Watcher::noteDisappeared>, this);
     // The name first: a mounted volume's new name changes its path as well.
-    DARegisterDiskDescriptionChangedCallback(reference.get(), nullptr,
-                                             kDADiskDescriptionWatchVolumeName, nameChanged, this);
-    DARegisterDiskDescriptionChangedCallback(reference.get(), nullptr,
-                                             kDADiskDescriptionWatchVolumePath, pathChanged, this);
-    DASessionScheduleWithRunLoop(reference.get(), CFRunLoopGetMain(), kCFRunLoopCommonModes);
+    DARegisterDiskDescriptionChangedCallback(session, nullptr, kDADiskDescriptionWatchVolumeName,
+                                             tellChange<&Watcher::noteName>, this);
+    DARegisterDiskDescriptionChangedCallback(session, nullptr, kDADiskDescriptionWatchVolumePath,
+                                             tellChange<&Watcher::notePath>, this);
+    DASessionScheduleWithRunLoop(session, CFRunLoopGetMain(), kCFRunLoopCommonModes);
   }
   Session(const Session &) = delete;
   Session &operator=(const Session &) = delete;
   ~Session() {
     if (!reference) return;
     DASessionUnscheduleFromRunLoop(reference.get(), CFRunLoopGetMain(), kCFRunLoopCommonModes);
-    unregister(appeared);
-    unregister(disappeared);
-    unregister(nameChanged);
-    unregister(pathChanged);
-  }
-
-  template <typename Callback>
-  void unregister(Callback callback) {
-    DAUnregisterCallback(reference.get(), reinterpret_cast<void *>(callback), this);
   }
 
   using Note = void (VolumeWatcher::*)(const QString &media, const QString &path);
-  static void tell(DADiskRef disk, void *context, Note note) {
+  template <Note note>
+  static void tell(DADiskRef disk, void *context) {
     const Owned<CFDictionaryRef> description(DADiskCopyDescription(disk));
     const CFTypeRef path =
         description ? CFDictionaryGetValue(description.get(), kDADiskDescriptionVolumePathKey)
@@ -45,17 +39,9 @@ struct VolumeWatcher::Session {
     (static_cast<Session *>(context)->watcher.*note)(QString::fromUtf8(DADiskGetBSDName(disk)),
                                                      pathOf(path).value_or(QString()));
   }
-  static void appeared(DADiskRef disk, void *context) {
-    tell(disk, context, &VolumeWatcher::noteAppeared);
-  }
-  static void disappeared(DADiskRef disk, void *context) {
-    tell(disk, context, &VolumeWatcher::noteDisappeared);
-  }
-  static void nameChanged(DADiskRef disk, CFArrayRef, void *context) {
-    tell(disk, context, &VolumeWatcher::noteName);
-  }
-  static void pathChanged(DADiskRef disk, CFArrayRef, void *context) {
-    tell(disk, context, &VolumeWatcher::notePath);
+  template <Note note>
+  static void tellChange(DADiskRef disk, CFArrayRef, void *context) {
+    tell<note>(disk, context);
   }
 
   VolumeWatcher &watcher;
@@ -68,7 +54,22 @@ VolumeWatcher::VolumeWatcher() {
     _knowsMedia = true;
     emit changed();
   });
+  _starts = std::make_unique<Observation>(
+      CFNotificationCenterGetDarwinNotifyCenter(),
+      QStringLiteral("com.apple.diskarbitrationd.launched"), this,
+      [](CFNotificationCenterRef, void *watcher, CFNotificationName, const void *,
+         CFDictionaryRef) { static_cast<VolumeWatcher *>(watcher)->watch(); });
+  watch();
+}
+
+// A session ends with the service that it was opened with.
+void VolumeWatcher::watch() {
+  const bool isAnew = _session != nullptr;
+  _session.reset();
+  _paths.clear();
+  _knowsMedia = false;
   _session = std::make_unique<Session>(*this);
+  if (isAnew) emit serviceStarted();
 }
 
 VolumeWatcher::~VolumeWatcher() = default;

@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <memory>
 
+class Observation;
+
 class VolumeWatcher final : public QObject {
   Q_OBJECT
 
@@ -27,8 +29,14 @@ class VolumeWatcher final : public QObject {
   /// all that happens in one turn of the event loop, this watcher's beginning included.
   void changed();
 
+  /// The service has been started anew: what the old one was asked will not be answered. `changed`
+  /// follows for whatever has become of volumes meanwhile.
+  void serviceStarted();
+
  private:
   struct Session;
+
+  void watch();
 
   void noteAppeared(const QString &media, const QString &path);
   void noteDisappeared(const QString &media, const QString &path);
@@ -39,4 +47,5 @@ class VolumeWatcher final : public QObject {
   QHash<QString, QString> _paths;  // by BSD name, of what is mounted
   bool _knowsMedia = false;        // whether those that were there at the beginning have been told
   QTimer _soon;
+  std::unique_ptr<Observation> _starts;
 };

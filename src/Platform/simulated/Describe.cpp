@@ -1,7 +1,6 @@
 #include "Platform/simulated/Describe.h"
 
-#include <QUrl>
-
+#include "Foundation/Paths.h"
 #include "Platform/common/MediaIcon.h"
 
 namespace {
@@ -56,7 +55,7 @@ DiskDescription describe(const SimulatedDisk &disk, const SimulatedPartition &pa
   insertUUID(description, kDADiskDescriptionVolumeUUIDKey, partition.volumeUUID);
   if (partition.mountPoint.has_value()) {
     insertText(description, kDADiskDescriptionVolumeNameKey, partition.volumeName);
-    description.insert(kDADiskDescriptionVolumePathKey, QUrl::fromLocalFile(*partition.mountPoint));
+    description.insert(kDADiskDescriptionVolumePathKey, urlOfPath(*partition.mountPoint));
   }
   return description;
 }

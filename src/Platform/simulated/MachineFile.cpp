@@ -1,5 +1,6 @@
 #include "Platform/simulated/MachineFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -13,6 +14,11 @@
 #include "DiskArbitrator/daStatus.h"
 
 using namespace Qt::StringLiterals;
+
+// Outside of every namespace, as Qt asks.
+static void haveMachines() {
+  Q_INIT_RESOURCE(machines);
+}
 
 namespace {
 
@@ -262,7 +268,9 @@ std::variant<Machine, MachineFileError> readMachineFile(const QByteArray &json) 
   }
 }
 
-std::variant<Machine, MachineFileError> loadMachineFile(const QString &fileName) {
+std::variant<Machine, MachineFileError> loadMachineFile(const QString &name) {
+  const QString fileName =
+      shippedMachines().contains(name) ? u":/machines/"_s + name + u".json"_s : name;
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly)) return MachineFileError{fileName, file.errorString()};
   const QByteArray json = file.read(kLargestFile + 1);
@@ -272,4 +280,11 @@ std::variant<Machine, MachineFileError> loadMachineFile(const QString &fileName)
     error->place = fileName + ": "_L1 + error->place;
   }
   return machine;
+}
+
+QStringList shippedMachines() {
+  haveMachines();
+  QStringList names;
+  for (const QFileInfo &file : QDir(u":/machines"_s).entryInfoList()) names << file.baseName();
+  return names;
 }

@@ -32,6 +32,7 @@
 //                   the request waits; what was mounted stays so).
 
 #include <QByteArray>
+#include <QStringList>
 #include <variant>
 
 #include "Platform/simulated/Machine.h"
@@ -48,5 +49,8 @@ struct MachineFileError {
 /// error.
 std::variant<Machine, MachineFileError> readMachineFile(const QByteArray &json);
 
-/// The same for what is in a file.
-std::variant<Machine, MachineFileError> loadMachineFile(const QString &fileName);
+/// The same for what is in a file, or for a machine that ships, by its name ("laptop").
+std::variant<Machine, MachineFileError> loadMachineFile(const QString &name);
+
+/// The names of the machines that ship.
+QStringList shippedMachines();

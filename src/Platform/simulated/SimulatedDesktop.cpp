@@ -17,6 +17,7 @@ class SimulatedDesktop::Monitor final : public EventMonitor {
 std::unique_ptr<TrayItem> SimulatedDesktop::makeTrayItem() {
   auto made = std::make_unique<SimulatedTrayItem>();
   item = made.get();
+  item->hasTray = hasTray;
   return made;
 }
 

@@ -16,12 +16,16 @@
 class SimulatedTrayItem final : public TrayItem {
  public:
   void setImage(const QIcon &image) override { shownImage = image; }
+  void setHighlighted(bool highlighted) override { isHighlighted = highlighted; }
   void setMenu(QMenu *menu) override { shownMenu = menu; }
   QRect place() const override { return shownAt; }
+  bool isShown() const override { return hasTray; }
   QString kind() const override { return QStringLiteral("simulated"); }
   void showMessage(const QString & /*title*/, const QString & /*text*/) override {}
 
   QIcon shownImage;
+  bool isHighlighted = false;
+  bool hasTray = true;
   QPointer<QMenu> shownMenu;
   QRect shownAt{400, 0, 24, 24};
 };
@@ -34,6 +38,9 @@ class SimulatedDesktop final : public Desktop {
   QVariant interfaceStyle() const override { return style; }
   Facts facts() const override { return {{QStringLiteral("Tray"), QStringLiteral("simulated")}}; }
   bool becomeOnlyInstance() override { return true; }
+  bool wasStartedAtLogin() const override { return startedAtLogin; }
+  QString adviceWithoutTray() const override { return QStringLiteral("Get a tray."); }
+  WindowAbilities windowAbilities() const override { return {true, true, false}; }
 
   // What happens on it.
   void clickItem() { emit item->activated(); }
@@ -41,6 +48,8 @@ class SimulatedDesktop final : public Desktop {
 
   QPointer<SimulatedTrayItem> item;  // the last that was made
   QVariant style;
+  bool hasTray = true;  // for the items that are made
+  bool startedAtLogin = false;
   int monitors = 0;  // that live
   QStringList notifications;
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "Foundation/Paths.h"
+
 #include "Platform/simulated/SimulatedPlatform.h"
 
 using namespace Qt::StringLiterals;
@@ -102,10 +104,14 @@ void SimulatedPlatform::putVolumes(SimulatedDisk &disk) {
   }
 }
 
-/// A mount point without a "/" is a name in the volumes folder; the others are taken as they are.
+QString SimulatedPlatform::placeFor(const QString &mountPoint) const {
+  if (!mountPoint.contains(u'/')) return volumesFolder() + u'/' + mountPoint;
+  if (mountPoint == "/"_L1 || isOurs(mountPoint)) return mountPoint;
+  return canonicalPath(_root.path() + u'/' + mountPoint);
+}
+
 void SimulatedPlatform::putAt(SimulatedPartition &partition, const QString &mountPoint) {
-  const bool isName = !mountPoint.contains(u'/');
-  partition.mountPoint = isName ? QDir(_volumes.path()).filePath(mountPoint) : mountPoint;
+  partition.mountPoint = placeFor(mountPoint);
   if (isOurs(*partition.mountPoint)) QDir().mkpath(*partition.mountPoint);
 }
 
@@ -114,8 +120,8 @@ void SimulatedPlatform::takeAway(SimulatedPartition &partition) {
   partition.mountPoint.reset();
 }
 
-bool SimulatedPlatform::isOurs(const QString &mountPoint) const {
-  return mountPoint.startsWith(_volumes.path() + u'/');
+bool SimulatedPlatform::isOurs(const QString &path) const {
+  return path.startsWith(_root.path() + u'/');
 }
 
 /// The volume's name, then the name with 1, 2 and so on behind it.
@@ -126,7 +132,7 @@ QString SimulatedPlatform::freeFolder(const SimulatedPartition &partition) const
   name.truncate(kLongestName);
   name.replace(u'/', u'_').replace(QChar(u'\0'), u'_');
   if (name.isEmpty() || name.startsWith(u'.')) name.prepend(u"disk"_s);
-  const QString base = QDir(_volumes.path()).filePath(name);
+  const QString base = QDir(volumesFolder()).filePath(name);
   QString folder = base;
   for (int number = 1; QDir(folder).exists(); ++number) folder = base + QString::number(number);
   return folder;

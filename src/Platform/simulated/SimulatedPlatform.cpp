@@ -1,41 +1,21 @@
 #include "Platform/simulated/SimulatedPlatform.h"
 
+#include <QDir>
 #include <QTimer>
 #include <utility>
 
 #include "Platform/common/MediaIcon.h"
-#include "Platform/common/SystemFilesRoot.h"
 #include "Platform/simulated/Describe.h"
 
 using namespace Qt::StringLiterals;
 
-SimulatedSystemFiles::SimulatedSystemFiles(const QString &root, QString productVersion)
-    : _shipped(root), _productVersion(std::move(productVersion)) {}
-
-bool SimulatedSystemFiles::exists(const QString &path) const {
-  return _shipped.exists(path);
-}
-
-QVariantMap SimulatedSystemFiles::propertyList(const QString &path) const {
-  QVariantMap dictionary = _shipped.propertyList(path);
-  if (!dictionary.isEmpty()) dictionary.insert(u"ProductVersion"_s, _productVersion);
-  return dictionary;
-}
-
-std::optional<QImage> SimulatedSystemFiles::image(const QString &path) const {
-  return _shipped.image(path);
-}
-
-std::optional<QString> SimulatedSystemFiles::bundleResource(const QString &bundle,
-                                                            const QString &name,
-                                                            const QString &type) const {
-  return _shipped.bundleResource(bundle, name, type);
-}
-
-SimulatedPlatform::SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock)
+SimulatedPlatform::SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock,
+                                     std::chrono::milliseconds moment)
     : _machine(std::move(machine)),
       _clock(std::move(clock)),
-      _systemFiles(systemFilesRoot(), _machine.productVersion) {
+      _systemFiles(_machine.productVersion),
+      _runLoop(moment) {
+  QDir().mkpath(volumesFolder());
   for (SimulatedDisk &disk : _machine.disks) putVolumes(disk);
   learnPlaces();
   if (!_machine.answersAfter.has_value()) return;
@@ -82,17 +62,14 @@ std::optional<QString> SimulatedPlatform::driverBundle(const QString &identifier
   return shippedDriverBundle(_systemFiles, identifier);
 }
 
-std::optional<QImage> SimulatedPlatform::imageOnVolume(const QString &path) const {
-  return _volumeFiles.image(path);
-}
-
-QStringList SimulatedPlatform::processesUsing(const QString &mountPoint) const {
+void SimulatedVolumeFiles::findProcessesUsing(const QString &mountPoint,
+                                              std::function<void(const QStringList &)> answer) {
   for (const SimulatedDisk &disk : _machine.disks) {
     for (const SimulatedPartition &partition : disk.partitions) {
-      if (partition.mountPoint == mountPoint) return partition.usedBy;
+      if (partition.mountPoint == mountPoint) return answer(partition.usedBy);
     }
   }
-  return {};
+  answer({});
 }
 
 QStringList SimulatedPlatform::mediaNames() const {

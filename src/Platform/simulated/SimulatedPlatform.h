@@ -6,7 +6,8 @@
 //   SimulatedPlatform platform(machine, std::make_unique<SystemClock>());
 //   platform.pull(2);  // disk2 is gone, and whatever was mounted from it
 //
-// Mount points are real folders below a temporary one, so that the program can look into them.
+// Mount points are real folders below a temporary one, so that the program can look into them; only "/" is this
+// machine's own.
 // Everything that the machine does is announced from the event loop, in order, before the request
 // that caused it is answered.
 
@@ -19,25 +20,23 @@
 
 #include "Foundation/NotificationCenter.h"
 #include "Platform/Platform.h"
-#include "Platform/common/FileSystemFiles.h"
+#include "Platform/common/DirectVolumeFiles.h"
 #include "Platform/common/QtRunLoop.h"
+#include "Platform/common/ShippedFiles.h"
 #include "Platform/simulated/Machine.h"
 #include "Platform/simulated/SimulatedUser.h"
 
-/// The system files that ship, with a product version of the machine's own.
-class SimulatedSystemFiles final : public SystemFiles {
+/// Files below the machine's own folder, and the processes that its machine file names.
+class SimulatedVolumeFiles final : public DirectVolumeFiles {
  public:
-  SimulatedSystemFiles(const QString &root, QString productVersion);
+  /// The machine must outlive this.
+  explicit SimulatedVolumeFiles(const Machine &machine) : _machine(machine) {}
 
-  bool exists(const QString &path) const override;
-  QVariantMap propertyList(const QString &path) const override;
-  std::optional<QImage> image(const QString &path) const override;
-  std::optional<QString> bundleResource(const QString &bundle, const QString &name,
-                                        const QString &type) const override;
+  void findProcessesUsing(const QString &mountPoint,
+                          std::function<void(const QStringList &)> answer) override;
 
  private:
-  FileSystemFiles _shipped;
-  QString _productVersion;
+  const Machine &_machine;
 };
 
 class SimulatedPlatform final : public Platform,
@@ -46,13 +45,17 @@ class SimulatedPlatform final : public Platform,
                                 public RawDevices,
                                 public SystemPrograms {
  public:
-  SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock);
+  /// `moment` is how long its run loop serves at a time where a real one takes 20 ms; a test, whose
+  /// clock is its own, has none to lose.
+  SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock,
+                    std::chrono::milliseconds moment = QtRunLoop::kMoment);
   ~SimulatedPlatform() override;
 
   // The roles.
   DiskService &diskService() override { return *this; }
   MediaRegistry &mediaRegistry() override { return *this; }
   RawDevices &rawDevices() override { return *this; }
+  VolumeFiles &volumeFiles() override { return _volumeFiles; }
   RunLoop &runLoop() override { return _runLoop; }
   Clock &clock() override { return *_clock; }
   SystemFiles &systemFiles() override { return _systemFiles; }
@@ -60,10 +63,8 @@ class SimulatedPlatform final : public Platform,
   SimulatedLoginItems &loginItems() override { return _loginItems; }
   SimulatedDefaults &userDefaults() override { return _userDefaults; }
   std::optional<QString> driverBundle(const QString &identifier) const override;
-  std::optional<QImage> imageOnVolume(const QString &path) const override;
-  QStringList processesUsing(const QString &mountPoint) const override;
-  QString volumesFolder() const override { return _volumes.path(); }
-  QString legacyVolumesFolder() const override { return _volumes.path(); }
+  QString volumesFolder() const override { return _root.filePath(QStringLiteral("Volumes")); }
+  QString legacyVolumesFolder() const override { return volumesFolder(); }
   QString applicationSupportFolder() const override { return _applicationSupport.path(); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
@@ -151,8 +152,11 @@ class SimulatedPlatform final : public Platform,
   void putVolumes(SimulatedDisk &disk);
   void putAt(SimulatedPartition &partition, const QString &mountPoint);
   void takeAway(SimulatedPartition &partition);
-  /// Whether it lies in the volumes folder.
-  bool isOurs(const QString &mountPoint) const;
+  /// Where the machine has it, whose paths lie below its own folder: all but "/". A mere name is one in the volumes
+  /// folder.
+  QString placeFor(const QString &mountPoint) const;
+  /// Whether it lies in the machine's own folder.
+  bool isOurs(const QString &path) const;
   QString freeFolder(const SimulatedPartition &partition) const;
   void announce(const QString &name, const QString &path = {});
   /// In a later turn of the event loop; in the order of the calls.
@@ -163,11 +167,11 @@ class SimulatedPlatform final : public Platform,
   QHash<QString, Place> _places;  // of every BSD name
   std::map<int, Request> _requests;
   int _lastRequest = 0;
-  QTemporaryDir _volumes;
+  QTemporaryDir _root;
   QTemporaryDir _applicationSupport;
   std::unique_ptr<Clock> _clock;
-  SimulatedSystemFiles _systemFiles;
-  FileSystemFiles _volumeFiles{QString()};
+  ShippedFiles _systemFiles;
+  SimulatedVolumeFiles _volumeFiles{_machine};
   SimulatedLoginItems _loginItems;
   SimulatedDefaults _userDefaults;
   QtRunLoop _runLoop;

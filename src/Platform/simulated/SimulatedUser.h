@@ -29,8 +29,11 @@ class SimulatedLoginItems final : public LoginItems {
 class SimulatedDefaults final : public UserDefaults {
  public:
   QVariant object(const QString &key) const override { return _objects.value(key); }
-  void setBool(const QString &key, bool value) override { _objects.insert(key, value); }
+  void setBool(const QString &key, bool value) override { set(key, value); }
   void synchronize() override {}
+
+  /// What somebody, or an older program, has stored.
+  void set(const QString &key, const QVariant &value) { _objects.insert(key, value); }
 
  private:
   QVariantMap _objects;

@@ -6,47 +6,28 @@
 
 namespace {
 
-class Window : public testing::Test {
+class MachineWindowTest : public testing::Test {
  protected:
-  Window() {
-    machine.settle();
-    window.show();
-  }
-
-  void select(const QString &bsdName) {
-    auto *tree = window.findChild<MachineTree *>();
-    tree->setCurrentItem(tree->findItems(bsdName, Qt::MatchExactly | Qt::MatchRecursive).value(0));
-  }
   void press(const QString &title) {
-    for (auto *button : window.findChildren<QAbstractButton *>()) {
-      if (button->text() == title && button->isEnabled()) {
-        QTest::mouseClick(button, Qt::LeftButton);
-        machine.settle();
-        return;
-      }
+    for (auto *button : window.findChildren<QPushButton *>()) {
+      if (button->text() == title) button->click();
     }
-    ADD_FAILURE() << "no button to press: " << title.toStdString();
+    machine.settle();
   }
-  void choose(const QString &label, const QString &choice) {
-    for (auto *button : window.findChildren<ChoiceButton *>()) {
-      if (!button->text().startsWith(label + ": ")) continue;
-      for (QAction *action : button->menu()->actions()) {
-        if (action->text() == choice) action->trigger();
-      }
-      EXPECT_EQ(button->text(), label + ": " + choice);
+  void choose(const QString &name, const QString &choice) {
+    for (auto *box : window.findChildren<QComboBox *>()) {
+      if (box->accessibleName() != name) continue;
+      box->setCurrentText(choice);
+      emit box->activated(box->currentIndex());
+      EXPECT_EQ(box->currentText(), choice) << name.toStdString();
     }
+    machine.settle();
   }
-  void type(const QString &volumeName) {
-    for (auto *field : window.findChildren<QLineEdit *>()) {
-      if (field->accessibleName() == "Volume name") field->setText(volumeName);
-    }
+  QTreeWidgetItem *item(const QString &name) {
+    const auto *tree = window.findChild<MachineTree *>();
+    return tree->findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0);
   }
-  QString column(const QString &bsdName, int column) {
-    return window.findChild<MachineTree *>()
-        ->findItems(bsdName, Qt::MatchExactly | Qt::MatchRecursive)
-        .value(0)
-        ->text(column);
-  }
+  void select(const QString &name) { item(name)->treeWidget()->setCurrentItem(item(name)); }
 
   TestMachine machine{twoEspMachine()};
   MachineWindow window{machine.platform};
@@ -54,32 +35,27 @@ class Window : public testing::Test {
 
 }  // namespace
 
-TEST_F(Window, DoesToTheMachineWhatOthersDo) {
+TEST_F(MachineWindowTest, DoesToTheMachineWhatOthersDo) {
   select("disk0s1");
   press("Mount");
   EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");
-  EXPECT_EQ(column("disk0s1", 3), "mounted at EFI");
-  type("BOOT");
+  window.findChildren<QLineEdit *>().constLast()->setText("BOOT");
   press("Rename");
   EXPECT_EQ(machine.status(), machine.folder("EFI") + " renamed!");
   press("Pull");
   EXPECT_EQ(machine.listed(), QStringList({"disk1s1"}));
+  EXPECT_EQ(item("disk0")->text(3), "pulled");
   press("Plug back");
-  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
-  EXPECT_EQ(column("disk0s1", 2), "BOOT");
-  press("is absent");
+  EXPECT_EQ(item("disk0s1")->text(2), "BOOT");
+  choose("Disk service", "is absent");
   EXPECT_TRUE(machine.listed().isEmpty());
 }
 
-TEST_F(Window, ChoosesHowTheNextRequestsEnd) {
+TEST_F(MachineWindowTest, ChoosesHowTheNextRequestsEnd) {
   select("disk1s1");
   choose("Mount", "not writable");
-  select("disk0s1");
-  choose("Mishap", "disk vanishes during");
-  EXPECT_EQ(column("disk1s1", 4), "mount: not writable");
+  choose("Mishap", "service dies");
+  EXPECT_EQ(item("disk1s1")->text(4), "mount: not writable, service dies");
   machine.click(machine.mountButton(1));
-  EXPECT_EQ(machine.status(), "mount failed for disk1s1, status not writable");
-  machine.click(machine.mountButton(0));
-  EXPECT_EQ(machine.status(), "mount failed for disk0s1, status not found");
-  EXPECT_EQ(column("disk0", 3), "pulled");
+  EXPECT_TRUE(machine.listed().isEmpty());
 }

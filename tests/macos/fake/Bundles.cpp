@@ -1,17 +1,24 @@
-// The program's bundle and those of drivers.
+// The program's bundle, its executable, and the bundles of drivers.
 
 #include <IOKit/kext/KextManager.h>
+#include <mach-o/dyld.h>
 
-#include <filesystem>
+#include <QDir>
 
 #include "macos/fake/World.h"
 
 using namespace fake;
 
+namespace {
+
+CFURLRef urlOf(const QString &path) {
+  return path.isEmpty() ? nullptr : as<CFURLRef>(objectOf(QUrl::fromLocalFile(path)));
+}
+
+}  // namespace
+
 CFURLRef KextManagerCreateURLForBundleIdentifier(CFAllocatorRef, CFStringRef identifier) {
-  const auto &bundles = Machine::current().driverBundles;
-  const auto place = bundles.find(textOf(identifier));
-  return place == bundles.end() ? nullptr : as<CFURLRef>(objectOf(Path{place->second}));
+  return urlOf(Machine::current().driverBundles.value(textOf(identifier)).toString());
 }
 
 CFBundleRef CFBundleGetMainBundle() {
@@ -19,20 +26,26 @@ CFBundleRef CFBundleGetMainBundle() {
   return as<CFBundleRef>(bundle);
 }
 
-CFURLRef CFBundleCopyBundleURL(CFBundleRef bundle) {
-  expect(bundle == CFBundleGetMainBundle());
-  return as<CFURLRef>(objectOf(Path{Machine::current().mainBundle}));
+CFURLRef CFBundleCopyBundleURL(CFBundleRef) {
+  return urlOf(Machine::current().mainBundle);
 }
 
 CFBundleRef CFBundleCreate(CFAllocatorRef, CFURLRef url) {
-  const std::string path = pathOf(url);
-  return std::filesystem::is_directory(path) ? as<CFBundleRef>(make("CFBundle", path)) : nullptr;
+  const QString path = pathOf(url);
+  return QDir(path).exists() ? as<CFBundleRef>(new Object("CFBundle", path)) : nullptr;
 }
 
 CFURLRef CFBundleCopyResourceURL(CFBundleRef bundle, CFStringRef name, CFStringRef type,
                                  CFStringRef) {
-  const std::string base = valueOf<std::string>(bundle, "CFBundle") + "/";
-  const std::string path = "Contents/Resources/" + textOf(name) + "." + textOf(type);
-  // Relative to the bundle: only what resolves it gets a whole path.
-  return std::filesystem::exists(base + path) ? as<CFURLRef>(objectOf(Path{path, base})) : nullptr;
+  const QDir folder(valueOf(bundle, "CFBundle").toString() + "/Contents/Resources");
+  const QString base = textOf(name).isEmpty() ? "*" : textOf(name);
+  const QStringList found = folder.entryList({base + '.' + textOf(type)}, QDir::Files);
+  return found.isEmpty() ? nullptr : urlOf(folder.filePath(found.first()));
+}
+
+int _NSGetExecutablePath(char *buffer, std::uint32_t *size) {
+  const std::string &path = Machine::current().executable;
+  expect(path.size() < *size);
+  buffer[path.copy(buffer, *size - 1)] = 0;
+  return 0;
 }

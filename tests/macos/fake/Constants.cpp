@@ -1,4 +1,4 @@
-// The platform's constants, each from its line in the lists: a text that no program should depend
+// The platform's constants, each from its line in the list: a text that no program should depend
 // on unless it is the service's own key.
 
 #include <CoreServices/CoreServices.h>
@@ -12,35 +12,43 @@ using namespace fake;
 
 /// "DAMediaName" of "MediaNameKey".
 Object *keyOf(const std::string &name) {
-  return makeConstant("CFString", "DA" + name.substr(0, name.size() - std::string("Key").size()));
+  return makeConstant("CFString", "DA" + QString::fromStdString(name).chopped(3));
 }
 
 Object *constant(const std::string &name) {
   const std::string keys = "kDADiskDescription";
-  const std::string watches = keys + "Watch";
   if (name.starts_with("kCFBoolean")) return makeConstant("CFBoolean", name == "kCFBooleanTrue");
-  if (name.starts_with(watches)) {
-    Object *const array = makeConstant("CFArray");
-    array->holds.push_back(keyOf(name.substr(watches.size()) + "Key"));
-    return array;
-  }
-  return name.starts_with(keys) ? keyOf(name.substr(keys.size())) : makeConstant("CFString", name);
+  return name.starts_with(keys) ? keyOf(name.substr(keys.size()))
+                                : makeConstant("CFString", QString::fromStdString(name));
 }
 
 template <class Reference>
 Reference constantOf(const char *name) {
-  constexpr bool isNull =
-      std::is_integral_v<Reference> || std::is_same_v<Reference, CFAllocatorRef>;
+  constexpr bool isNull = std::is_integral_v<Reference> ||
+                          std::is_same_v<Reference, CFAllocatorRef> ||
+                          std::is_same_v<Reference, CFArrayRef>;
   if constexpr (!isNull) return as<Reference>(constant(name));
   return {};
 }
 
+CFArrayRef arrayOf(CFStringRef text) {
+  Object *const array = makeConstant("CFArray");
+  array->holds.push_back(checked(text));
+  return as<CFArrayRef>(array);
+}
+
 }  // namespace
 
+void fake::setWatchKeys(bool areThere) {
+  const auto key = [=](CFStringRef text) { return areThere ? arrayOf(text) : nullptr; };
+  kDADiskDescriptionWatchVolumePath = key(kDADiskDescriptionVolumePathKey);
+  kDADiskDescriptionWatchVolumeName = key(kDADiskDescriptionVolumeNameKey);
+}
+
 #define TYPE(...)
+#define ENUM(...)
 #define INT(...)
 #define STR(...)
 #define FN(...)
-#define REF(type, name) type name = constantOf<std::remove_const_t<type>>(#name);
-#include "macos/api/api-unverified.def"
-#include "macos/api/api-verified.def"
+#define REF(type, name) type name = constantOf<type>(#name);
+#include "Platform/macos/Interface.def"

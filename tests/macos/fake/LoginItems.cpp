@@ -2,8 +2,6 @@
 
 #include <CoreServices/CoreServices.h>
 
-#include <algorithm>
-
 #include "macos/fake/World.h"
 
 using namespace fake;
@@ -14,43 +12,38 @@ constexpr char kItem[] = "LSSharedFileListItem";
 
 LSSharedFileListRef LSSharedFileListCreate(CFAllocatorRef, CFStringRef type, CFTypeRef) {
   expect(type == kLSSharedFileListSessionLoginItems);
-  return Machine::current().hasLoginItemList ? as<LSSharedFileListRef>(make(kList)) : nullptr;
+  return as<LSSharedFileListRef>(new Object(kList));
 }
 
 CFArrayRef LSSharedFileListCopySnapshot(LSSharedFileListRef list, UInt32 *) {
   checked(list, kList);
-  Object *const snapshot = make("CFArray");
-  for (const auto &location : Machine::current().loginItems) {
-    snapshot->holds.push_back(make(kItem, location.value_or("")));
+  auto *const snapshot = new Object("CFArray");
+  for (const QString &location : Machine::current().loginItems) {
+    snapshot->holds.push_back(new Object(kItem, location));
   }
   return as<CFArrayRef>(snapshot);
 }
 
-OSStatus LSSharedFileListItemResolve(LSSharedFileListItemRef item, LSSharedFileListResolutionFlags,
-                                     CFURLRef *url, struct FSRef *) {
-  const auto location = valueOf<std::string>(item, kItem);
-  if (location.empty()) return kFileNotFound;
-  *url = as<CFURLRef>(objectOf(Path{location}));
+OSStatus LSSharedFileListItemResolve(LSSharedFileListItemRef item,
+                                     LSSharedFileListResolutionFlags flags, CFURLRef *url,
+                                     struct FSRef *) {
+  expect(flags == (kLSSharedFileListNoUserInteraction | kLSSharedFileListDoNotMountVolumes));
+  const QString location = valueOf(item, kItem).toString();
+  if (location.isEmpty()) return kFileNotFound;
+  *url = as<CFURLRef>(objectOf(QUrl::fromLocalFile(location)));
   return 0;
 }
 
 LSSharedFileListItemRef LSSharedFileListInsertItemURL(LSSharedFileListRef list,
-                                                      LSSharedFileListItemRef after, CFStringRef,
-                                                      IconRef, CFURLRef url, CFDictionaryRef,
-                                                      CFArrayRef) {
+                                                      LSSharedFileListItemRef, CFStringRef, IconRef,
+                                                      CFURLRef url, CFDictionaryRef, CFArrayRef) {
   checked(list, kList);
-  expect(after == kLSSharedFileListItemLast);
-  if (!Machine::current().takesLoginItems) return nullptr;
-  const std::string location = pathOf(url);
-  Machine::current().loginItems.push_back(location);
-  return as<LSSharedFileListItemRef>(make(kItem, location));
+  Machine::current().loginItems.append(pathOf(url));
+  return as<LSSharedFileListItemRef>(new Object(kItem, pathOf(url)));
 }
 
 OSStatus LSSharedFileListItemRemove(LSSharedFileListRef list, LSSharedFileListItemRef item) {
   checked(list, kList);
-  auto &items = Machine::current().loginItems;
-  const auto entry = std::find(items.begin(), items.end(), valueOf<std::string>(item, kItem));
-  if (entry == items.end()) return kFileNotFound;
-  items.erase(entry);
-  return 0;
+  const QString location = valueOf(item, kItem).toString();
+  return Machine::current().loginItems.removeOne(location) ? 0 : kFileNotFound;
 }

@@ -3,7 +3,7 @@
 #include <libproc.h>
 #include <sys/mount.h>
 
-#include <algorithm>
+#include <cstring>
 
 #include "macos/fake/World.h"
 
@@ -18,21 +18,19 @@ int statfs(const char *path, struct statfs *result) {
 
 int proc_listpidspath(uint32_t type, uint32_t, const char *path, uint32_t pathflags, void *buffer,
                       int buffersize) {
-  expect(type == PROC_ALL_PIDS && pathflags == PROC_LISTPIDSPATH_PATH_IS_VOLUME);
-  const auto &users = Machine::current().processes[path];
-  const std::size_t room = static_cast<std::size_t>(buffersize) / sizeof(int);
-  const std::size_t count = std::min(users.size(), room);
-  for (std::size_t at = 0; at < count; ++at) static_cast<int *>(buffer)[at] = users[at].number;
-  return static_cast<int>(count * sizeof(int));
+  expect(type == PROC_ALL_PIDS &&
+         pathflags == (PROC_LISTPIDSPATH_PATH_IS_VOLUME | PROC_LISTPIDSPATH_EXCLUDE_EVTONLY));
+  std::vector<int> users;
+  for (const auto &[number, process] : Machine::current().processes) {
+    if (process.volume == path) users.push_back(number);
+  }
+  const auto size = std::min(users.size() * sizeof(int), static_cast<std::size_t>(buffersize));
+  std::memcpy(buffer, users.data(), size);
+  return static_cast<int>(size);
 }
 
 int proc_name(int number, void *buffer, uint32_t buffersize) {
   if (buffersize < 32) return 0;  // it insists on room for the longest name
-  for (const auto &[path, users] : Machine::current().processes) {
-    for (const Process &each : users) {
-      if (each.number != number) continue;
-      return static_cast<int>(each.name.copy(static_cast<char *>(buffer), buffersize));
-    }
-  }
-  return 0;
+  const std::string &name = Machine::current().processes.at(number).name;
+  return static_cast<int>(name.copy(static_cast<char *>(buffer), buffersize));
 }

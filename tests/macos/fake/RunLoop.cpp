@@ -1,8 +1,13 @@
 // The run loop of the main thread, which is also Qt's event loop.
 
+#include <dispatch/dispatch.h>
+
 #include <QCoreApplication>
+#include <QThread>
 #include <QTimer>
 #include <algorithm>
+#include <cmath>
+#include <thread>
 
 #include "macos/fake/World.h"
 
@@ -11,6 +16,7 @@ using namespace fake;
 void fake::serve(Mode mode) {
   const auto isServed = [mode](const Delivery &each) {
     const Session *const session = each.session;
+    if (session != nullptr && session->isDead) return false;
     if (session == nullptr || session->modes.contains("kCFRunLoopCommonModes")) return true;
     return mode == Mode::Default && session->modes.contains("kCFRunLoopDefaultMode");
   };
@@ -37,31 +43,47 @@ CFRunLoopRef CFRunLoopGetMain() {
   static Object *const loop = makeConstant("CFRunLoop");
   return as<CFRunLoopRef>(loop);
 }
-CFRunLoopRef CFRunLoopGetCurrent() {
-  return CFRunLoopGetMain();
+
+dispatch_queue_global_t dispatch_get_global_queue(intptr_t, uintptr_t) {
+  return nullptr;
 }
 
-// Qt's timers and posted events run in a nested run of the loop as well, but no user's input.
-void CFRunLoopRun() {
+// On a thread of its own, and waited for, so that only one is ever at work.
+void dispatch_async_f(dispatch_queue_t, void *context, dispatch_function_t work) {
+  post(nullptr, [=] { std::thread(work, context).join(); });
+}
+
+namespace {
+
+/// Whether it was stopped before the time was over. Qt's timers and posted events run in a nested
+/// run of the loop as well, but no user's input.
+bool runFor(std::chrono::milliseconds time) {
   auto &runs = world().runs;
   runs.push_back(false);
-  QTimer patience;
-  patience.setSingleShot(true);
-  patience.start(Machine::current().patience);
-  while (!runs.back() && patience.isActive()) {
+  QTimer end;
+  end.setSingleShot(true);
+  end.start(time);
+  while (!runs.back() && end.isActive()) {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                     QEventLoop::WaitForMoreEvents);
   }
-  if (!runs.back()) report("A run of the run loop that nothing is left to stop: a Mac would hang");
+  const bool isStopped = runs.back();
   runs.pop_back();
+  return isStopped;
+}
+
+}  // namespace
+
+void CFRunLoopRun() {
+  constexpr std::chrono::seconds kPatience(5);
+  const bool isStopped = runFor(kPatience);
+  if (!isStopped) report("A run of the run loop that nothing is left to stop: a Mac would hang");
 }
 
 CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode mode, CFTimeInterval seconds, Boolean) {
-  expect(mode == kCFRunLoopDefaultMode && seconds <= 0);
-  world().runs.push_back(false);
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  world().runs.pop_back();
-  return kCFRunLoopRunTimedOut;
+  expect(mode == kCFRunLoopDefaultMode);
+  return runFor(std::chrono::milliseconds(std::lround(1000 * seconds))) ? kCFRunLoopRunStopped
+                                                                        : kCFRunLoopRunTimedOut;
 }
 
 void CFRunLoopStop(CFRunLoopRef loop) {

@@ -1,49 +1,49 @@
 // Texts, numbers, collections and their like.
 
-#include <QString>
+#include <QUuid>
 #include <cstring>
 
 #include "macos/fake/World.h"
 
 using namespace fake;
 
-Object *fake::objectOf(const Value &value, const char *maker) {
-  constexpr const char *kTypes[] = {"CFString", "CFBoolean", "CFNumber",
-                                    "CFURL",    "CFUUID",    "CFDictionary"};
-  Object *const object = make(kTypes[value.index()], value, maker);
-  if (const auto *values = std::get_if<Dictionary>(&value)) {
-    for (const auto &[key, each] : *values) object->holds.push_back(objectOf(each, maker));
-  }
-  return object;
-}
-
-std::string fake::textOf(const void *string, const char *function) {
-  return valueOf<std::string>(string, "CFString", function);
-}
-
-std::string fake::pathOf(const void *url, const char *function) {
-  const auto path = valueOf<Path>(url, "CFURL", function);
-  return path.base + path.text;
-}
-
 namespace {
+
+const std::map<int, const char *> kTypes = {
+    {QMetaType::QString, "CFString"}, {QMetaType::Bool, "CFBoolean"},
+    {QMetaType::Int, "CFNumber"},     {QMetaType::QUrl, "CFURL"},
+    {QMetaType::QUuid, "CFUUID"},     {QMetaType::QVariantMap, "CFDictionary"}};
 
 CFTypeID typeId(std::string_view type) {
   return std::hash<std::string_view>()(type);
 }
 
 /// As many bytes as there are, and the NUL behind them.
-Boolean copyWithNul(const std::string &text, void *buffer, CFIndex size) {
-  if (size <= static_cast<CFIndex>(text.size())) return false;
-  std::memcpy(buffer, text.c_str(), text.size() + 1);
+Boolean copyWithNul(const QByteArray &text, void *buffer, CFIndex size) {
+  if (size <= text.size()) return false;
+  std::memcpy(buffer, text.constData(), static_cast<std::size_t>(text.size()) + 1);
   return true;
 }
 
-std::string stringOf(const unsigned char *bytes, CFIndex count) {
-  return {reinterpret_cast<const char *>(bytes), static_cast<std::size_t>(count)};
+QByteArray bytesOf(const unsigned char *bytes, CFIndex count) {
+  return {reinterpret_cast<const char *>(bytes), count};
 }
 
 }  // namespace
+
+Object *fake::objectOf(const QVariant &value) {
+  auto *const object = new Object(kTypes.at(value.typeId()), value);
+  for (const QVariant &each : value.toMap()) object->holds.push_back(objectOf(each));
+  return object;
+}
+
+QString fake::textOf(const void *string, const char *function) {
+  return valueOf(string, "CFString", function).toString();
+}
+
+QString fake::pathOf(const void *url, const char *function) {
+  return valueOf(url, "CFURL", function).toUrl().toLocalFile();
+}
 
 #define TYPE_ID(Type)          \
   CFTypeID Type##GetTypeID() { \
@@ -63,13 +63,11 @@ CFTypeID CFGetTypeID(CFTypeRef reference) {
 
 CFStringRef CFStringCreateWithBytes(CFAllocatorRef, const unsigned char *bytes, CFIndex count,
                                     CFStringEncoding, Boolean) {
-  const std::string text = stringOf(bytes, count);
-  const bool isUtf8 = QString::fromStdString(text).toStdString() == text;
-  return isUtf8 ? as<CFStringRef>(objectOf(text)) : nullptr;
+  return as<CFStringRef>(objectOf(QString::fromUtf8(bytesOf(bytes, count))));
 }
 
 CFIndex CFStringGetLength(CFStringRef string) {
-  return QString::fromStdString(textOf(string)).size();
+  return textOf(string).size();
 }
 
 CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding) {
@@ -77,17 +75,17 @@ CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding) {
 }
 
 Boolean CFStringGetCString(CFStringRef string, char *buffer, CFIndex size, CFStringEncoding) {
-  return checked(string, "CFString") != nullptr && copyWithNul(textOf(string), buffer, size);
+  return copyWithNul(textOf(string).toUtf8(), buffer, size);
 }
 
 Boolean CFNumberGetValue(CFNumberRef number, CFNumberType type, void *value) {
   expect(type == kCFNumberSInt64Type);
-  *static_cast<std::int64_t *>(value) = valueOf<std::int64_t>(number, "CFNumber");
+  *static_cast<std::int64_t *>(value) = valueOf(number, "CFNumber").toInt();
   return true;
 }
 
 Boolean CFBooleanGetValue(CFBooleanRef boolean) {
-  return valueOf<bool>(boolean, "CFBoolean");
+  return valueOf(boolean, "CFBoolean").toBool();
 }
 
 CFIndex CFArrayGetCount(CFArrayRef array) {
@@ -97,31 +95,29 @@ CFIndex CFArrayGetCount(CFArrayRef array) {
 
 const void *CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index) {
   const bool isThere = index >= 0 && index < CFArrayGetCount(array);
-  if (isThere) return checked(array)->holds[static_cast<std::size_t>(index)];
-  report("CFArrayGetValueAtIndex: there is no element " + std::to_string(index));
-  return nullptr;
+  expect(isThere);
+  return isThere ? checked(array)->holds[static_cast<std::size_t>(index)] : nullptr;
 }
 
 const void *CFDictionaryGetValue(CFDictionaryRef dictionary, const void *key) {
-  const auto values = valueOf<Dictionary>(dictionary, "CFDictionary");
-  const auto place = values.find(textOf(key));
-  if (place == values.end()) return nullptr;
-  return *std::next(checked(dictionary)->holds.begin(), std::distance(values.begin(), place));
+  const QStringList keys = valueOf(dictionary, "CFDictionary").toMap().keys();
+  const qsizetype place = keys.indexOf(textOf(key));
+  return place < 0 ? nullptr : checked(dictionary)->holds[static_cast<std::size_t>(place)];
 }
 
 CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const unsigned char *bytes,
                                                  CFIndex count, Boolean) {
-  std::string path = stringOf(bytes, count);
-  if (path.size() > 1 && path.ends_with('/')) path.pop_back();
-  return path.empty() ? nullptr : as<CFURLRef>(objectOf(Path{path}));
+  const QUrl url = QUrl::fromLocalFile(QString::fromUtf8(bytesOf(bytes, count)));
+  return count == 0 ? nullptr : as<CFURLRef>(objectOf(url.adjusted(QUrl::StripTrailingSlash)));
 }
 
 Boolean CFURLGetFileSystemRepresentation(CFURLRef url, Boolean resolveAgainstBase,
                                          unsigned char *buffer, CFIndex size) {
-  const std::string path = resolveAgainstBase ? pathOf(url) : valueOf<Path>(url, "CFURL").text;
-  return !path.empty() && copyWithNul(path, buffer, size);
+  expect(resolveAgainstBase);
+  return copyWithNul(pathOf(url).toUtf8(), buffer, size);
 }
 
 CFStringRef CFUUIDCreateString(CFAllocatorRef, CFUUIDRef uuid) {
-  return as<CFStringRef>(objectOf(valueOf<Uuid>(uuid, "CFUUID").text));
+  const QUuid value = valueOf(uuid, "CFUUID").toUuid();
+  return as<CFStringRef>(objectOf(value.toString(QUuid::WithoutBraces).toUpper()));
 }

@@ -1,11 +1,14 @@
 #pragma once
 
-// Whether the person likes windows light or dark, as the desktop's portal tells it.
+// Whether the person likes windows light or dark, and in which accent colour, as the desktop's portal tells it.
 
-#include <QDBusConnection>
+#include <QColor>
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
 #include <QObject>
+#include <optional>
+
+#include "Platform/linux/MessageBus.h"
 
 class ColorScheme final : public QObject {
   Q_OBJECT
@@ -13,11 +16,14 @@ class ColorScheme final : public QObject {
  public:
   enum class Preference : uint { None = 0, Dark = 1, Light = 2 };
 
-  /// Asks at once; what the portal says becomes known later.
-  explicit ColorScheme(const QDBusConnection &bus);
+  /// What the portal says becomes known later. `bus` must outlive this.
+  explicit ColorScheme(MessageBus &bus);
 
   /// `None` also while there is no portal that has answered.
   Preference preference() const { return _preference; }
+
+  /// Absent where the portal knows of none.
+  std::optional<QColor> accent() const { return _accent; }
 
  signals:
   void changed();
@@ -27,9 +33,12 @@ class ColorScheme final : public QObject {
   void settingChanged(const QDBusMessage &change);
 
  private:
-  void take(const QVariant &value);
+  void start();
+  void askFor(const QString &key);
+  void take(const QString &key, const QVariant &value);
 
-  QDBusConnection _bus;
+  MessageBus &_bus;
   QDBusServiceWatcher _portal;
   Preference _preference = Preference::None;
+  std::optional<QColor> _accent;
 };

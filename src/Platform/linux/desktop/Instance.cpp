@@ -2,41 +2,74 @@
 
 #include <QDBusMessage>
 #include <QDBusReply>
+#include <QGuiApplication>
 
 #include "Foundation/SystemLog.h"
+#include "Platform/Desktop.h"
+#include "Platform/linux/desktop/Notifications.h"
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int kPatienceInMilliseconds = 2500;  // for each question
+// The bus itself answers at once; another program may be busy.
+constexpr auto kPatienceWithBus = 500ms;
+constexpr auto kPatienceWithProgram = 1500ms;
+
 const QString kBus = u"org.freedesktop.DBus"_s;
 const QString kApplication = u"org.freedesktop.Application"_s;
 
+QDBusMessage questionForBus(const QString &method, const QVariantList &arguments) {
+  auto question = QDBusMessage::createMethodCall(kBus, u"/org/freedesktop/DBus"_s, kBus, method);
+  question.setArguments(arguments);
+  return question;
+}
+
+QDBusMessage answer(const QDBusConnection &bus, const QDBusMessage &question,
+                    std::chrono::milliseconds patience) {
+  return bus.call(question, QDBus::Block, static_cast<int>(patience.count()));
+}
+
 }  // namespace
 
-Instance::Instance(const QDBusConnection &bus, const QString &serviceName)
+Instance::Instance(MessageBus &bus, const QString &serviceName)
     : _bus(bus), _serviceName(serviceName), _path(u'/' + QString(serviceName).replace(u'.', u'/')) {
   new InstanceInterface(*this);
 }
 
 bool Instance::claim() {
-  if (!_bus.isConnected()) return true;
-  // Before the name is ours, so that nobody finds it without the object.
-  _bus.registerObject(_path, this, QDBusConnection::ExportAdaptors);
-  // The other one may be ending just now, and leave us the name.
-  return !isTaken() || (!activateOther() && !isTaken());
+  bool isOnly = true;
+  if (_bus.waitForConnection(kPatienceWithBus)) {
+    exportObject();
+    // The other one may be ending just now, and leave us the name.
+    isOnly = !isTaken() || (!activateOther() && !isTaken());
+  }
+  connect(&_bus, &MessageBus::connected, this, &Instance::claimAgain);
+  return isOnly;
+}
+
+// Before the name is ours, so that nobody finds it without the object.
+void Instance::exportObject() {
+  _bus.connection().registerObject(_path, this, QDBusConnection::ExportAdaptors);
+}
+
+// One that was started meanwhile keeps the name; ours is it when that one ends.
+void Instance::claimAgain() {
+  exportObject();
+  _bus.connection().asyncCall(requestForName(true));
+}
+
+QDBusMessage Instance::requestForName(bool waitsInQueue) const {
+  constexpr uint kDoNotQueue = 4;
+  return questionForBus(u"RequestName"_s, {_serviceName, waitsInQueue ? 0 : kDoNotQueue});
 }
 
 bool Instance::isTaken() const {
-  auto request =
-      QDBusMessage::createMethodCall(kBus, u"/org/freedesktop/DBus"_s, kBus, u"RequestName"_s);
-  constexpr uint kDoNotQueue = 4;
   constexpr uint kTaken = 3;
-  request << _serviceName << kDoNotQueue;
-  const QDBusReply<uint> answer = _bus.call(request, QDBus::Block, kPatienceInMilliseconds);
-  if (answer.isValid()) return answer.value() == kTaken;
-  systemLog(u"the session does not tell whether Keldra runs: "_s + answer.error().message());
+  const QDBusReply<uint> reply = answer(_bus.connection(), requestForName(false), kPatienceWithBus);
+  if (reply.isValid()) return reply.value() == kTaken;
+  systemLog(u"the session does not tell whether Keldra runs: "_s + reply.error().message());
   return false;
 }
 
@@ -50,15 +83,30 @@ bool Instance::activateOther() const {
     if (!token.isEmpty()) platformData.insert(u"activation-token"_s, token);
   }
   activate << platformData;
-  const QDBusError error = _bus.call(activate, QDBus::Block, kPatienceInMilliseconds);
+  const QDBusError error(answer(_bus.connection(), activate, kPatienceWithProgram));
   if (error.type() == QDBusError::ServiceUnknown) return false;
-  if (error.isValid()) systemLog(u"Keldra runs, but does not answer: "_s + error.message());
+  if (error.isValid()) tellOfSilentOther();
   return true;
+}
+
+void Instance::tellOfSilentOther() const {
+  const QDBusReply<uint> process =
+      answer(_bus.connection(), questionForBus(u"GetConnectionUnixProcessID"_s, {_serviceName}),
+             kPatienceWithBus);
+  const QString text = Desktop::tr(
+                           "Keldra is running already, but does not answer. End process %1 "
+                           "and start Keldra again.")
+                           .arg(process.value());
+  systemLog(text);
+  answer(_bus.connection(), notificationCall(QGuiApplication::applicationDisplayName(), text),
+         kPatienceWithBus);
 }
 
 void InstanceInterface::Activate(const QVariantMap &platformData) {
   const QString token = platformData.value(u"activation-token"_s).toString();
+  // With a variable that is too long no other program could be started.
+  constexpr qsizetype kLongest = 1000;
   // The window that is shown next finds it there.
-  if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+  if (!token.isEmpty() && token.size() <= kLongest) qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
   emit _instance.activated();
 }

@@ -5,28 +5,36 @@
 // (org.freedesktop.Application).
 
 #include <QDBusAbstractAdaptor>
-#include <QDBusConnection>
 #include <QObject>
 #include <QVariantMap>
+
+#include "Platform/linux/MessageBus.h"
 
 class Instance final : public QObject {
   Q_OBJECT
 
  public:
-  Instance(const QDBusConnection &bus, const QString &serviceName);
+  /// `bus` must outlive this.
+  Instance(MessageBus &bus, const QString &serviceName);
 
-  /// NO when another instance has the name; that one has been asked to show itself. YES where there
-  /// is no bus. Blocks for some seconds at the most.
+  /// False when another instance has the name; that one has been asked to show itself, and the
+  /// person is told if it does not answer. True where there is no bus, or none that answers. Once
+  /// it is true, the name is claimed again whenever the bus has come back. Blocks for three seconds
+  /// at most.
   bool claim();
 
  signals:
   void activated();
 
  private:
+  void exportObject();
+  void claimAgain();
+  QDBusMessage requestForName(bool waitsInQueue) const;
   bool isTaken() const;
   bool activateOther() const;
+  void tellOfSilentOther() const;
 
-  QDBusConnection _bus;
+  MessageBus &_bus;
   QString _serviceName;
   QString _path;
 };

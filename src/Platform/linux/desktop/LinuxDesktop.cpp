@@ -2,26 +2,46 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QDBusConnection>
 #include <QEvent>
 #include <QPalette>
 #include <QPointer>
 
 #include "Platform/common/ActivationMonitor.h"
+#include "Platform/common/DarkPalette.h"
 #include "Platform/linux/desktop/ColorScheme.h"
 #include "Platform/linux/desktop/Instance.h"
 #include "Platform/linux/desktop/LinuxTrayItem.h"
 #include "Platform/linux/desktop/Notifications.h"
+#include "Platform/linux/desktop/PlaceOfClick.h"
+#include "Platform/linux/desktop/SessionStart.h"
 #include "Platform/linux/desktop/XInputMonitor.h"
+#include "Platform/linux/desktop/XSettings.h"
+#include "Platform/linux/desktop/XcbWindows.h"
 
 namespace {
 
-// About half of a tray's item, whose last click's place may be all that is known of it.
-constexpr int kHalfAnItem = 12;
+// A tray's item, whose last click's place may be all that is known of it where a panel hides itself.
+constexpr int kAnItem = 24;
 
-bool hasDarkPalette() {
-  return QApplication::palette().color(QPalette::Window).lightnessF() < 0.5F;
-}
+/// Qt, too, has questions for the session's bus, and would wait for one that is frozen: then it
+/// finds none, for as long as the program runs.
+class HiddenBus {
+ public:
+  HiddenBus() {
+    if (MessageBus::isFrozen(MessageBus::sessionAddress())) qputenv(kVariable, "unix:path=/");
+  }
+  ~HiddenBus() {
+    if (qgetenv(kVariable) == _address) return;
+    QDBusConnection::sessionBus();  // from now on it is what it is now
+    _address.isNull() ? qunsetenv(kVariable) : qputenv(kVariable, _address);
+  }
+  HiddenBus(const HiddenBus &) = delete;
+  HiddenBus &operator=(const HiddenBus &) = delete;
+
+ private:
+  static constexpr const char *kVariable = "DBUS_SESSION_BUS_ADDRESS";
+  const QByteArray _address = qgetenv(kVariable);
+};
 
 class LinuxDesktop final : public Desktop {
  public:
@@ -32,6 +52,7 @@ class LinuxDesktop final : public Desktop {
       if (_scheme.preference() == ColorScheme::Preference::None) QApplication::setPalette({});
       emit interfaceThemeChanged();
     });
+    connect(&_xSettings, &XSettings::changed, this, &Desktop::interfaceThemeChanged);
     qApp->installEventFilter(this);
   }
 
@@ -43,7 +64,10 @@ class LinuxDesktop final : public Desktop {
 
   std::unique_ptr<EventMonitor> addGlobalMonitor(std::function<void()> handler) override {
     if (QGuiApplication::platformName() == QLatin1String("xcb")) {
-      if (auto monitor = XInputMonitor::make(handler, [this] { return isOurPress(); })) {
+      if (auto monitor = XInputMonitor::make(handler, [this] { return pressedOn(); })) {
+        if (_trayItem) {
+          connect(_trayItem, &TrayItem::activated, monitor.get(), &XInputMonitor::itemClicked);
+        }
         return monitor;
       }
     }
@@ -53,9 +77,22 @@ class LinuxDesktop final : public Desktop {
   QVariant interfaceStyle() const override {
     using enum ColorScheme::Preference;
     // Without a word from the person, what the desktop gives to its programs.
-    const bool dark =
-        _scheme.preference() == None ? hasDarkPalette() : _scheme.preference() == Dark;
+    const bool dark = _scheme.preference() == None ? hasDarkTheme() : _scheme.preference() == Dark;
     return dark ? QVariant(QStringLiteral("Dark")) : QVariant();
+  }
+
+  bool wasStartedAtLogin() const override { return _startedAtLogin; }
+
+  QString adviceWithoutTray() const override {
+    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME"))) {
+      return Desktop::tr(
+          "GNOME shows no tray icons by itself. Install and switch on the extension "
+          "“AppIndicator and KStatusNotifierItem Support” to see Keldra's. Until "
+          "then, start Keldra once more to open this window.");
+    }
+    return Desktop::tr(
+        "No panel here shows tray icons. Add a tray, or “status notifier”, to a panel "
+        "to see Keldra's. Until then, start Keldra once more to open this window.");
   }
 
   Facts facts() const override {
@@ -73,29 +110,56 @@ class LinuxDesktop final : public Desktop {
   }
 
   void notify(const QString &title, const QString &text, TrayItem &item) override {
-    sendNotification(_bus, title, text, [title, text, tray = QPointer(&item)] {
+    sendNotification(_bus.connection(), title, text, [title, text, tray = QPointer(&item)] {
       if (tray) tray->showMessage(title, text);
     });
   }
 
   bool becomeOnlyInstance() override { return _instance.claim(); }
 
+  WindowAbilities windowAbilities() const override { return windowAbilitiesNow(); }
+  void keepOutOfTaskbar(const QWidget &window) const override { keepOutOfXcbTaskbar(window); }
+
+  std::optional<QColor> accentColor() const override { return _scheme.accent(); }
+
  private:
-  bool isOurPress() const {
-    const QPoint pointer = QCursor::pos();
-    if (QApplication::topLevelAt(pointer)) return true;
-    const QRect item = _trayItem ? _trayItem->place() : QRect();
-    return !item.isNull() &&
-           item.adjusted(-kHalfAnItem, -kHalfAnItem, kHalfAnItem, kHalfAnItem).contains(pointer);
+  bool hasDarkTheme() const {
+    const QString theme = _xSettings.themeName();
+    return theme.isEmpty() ? hasDarkWindows(QApplication::palette()) : isDarkThemeName(theme);
   }
 
-  QDBusConnection _bus = QDBusConnection::sessionBus();
+  XInputMonitor::On pressedOn() const {
+    const QPoint pointer = QCursor::pos();
+    if (QApplication::topLevelAt(pointer)) return XInputMonitor::On::Ours;
+    const QRect item = _trayItem ? _trayItem->place() : QRect();
+    const bool isAtItem =
+        !item.isNull() && item.adjusted(-kAnItem, -kAnItem, kAnItem, kAnItem).contains(pointer);
+    return isAtItem || isOnPanel(pointer, screenAreas()) ? XInputMonitor::On::Panel
+                                                         : XInputMonitor::On::Other;
+  }
+
+  MessageBus _bus{MessageBus::sessionAddress()};
   Instance _instance;
   ColorScheme _scheme;
+  XSettings _xSettings;
   QPointer<TrayItem> _trayItem;
+  const bool _startedAtLogin = wasStartedBySession();
 };
 
 }  // namespace
+
+std::unique_ptr<QApplication> makeApplication(int &argc, char **argv) {
+  constexpr const char *kPlatform = "QT_QPA_PLATFORM";
+  // Natively on Wayland, no program may place a window, keep it above others or out of their lists, and a popover
+  // needs all of that. Where the X server does not answer, the next in the list serves.
+  const bool isOurChoice =
+      qEnvironmentVariableIsEmpty(kPlatform) && !qEnvironmentVariableIsEmpty("DISPLAY");
+  if (isOurChoice) qputenv(kPlatform, "xcb;wayland");
+  const HiddenBus hidden;
+  auto application = std::make_unique<QApplication>(argc, argv);
+  if (isOurChoice) qunsetenv(kPlatform);
+  return application;
+}
 
 std::unique_ptr<Desktop> makeDesktop(const QString &serviceName) {
   return std::make_unique<LinuxDesktop>(serviceName);

@@ -1,13 +1,18 @@
 #include "Platform/linux/desktop/LinuxTrayItem.h"
 
 #include <QGuiApplication>
+#include <utility>
 
 #include "Platform/common/QtTrayItem.h"
 #include "Platform/linux/desktop/NotifierItem.h"
+#include "Platform/linux/desktop/StatusPictures.h"
 
-LinuxTrayItem::LinuxTrayItem(const QDBusConnection &sessionBus) : _bus(sessionBus), _hosts(_bus) {
+LinuxTrayItem::LinuxTrayItem(MessageBus &sessionBus) : _bus(sessionBus), _hosts(_bus) {
   registerNotifierTypes();
   connect(&_hosts, &NotifierHosts::answered, this, &LinuxTrayItem::follow);
+  connect(&_bus, &MessageBus::lost, this, [this] {
+    if (std::exchange(_notifier, nullptr) != nullptr) _item.reset();
+  });
 }
 
 LinuxTrayItem::~LinuxTrayItem() = default;
@@ -19,7 +24,7 @@ void LinuxTrayItem::follow(bool notifierHostIsPresent) {
     return;
   }
   if (_notifier == nullptr) {
-    auto item = std::make_unique<NotifierItem>(_bus);
+    auto item = std::make_unique<NotifierItem>(_bus.connection());
     _notifier = item.get();
     use(std::move(item));
   }
@@ -36,12 +41,18 @@ void LinuxTrayItem::use(std::unique_ptr<TrayItem> item) {
   _item = std::move(item);
   connect(_item.get(), &TrayItem::activated, this, &TrayItem::activated);
   _item->setMenu(_menu);
-  if (!_image.isNull()) _item->setImage(_image);
+  if (_hasImage) _item->setImage(statusPicture());
+  _item->setHighlighted(_highlighted);
 }
 
-void LinuxTrayItem::setImage(const QIcon &image) {
-  _image = image;
-  if (_item) _item->setImage(image);
+void LinuxTrayItem::setImage(const QIcon & /*image*/) {
+  if (std::exchange(_hasImage, true)) return;
+  if (_item) _item->setImage(statusPicture());
+}
+
+void LinuxTrayItem::setHighlighted(bool highlighted) {
+  _highlighted = highlighted;
+  if (_item) _item->setHighlighted(highlighted);
 }
 
 void LinuxTrayItem::setMenu(QMenu *menu) {
@@ -51,6 +62,10 @@ void LinuxTrayItem::setMenu(QMenu *menu) {
 
 QRect LinuxTrayItem::place() const {
   return _item ? _item->place() : QRect();
+}
+
+bool LinuxTrayItem::isShown() const {
+  return _item && _item->isShown();
 }
 
 QString LinuxTrayItem::kind() const {

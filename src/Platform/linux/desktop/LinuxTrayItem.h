@@ -15,12 +15,16 @@ class NotifierItem;
 
 class LinuxTrayItem final : public TrayItem {
  public:
-  explicit LinuxTrayItem(const QDBusConnection &sessionBus);
+  /// `sessionBus` must outlive this.
+  explicit LinuxTrayItem(MessageBus &sessionBus);
   ~LinuxTrayItem() override;
 
+  /// Shows a picture of the backend's own, for panels of any colour, in its place.
   void setImage(const QIcon &image) override;
+  void setHighlighted(bool highlighted) override;
   void setMenu(QMenu *menu) override;
   QRect place() const override;
+  bool isShown() const override;
   QString kind() const override;
   void showMessage(const QString &title, const QString &text) override;
 
@@ -29,11 +33,12 @@ class LinuxTrayItem final : public TrayItem {
   void useTrayOfX11();
   void use(std::unique_ptr<TrayItem> item);
 
-  QDBusConnection _bus;
+  MessageBus &_bus;
   NotifierHosts _hosts;
   /// Null where there is no tray, and until the desktop has told what it has.
   std::unique_ptr<TrayItem> _item;
   NotifierItem *_notifier = nullptr;  // _item, when it is one
-  QIcon _image;
+  bool _hasImage = false;
+  bool _highlighted = false;
   QPointer<QMenu> _menu;
 };

@@ -1,13 +1,11 @@
 #include "Platform/linux/desktop/Notifications.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
-void sendNotification(const QDBusConnection &bus, const QString &title, const QString &text,
-                      std::function<void()> otherwise) {
+QDBusMessage notificationCall(const QString &title, const QString &text) {
   const QString service = u"org.freedesktop.Notifications"_s;
   auto call = QDBusMessage::createMethodCall(service, u"/org/freedesktop/Notifications"_s, service,
                                              u"Notify"_s);
@@ -16,7 +14,12 @@ void sendNotification(const QDBusConnection &bus, const QString &title, const QS
   call << QGuiApplication::applicationDisplayName() << kReplacesNone
        << QGuiApplication::desktopFileName() << title << text << QStringList()
        << QVariantMap{{u"desktop-entry"_s, QGuiApplication::desktopFileName()}} << kDesktopsChoice;
-  auto *reply = new QDBusPendingCallWatcher(bus.asyncCall(call));
+  return call;
+}
+
+void sendNotification(const QDBusConnection &bus, const QString &title, const QString &text,
+                      std::function<void()> otherwise) {
+  auto *reply = new QDBusPendingCallWatcher(bus.asyncCall(notificationCall(title, text)));
   QObject::connect(reply, &QDBusPendingCallWatcher::finished, reply,
                    [reply, otherwise = std::move(otherwise)] {
                      reply->deleteLater();

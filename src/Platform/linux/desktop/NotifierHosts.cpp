@@ -8,13 +8,22 @@
 
 using namespace Qt::StringLiterals;
 
-NotifierHosts::NotifierHosts(const QDBusConnection &bus)
-    : _bus(bus), _owner(kNotifierWatcher, _bus, QDBusServiceWatcher::WatchForOwnerChange) {
+NotifierHosts::NotifierHosts(MessageBus &bus) : _bus(bus) {
+  _owner.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
+  _owner.addWatchedService(kNotifierWatcher);
   connect(&_owner, &QDBusServiceWatcher::serviceOwnerChanged, this, &NotifierHosts::ask);
+  connect(&_bus, &MessageBus::connected, this, &NotifierHosts::start);
+  connect(&_bus, &MessageBus::missing, this, [this] { emit answered(false); });
+  if (_bus.connection().isConnected()) start();
+}
+
+void NotifierHosts::start() {
+  QDBusConnection bus = _bus.connection();
+  _owner.setConnection(bus);
   for (const QString &change :
        {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s}) {
-    _bus.connect(kNotifierWatcher, kNotifierWatcherPath, kNotifierWatcher, change, this,
-                 SLOT(ask()));
+    bus.connect(kNotifierWatcher, kNotifierWatcherPath, kNotifierWatcher, change, this,
+                SLOT(ask()));
   }
   ask();
 }
@@ -24,11 +33,15 @@ void NotifierHosts::ask() {
                                                  u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
   question << kNotifierWatcher << u"IsStatusNotifierHostRegistered"_s;
   question.setAutoStartService(false);
-  _asking = new QDBusPendingCallWatcher(_bus.asyncCall(question), this);
-  connect(_asking, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *call) {
-    call->deleteLater();
-    if (call != _asking) return;  // things have changed since
-    const QDBusPendingReply<QDBusVariant> reply = *call;
-    emit answered(!reply.isError() && reply.value().variant().toBool());
-  });
+  _asking = new QDBusPendingCallWatcher(_bus.connection().asyncCall(question), this);
+  connect(_asking, &QDBusPendingCallWatcher::finished, this, &NotifierHosts::takeAnswer);
+}
+
+void NotifierHosts::takeAnswer(QDBusPendingCallWatcher *call) {
+  call->deleteLater();
+  if (call != _asking || !_bus.connection().isConnected()) return;  // things have changed since
+  const QDBusPendingReply<QDBusVariant> reply = *call;
+  // A panel that is frozen is there all the same, and Qt would wait for it to find that out.
+  if (reply.error().type() == QDBusError::NoReply) return ask();
+  emit answered(!reply.isError() && reply.value().variant().toBool());
 }

@@ -2,9 +2,10 @@
 
 // Whether the desktop has a panel that speaks the StatusNotifierItem protocol, now and from now on.
 
-#include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
+
+#include "Platform/linux/MessageBus.h"
 
 class QDBusPendingCallWatcher;
 
@@ -12,8 +13,8 @@ class NotifierHosts : public QObject {
   Q_OBJECT
 
  public:
-  /// Asks at once and answers later.
-  explicit NotifierHosts(const QDBusConnection &bus);
+  /// Answers later. `bus` must outlive this.
+  explicit NotifierHosts(MessageBus &bus);
 
  signals:
   /// What is so now; also when it is so again, because another panel has taken over.
@@ -23,7 +24,10 @@ class NotifierHosts : public QObject {
   void ask();
 
  private:
-  QDBusConnection _bus;
+  void start();
+  void takeAnswer(QDBusPendingCallWatcher *call);
+
+  MessageBus &_bus;
   QDBusServiceWatcher _owner;
   QDBusPendingCallWatcher *_asking = nullptr;  // the last question
 };

@@ -1,10 +1,13 @@
 #include "Platform/linux/desktop/NotifierItem.h"
 
 #include <QCoreApplication>
-#include <QCursor>
 #include <QDBusMessage>
 #include <QGuiApplication>
-#include <QScreen>
+#include <utility>
+
+#include "Platform/common/QtTrayItem.h"
+#include "Platform/linux/desktop/PlaceOfClick.h"
+#include "Platform/linux/desktop/StatusPictures.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,29 +16,8 @@ namespace {
 const QString kItemPath = u"/StatusNotifierItem"_s;
 const QString kMenuPath = u"/MenuBar"_s;
 
-// The window system's coordinates, which do not know of scaling, as Qt's. Screens keep their
-// origins in both. Absent where there is no screen.
-std::optional<QPoint> scaledPlace(const QPoint &native) {
-  for (const QScreen *screen : QGuiApplication::screens()) {
-    const qreal ratio = screen->devicePixelRatio();
-    const QPoint origin = screen->geometry().topLeft();
-    const QRect place(origin, (QSizeF(screen->geometry().size()) * ratio).toSize());
-    if (place.contains(native)) return origin + (QPointF(native - origin) / ratio).toPoint();
-  }
-  return std::nullopt;
-}
-
-// A panel tells the place in the window system's units or in scaled ones, and does not say which: the
-// pointer tells, where a program may know it. Panels that do not know the place say 0, 0.
-QRect placeOfClick(const QPoint &told) {
-  const QPoint pointer = QCursor::pos();
-  const QPoint scaled = scaledPlace(told).value_or(told);
-  const auto distance = [&pointer](const QPoint &place) {
-    return (place - pointer).manhattanLength();
-  };
-  QPoint place = distance(told) < distance(scaled) ? told : scaled;
-  if (told.isNull()) place = pointer;
-  return place.isNull() ? QRect() : QRect(place, QSize(1, 1));
+QRect pointRect(const QPoint &place) {
+  return {place, QSize(1, 1)};
 }
 
 }  // namespace
@@ -43,7 +25,8 @@ QRect placeOfClick(const QPoint &told) {
 NotifierItem::NotifierItem(const QDBusConnection &bus)
     : _bus(bus),
       _exportedMenu(new NotifierMenu(&_menuObject)),
-      _exported(new NotifierInterface(*this)) {
+      _exported(new NotifierInterface(*this)),
+      _iconFolder(statusPictureFolder()) {
   _bus.registerObject(kItemPath, this, QDBusConnection::ExportAdaptors);
   _bus.registerObject(kMenuPath, &_menuObject, QDBusConnection::ExportAdaptors);
 }
@@ -61,8 +44,20 @@ void NotifierItem::announce() {
 }
 
 void NotifierItem::setImage(const QIcon &image) {
-  _pixmaps = pixmapsOf(image);
+  _image = image;
   emit _exported->NewIcon();
+}
+
+void NotifierItem::setHighlighted(bool highlighted) {
+  if (std::exchange(_highlighted, highlighted) != highlighted) emit _exported->NewIcon();
+}
+
+NotifierPixmaps NotifierItem::pixmaps() const {
+  return pixmapsOf(_highlighted ? highlighted(_image) : _image);
+}
+
+QString NotifierItem::iconName() const {
+  return _iconFolder.isEmpty() ? QString() : statusPictureName(_highlighted);
 }
 
 void NotifierItem::setMenu(QMenu *menu) {
@@ -71,13 +66,15 @@ void NotifierItem::setMenu(QMenu *menu) {
 }
 
 void NotifierItem::activate(const QPoint &place) {
-  _place = placeOfClick(place);
+  if (const auto clicked = placeOfClick(place, knownPointer(), screenAreas())) {
+    _place = pointRect(*clicked);
+  }
   // Later: a row action may be under way in what it opens, and the panel waits for our answer.
   QMetaObject::invokeMethod(this, &TrayItem::activated, Qt::QueuedConnection);
 }
 
 void NotifierItem::popUpMenu(const QPoint &place) {
-  if (_menu) _menu->popup(placeOfClick(place).topLeft());
+  if (_menu) _menu->popup(placeOfClick(place, knownPointer(), screenAreas()).value_or(QPoint()));
 }
 
 QString NotifierInterface::id() const {
@@ -90,9 +87,4 @@ QString NotifierInterface::title() const {
 
 QDBusObjectPath NotifierInterface::menu() const {
   return QDBusObjectPath(kMenuPath);
-}
-
-// The window that is shown next finds it there.
-void NotifierInterface::ProvideXdgActivationToken(const QString &token) {
-  qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
 }

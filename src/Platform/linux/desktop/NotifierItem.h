@@ -27,9 +27,11 @@ class NotifierItem final : public TrayItem {
   void announce();
 
   void setImage(const QIcon &image) override;
+  void setHighlighted(bool highlighted) override;
   void setMenu(QMenu *menu) override;
-  /// The place of the last click.
+  /// The place of the last click whose place was known.
   QRect place() const override { return _place; }
+  bool isShown() const override { return true; }  // it is not made without a panel
   QString kind() const override { return QStringLiteral("StatusNotifierItem"); }
   /// Panels have no messages of their own.
   void showMessage(const QString &, const QString &) override {}
@@ -38,14 +40,19 @@ class NotifierItem final : public TrayItem {
   void activate(const QPoint &place);
   void popUpMenu(const QPoint &place);
 
-  NotifierPixmaps pixmaps() const { return _pixmaps; }
+  // What a panel asks for.
+  NotifierPixmaps pixmaps() const;
+  QString iconName() const;
+  QString iconFolder() const { return _iconFolder; }
 
  private:
   QDBusConnection _bus;
   QObject _menuObject;
   NotifierMenu *_exportedMenu;
   class NotifierInterface *_exported;
-  NotifierPixmaps _pixmaps;
+  QIcon _image;
+  bool _highlighted = false;
+  QString _iconFolder;  // empty when pixmaps must do
   QPointer<QMenu> _menu;
   QRect _place;
 };
@@ -61,8 +68,10 @@ class NotifierInterface final : public QDBusAbstractAdaptor {
   Q_PROPERTY(int WindowId READ windowId)
   Q_PROPERTY(bool ItemIsMenu READ itemIsMenu)
   Q_PROPERTY(QDBusObjectPath Menu READ menu)
-  Q_PROPERTY(QString IconName READ none)
+  Q_PROPERTY(QString IconName READ iconName)
+  Q_PROPERTY(QString IconThemePath READ iconFolder)
   Q_PROPERTY(NotifierPixmaps IconPixmap READ pixmaps)
+  Q_PROPERTY(QString IconAccessibleDesc READ title)
   Q_PROPERTY(QString OverlayIconName READ none)
   Q_PROPERTY(QString AttentionIconName READ none)
   Q_PROPERTY(NotifierToolTip ToolTip READ toolTip)
@@ -78,6 +87,8 @@ class NotifierInterface final : public QDBusAbstractAdaptor {
   bool itemIsMenu() const { return false; }
   QDBusObjectPath menu() const;
   QString none() const { return {}; }
+  QString iconName() const { return _item.iconName(); }
+  QString iconFolder() const { return _item.iconFolder(); }
   NotifierPixmaps pixmaps() const { return _item.pixmaps(); }
   NotifierToolTip toolTip() const { return {{}, {}, title(), {}}; }
 
@@ -86,8 +97,8 @@ class NotifierInterface final : public QDBusAbstractAdaptor {
   void SecondaryActivate(int x, int y) { _item.activate({x, y}); }
   /// Of panels that do not show menus themselves.
   void ContextMenu(int x, int y) { _item.popUpMenu({x, y}); }
+  // Not ProvideXdgActivationToken: GNOME shows a busy pointer until some window has spent the token.
   void Scroll(int /*delta*/, const QString & /*orientation*/) {}
-  void ProvideXdgActivationToken(const QString &token);
 
  signals:
   void NewIcon();

@@ -4,6 +4,7 @@
 // the object that this adaptor is attached to.
 
 #include <QDBusAbstractAdaptor>
+#include <QHash>
 #include <QMenu>
 #include <QPointer>
 
@@ -20,8 +21,9 @@ class NotifierMenu final : public QDBusAbstractAdaptor {
  public:
   explicit NotifierMenu(QObject *object) : QDBusAbstractAdaptor(object) {}
 
-  /// Not owned. What it holds is read when a panel asks.
-  void setMenu(QMenu *menu) { _menu = menu; }
+  /// Not owned. Panels are told of its changes, some together.
+  void setMenu(QMenu *menu);
+  bool eventFilter(QObject *watched, QEvent *event) override;
 
   uint version() const { return 3; }
   QString status() const { return QStringLiteral("normal"); }
@@ -42,8 +44,18 @@ class NotifierMenu final : public QDBusAbstractAdaptor {
   void LayoutUpdated(uint revision, int parentId);
 
  private:
+  int idOf(const QAction *action) const { return _ids.value(action); }
+  /// Null where there is none of this number.
+  QAction *action(int id) const;
   MenuEntry entry(int id) const;
   MenuEntries entries() const;
+  void noteActions();
+  void tellPanels();
 
   QPointer<QMenu> _menu;
+  // Never given to another action: a panel may name one that has just gone.
+  QHash<const QAction *, int> _ids;
+  int _lastId = 0;
+  uint _revision = 1;
+  bool _willTell = false;
 };

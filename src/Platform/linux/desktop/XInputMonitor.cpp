@@ -4,25 +4,21 @@
 #include <xcb/xinput.h>
 
 #include <QGuiApplication>
-#include <cstdlib>
+
+#include "Platform/linux/desktop/XcbReply.h"
 
 namespace {
 
-struct Free {
-  void operator()(void *memory) const { std::free(memory); }
-};
-
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, Free>;
-
 constexpr uint32_t kLeftButton = 1;
 constexpr uint32_t kRightButton = 3;
+// Within which a panel tells of a click after the button has been let go.
+constexpr std::chrono::milliseconds kPanelsTime(250);
 
 // The opcode of the extension's events; 0 where the server lacks it or has an older one.
 quint8 opcodeOf(xcb_connection_t *server) {
   const xcb_query_extension_reply_t *extension = xcb_get_extension_data(server, &xcb_input_id);
   if (!extension || !extension->present) return 0;
-  const Owned<xcb_input_xi_query_version_reply_t> version(
+  const XcbReply<xcb_input_xi_query_version_reply_t> version(
       xcb_input_xi_query_version_reply(server, xcb_input_xi_query_version(server, 2, 2), nullptr));
   const bool isNew = version && (version->major_version > 2 ||
                                  (version->major_version == 2 && version->minor_version >= 2));
@@ -33,9 +29,10 @@ void selectRawEvents(xcb_connection_t *server) {
   struct {
     xcb_input_event_mask_t head;
     uint32_t mask;
-  } const selection = {
-      {XCB_INPUT_DEVICE_ALL_MASTER, 1},
-      XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE};
+  } const selection = {{XCB_INPUT_DEVICE_ALL_MASTER, 1},
+                       XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS |
+                           XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE |
+                           XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE};
   for (auto screen = xcb_setup_roots_iterator(xcb_get_setup(server)); screen.rem > 0;
        xcb_screen_next(&screen)) {
     xcb_input_xi_select_events(server, screen.data->root, 1, &selection.head);
@@ -50,23 +47,26 @@ void XInputMonitor::Disconnect::operator()(xcb_connection_t *server) const {
 }
 
 std::unique_ptr<XInputMonitor> XInputMonitor::make(std::function<void()> handler,
-                                                   std::function<bool()> isOurPress) {
+                                                   std::function<On()> pressedOn) {
   Connection server(xcb_connect(nullptr, nullptr));
   if (xcb_connection_has_error(server.get())) return nullptr;
   const quint8 opcode = opcodeOf(server.get());
   if (opcode == 0) return nullptr;
   selectRawEvents(server.get());
   return std::unique_ptr<XInputMonitor>(
-      new XInputMonitor(std::move(server), opcode, std::move(handler), std::move(isOurPress)));
+      new XInputMonitor(std::move(server), opcode, std::move(handler), std::move(pressedOn)));
 }
 
 XInputMonitor::XInputMonitor(Connection server, quint8 opcode, std::function<void()> handler,
-                             std::function<bool()> isOurPress)
+                             std::function<On()> pressedOn)
     : _server(std::move(server)),
       _opcode(opcode),
       _readable(xcb_get_file_descriptor(_server.get()), QSocketNotifier::Read),
       _handler(std::move(handler)),
-      _isOurPress(std::move(isOurPress)) {
+      _pressedOn(std::move(pressedOn)) {
+  _patience.setSingleShot(true);
+  _patience.setInterval(kPanelsTime);
+  connect(&_patience, &QTimer::timeout, this, &XInputMonitor::callHandler);
   connect(&_readable, &QSocketNotifier::activated, this, &XInputMonitor::readEvents);
   // What came with the replies above is read already and wakes nobody.
   QMetaObject::invokeMethod(this, &XInputMonitor::readEvents, Qt::QueuedConnection);
@@ -74,23 +74,45 @@ XInputMonitor::XInputMonitor(Connection server, quint8 opcode, std::function<voi
 
 void XInputMonitor::readEvents() {
   bool heard = false;
-  while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(_server.get())}) {
+  while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(_server.get())}) {
     heard = goesElsewhere(event.get()) || heard;
   }
   if (xcb_connection_has_error(_server.get())) _readable.setEnabled(false);
-  if (!heard) return;
+  if (heard) callHandler();
+}
+
+void XInputMonitor::callHandler() {
   // A copy, because the handler may destroy this monitor.
   const auto handler = _handler;
   handler();
 }
 
-bool XInputMonitor::goesElsewhere(const void *event) const {
+bool XInputMonitor::goesElsewhere(const void *event) {
   const auto *generic = static_cast<const xcb_ge_generic_event_t *>(event);
   const bool isInput =
       (generic->response_type & 0x7f) == XCB_GE_GENERIC && generic->extension == _opcode;
   if (!isInput) return false;
   if (generic->event_type == XCB_INPUT_RAW_KEY_RELEASE) return !QGuiApplication::focusWindow();
-  if (generic->event_type != XCB_INPUT_RAW_BUTTON_PRESS) return false;
+  // Presses and releases are told alike.
   const uint32_t button = static_cast<const xcb_input_raw_button_press_event_t *>(event)->detail;
-  return (button == kLeftButton || button == kRightButton) && !_isOurPress();
+  if (button != kLeftButton && button != kRightButton) return false;
+  if (generic->event_type == XCB_INPUT_RAW_BUTTON_PRESS) return pressGoesElsewhere();
+  if (generic->event_type == XCB_INPUT_RAW_BUTTON_RELEASE) released();
+  return false;
+}
+
+bool XInputMonitor::pressGoesElsewhere() {
+  _patience.stop();
+  const On on = _pressedOn();
+  _pressWaits = on == On::Panel;
+  return on == On::Other;
+}
+
+void XInputMonitor::released() {
+  if (std::exchange(_pressWaits, false)) _patience.start();
+}
+
+void XInputMonitor::itemClicked() {
+  _pressWaits = false;
+  _patience.stop();
 }

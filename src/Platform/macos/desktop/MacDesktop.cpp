@@ -1,45 +1,45 @@
 #include <CoreFoundation/CoreFoundation.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include "Platform/ThisMachine.h"
 #include "Platform/common/ActivationMonitor.h"
 #include "Platform/common/QtTrayItem.h"
-#include "Platform/macos/Values.h"
+#include "Platform/macos/MacUserDefaults.h"
+#include "Platform/macos/Observation.h"
 #include "Platform/macos/desktop/GlobalMonitor.h"
 
 namespace {
 
-const QString kThemeChanged = QStringLiteral("AppleInterfaceThemeChangedNotification");
+/// The menu bar's shade follows the wallpaper behind it, so the bar colours the picture.
+class MacTrayItem final : public QtTrayItem {
+ public:
+  MacTrayItem() : QtTrayItem(MenuBy::Us) {}
+
+  void setImage(const QIcon &image) override {
+    QIcon mask(image);
+    mask.setIsMask(true);
+    QtTrayItem::setImage(mask);
+  }
+};
 
 class MacDesktop final : public Desktop {
  public:
   MacDesktop() {
-    CFNotificationCenterAddObserver(CFNotificationCenterGetDistributedCenter(), this, themeChanged,
-                                    makeText(kThemeChanged).get(), nullptr,
-                                    CFNotificationSuspensionBehaviorDeliverImmediately);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             &MacDesktop::noteApplicationState);
   }
-  ~MacDesktop() override {
-    CFNotificationCenterRemoveObserver(CFNotificationCenterGetDistributedCenter(), this,
-                                       makeText(kThemeChanged).get(), nullptr);
-  }
 
-  std::unique_ptr<TrayItem> makeTrayItem() override {
-    return std::make_unique<QtTrayItem>(QtTrayItem::MenuBy::Us);
-  }
+  std::unique_ptr<TrayItem> makeTrayItem() override { return std::make_unique<MacTrayItem>(); }
 
   std::unique_ptr<EventMonitor> addGlobalMonitor(std::function<void()> handler) override {
     if (auto monitor = makeGlobalMonitor(handler)) return monitor;
     return std::make_unique<ActivationMonitor>(handler);
   }
 
+  // Of all applications, where this one has none of its own.
   QVariant interfaceStyle() const override {
-    const Owned<CFPropertyListRef> style(CFPreferencesCopyValue(
-        makeText(QStringLiteral("AppleInterfaceStyle")).get(), kCFPreferencesAnyApplication,
-        kCFPreferencesCurrentUser, kCFPreferencesAnyHost));
-    return valueOf(style.get());
+    return MacUserDefaults().object(QStringLiteral("AppleInterfaceStyle"));
   }
 
   Facts facts() const override {
@@ -68,9 +68,15 @@ class MacDesktop final : public Desktop {
   }
 
   bool _isActive = false;
+  Observation _theme{CFNotificationCenterGetDistributedCenter(),
+                     QStringLiteral("AppleInterfaceThemeChangedNotification"), this, themeChanged};
 };
 
 }  // namespace
+
+std::unique_ptr<QApplication> makeApplication(int &argc, char **argv) {
+  return std::make_unique<QApplication>(argc, argv);
+}
 
 std::unique_ptr<Desktop> makeDesktop(const QString &) {
   return std::make_unique<MacDesktop>();

@@ -1,3 +1,3 @@
 #pragma once
 
-#include "../../api/Declarations.h"
+#include "../Declarations.h"

@@ -1,0 +1,48 @@
+#pragma once
+
+// How long a program takes until its item is registered with the tray, and what memory it has then.
+// The tray is one of our own, on the session bus.
+
+#include <QObject>
+#include <optional>
+
+#include "Time.h"
+
+class Report;
+
+inline const QString kStartUp = QStringLiteral("start-up until the item is registered");
+inline const QString kSmallestStartUp = QStringLiteral("smallest Qt program's");
+inline const QString kResident = QStringLiteral("resident memory then, MB");
+inline const QString kSmallestResident = QStringLiteral("smallest Qt program's, MB");
+
+/// Where items register, as a panel has it.
+class Tray : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+  Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost)
+  Q_PROPERTY(int ProtocolVersion READ protocolVersion)
+
+ public:
+  /// Throws std::runtime_error where there is no session bus, or another tray on it.
+  Tray();
+
+  bool hasHost() const { return true; }
+  int protocolVersion() const { return 0; }
+
+  void forget() { _registered.reset(); }
+  /// The first registration since `forget`.
+  std::optional<Instant> registered() const { return _registered; }
+
+ public slots:
+  void RegisterStatusNotifierItem(const QString &item);
+
+ signals:
+  void StatusNotifierHostRegistered();
+
+ private:
+  std::optional<Instant> _registered;
+};
+
+/// Adds the times and the memory of the program and of the smallest one, in turns, for so many
+/// partitions. Needs an X server.
+void measureStartUp(int partitions, Report &report);

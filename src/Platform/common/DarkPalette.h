@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QPalette>
+
+/// Whether windows of this palette are dark.
+inline bool hasDarkWindows(const QPalette &palette) {
+  return palette.color(QPalette::Window).lightnessF() < 0.5F;
+}

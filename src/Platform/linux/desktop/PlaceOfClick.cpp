@@ -1,0 +1,69 @@
+#include "Platform/linux/desktop/PlaceOfClick.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
+namespace {
+
+// As far from the pointer as the corner of the largest item may be.
+constexpr int kNear = 64;
+
+bool isOnScreen(const QPoint &place, const QList<ScreenArea> &screens) {
+  return std::any_of(screens.begin(), screens.end(),
+                     [&](const ScreenArea &screen) { return screen.whole.contains(place); });
+}
+
+// Screens keep their origins whatever their scale.
+QList<QPoint> readings(const QPoint &told, const QList<ScreenArea> &screens) {
+  if (told.isNull()) return {};  // a panel that does not know
+  QList<QPoint> all;
+  for (const ScreenArea &screen : screens) {
+    const QPoint origin = screen.whole.topLeft();
+    const QRect native(origin, (QSizeF(screen.whole.size()) * screen.ratio).toSize());
+    if (native.contains(told)) all += origin + (QPointF(told - origin) / screen.ratio).toPoint();
+  }
+  if (isOnScreen(told, screens)) all += told;
+  return all;
+}
+
+}  // namespace
+
+QList<ScreenArea> screenAreas() {
+  QList<ScreenArea> areas;
+  for (const QScreen *screen : QGuiApplication::screens()) {
+    areas.append({screen->geometry(), screen->availableGeometry(), screen->devicePixelRatio()});
+  }
+  return areas;
+}
+
+bool isOnPanel(const QPoint &place, const QList<ScreenArea> &screens) {
+  return std::any_of(screens.begin(), screens.end(), [&](const ScreenArea &screen) {
+    return screen.whole.contains(place) && !screen.available.contains(place);
+  });
+}
+
+std::optional<QPoint> knownPointer() {
+  const bool isServerOfItsOwn = QGuiApplication::platformName() == QLatin1String("xcb") &&
+                                qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+  return isServerOfItsOwn ? std::optional(QCursor::pos()) : std::nullopt;
+}
+
+std::optional<QPoint> placeOfClick(const QPoint &told, std::optional<QPoint> pointer,
+                                   const QList<ScreenArea> &screens) {
+  const QList<QPoint> places = readings(told, screens);
+  const auto onPanel = std::find_if(places.begin(), places.end(),
+                                    [&](const QPoint &place) { return isOnPanel(place, screens); });
+  if (pointer) {
+    const auto distance = [&](const QPoint &place) { return (place - *pointer).manhattanLength(); };
+    const auto nearest = std::min_element(
+        places.begin(), places.end(),
+        [&](const QPoint &one, const QPoint &other) { return distance(one) < distance(other); });
+    if (nearest != places.end() && distance(*nearest) <= kNear) return *nearest;
+    if (isOnPanel(*pointer, screens)) return pointer;
+  }
+  if (onPanel != places.end()) return *onPanel;
+  if (pointer || places.isEmpty()) return pointer;
+  return places.first();
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+// What windows can do on the X server, if that is the window system, and what it must be told
+// beyond what Qt tells it.
+
+#include "Platform/Desktop.h"
+
+WindowAbilities windowAbilitiesNow();
+
+/// Does nothing on other window systems. See `Desktop::keepOutOfTaskbar`.
+void keepOutOfXcbTaskbar(const QWidget &window);

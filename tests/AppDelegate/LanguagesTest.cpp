@@ -1,0 +1,52 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QTranslator>
+
+#include "Interface/InfoWindow.h"
+#include "application.h"
+#include "support/TestMachine.h"
+
+namespace {
+
+void expectRoomForWords(const QWidget &window, const std::string &language) {
+  for (const auto *button : window.findChildren<QAbstractButton *>()) {
+    EXPECT_GE(button->width(), button->sizeHint().width())
+        << language << button->text().toStdString();
+  }
+  for (const auto *label : window.findChildren<QLabel *>()) {
+    const int needed =
+        label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+    EXPECT_TRUE(!label->isVisible() || label->height() >= needed)
+        << language << label->text().toStdString();
+  }
+}
+
+}  // namespace
+
+TEST(Languages, HaveRoomForTheirWordsInTheirDirection) {
+  const int usualWidth = TestMachine(twoEspMachine()).interface.popover()->width();
+  for (const QString &file : QDir(":/translations").entryList()) {
+    const QLocale locale(file.chopped(3).section('_', 1));
+    QLocale::setDefault(locale);
+    loadTranslations();
+    const auto undo = qScopeGuard([] { qDeleteAll(qApp->findChildren<QTranslator *>()); });
+    TestMachine machine(twoEspMachine());
+    const std::string language = file.toStdString();
+    const MainInterface &interface = machine.interface;
+    EXPECT_NE(interface.quitButton()->text(), "Quit") << language;
+    EXPECT_EQ(interface.popover()->width(), usualWidth) << language;
+    EXPECT_EQ(interface.quitButton()->x() < interface.infoButton()->x(),
+              locale.textDirection() == Qt::RightToLeft)
+        << language;
+    expectRoomForWords(*interface.popover(), language);
+    interface.infoButton()->click();
+    machine.settle();
+    expectRoomForWords(*interface.infoWindow(), language);
+  }
+  QLocale::setDefault(QLocale(QLocale::English));
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+}

@@ -1,0 +1,89 @@
+// What never answers must not hold the program up, nor keep it from ending.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <QElapsedTimer>
+#include <QTest>
+
+#include "Foundation/NotificationCenter.h"
+#include "Platform/linux/LinuxDiskService.h"
+#include "Platform/linux/LinuxVolumeFiles.h"
+#include "support/Files.h"
+#include "support/IconBytes.h"
+#include "support/MuteVolume.h"
+#include "support/VolumeNews.h"
+
+namespace {
+
+using enum LookAtPath::Access;
+
+class SilentVolume : public testing::Test {
+ protected:
+  SilentVolume() { noteVolumeNews(workspace, observer, events); }
+  void SetUp() override {
+    if (!volume.isThere()) GTEST_SKIP() << "no file system may be mounted here";
+  }
+  qint64 timeOf(const std::function<void()> &action) {
+    QElapsedTimer timer;
+    timer.start();
+    action();
+    return timer.elapsed();
+  }
+
+  const QTemporaryDir folder;
+  const QTemporaryDir other;
+  MuteVolume volume{folder.path()};
+  NotificationCenter workspace;
+  QObject observer;
+  QStringList events;
+  MessageBus noBus{""};
+  LinuxDiskService disks{
+      noBus, {BlockDevices("/nowhere"), UnitFile({}, {})}, "/proc/self/mountinfo", workspace};
+  LinuxVolumeFiles files{disks};
+};
+
+}  // namespace
+
+TEST_F(SilentVolume, IsWaitedForOnceAndItsLateAnswerIsKeptForTheRefreshThatItCauses) {
+  const QString file = folder.path() + "/.VolumeIcon.icns";
+  writeFile(other.filePath(".VolumeIcon.icns"), icns({{"ic08", pngOf(256, Qt::magenta)}}));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return files.look(other.path()).access == Open; }));
+  QTest::qWait(100);  // for the news that there is no bus
+  events.clear();
+  EXPECT_LT(timeOf([&] { EXPECT_EQ(files.image(file), std::nullopt); }), 250);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return volume.questions() > 0; }));
+  const int asked = volume.questions();
+  EXPECT_LT(timeOf([&] { EXPECT_EQ(files.look(file).access, Unknown); }), 50) << "known by now";
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    return files.image(other.filePath(".VolumeIcon.icns")).has_value();
+  })) << "another volume's";
+  EXPECT_EQ(volume.questions(), asked) << "one process waits there, and no other";
+
+  LookAtPath late;
+  workspace.addObserver(&observer, kNSWorkspaceDidMountNotification, [&](const Notification &) {
+    late = files.look(folder.path() + "/late");
+    files.image(file);
+  });
+  events.clear();
+  volume.comeBack();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return events.contains("changed"); }));
+  EXPECT_EQ(late.access, Nothing) << "it answers again";
+  QTest::qWait(50);
+  EXPECT_EQ(events.count("changed"), 1) << "the late answer was kept";
+}
+
+TEST_F(SilentVolume, KeepsNothingFromEndingAndLeavesNoProcess) {
+  const auto isAlone = [] {
+    siginfo_t child{};
+    return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) != 0;
+  };
+  {
+    LinuxDiskService ending(noBus, {BlockDevices("/nowhere"), UnitFile({}, {})},
+                            "/proc/self/mountinfo", workspace);
+    LinuxVolumeFiles(ending).look(folder.path() + "/x");
+  }
+  EXPECT_FALSE(isAlone()) << "not even force ends what waits in the kernel";
+  volume.comeBack();
+  EXPECT_TRUE(QTest::qWaitFor(isAlone));
+}

@@ -1,0 +1,60 @@
+"""The program ends when it is told to, whatever it waits for, and starts beside what is frozen: ends_test.py
+KELDRA_DEMO."""
+
+import os
+import signal
+import subprocess
+import time
+import unittest.mock
+
+import desktop_test
+from desktop_test import DesktopTest, main, partition
+
+import screen
+
+UNANSWERED = desktop_test.machine(partition("EFI", delay=60_000))
+
+
+class EndsTest(DesktopTest):
+    screen = screen
+
+    def assert_ends(self, program, number):
+        program.send(number)
+        told = time.monotonic()
+        program.wait_for_end()
+        self.assertLess(time.monotonic() - told, 6)
+
+    @unittest.mock.patch("desktop_test.MACHINE", UNANSWERED)
+    def test_signal_ends_it_while_a_request_is_not_answered(self):
+        program = self.start_program()
+        self.assertEqual(self.launch_again(), 0)
+        program.click("mount disk0s1")
+        self.assert_stays(program.is_running, "nobody has told it to end")
+        self.assert_ends(program, signal.SIGTERM)
+
+    def test_hangup_that_was_ignored_stays_ignored(self):
+        handler = signal.signal(signal.SIGHUP, signal.SIG_IGN)
+        program = self.start_program()
+        signal.signal(signal.SIGHUP, handler)
+        program.send(signal.SIGHUP)
+        self.assert_stays(program.is_running, "it should outlive its terminal")
+        self.assert_ends(program, signal.SIGINT)
+
+    def test_frozen_session_bus_does_not_keep_it_from_coming_up(self):
+        address = f"unix:path={os.environ['XDG_RUNTIME_DIR']}/frozen"
+        bus = self.start("dbus-daemon", "--session", "--nofork", f"--address={address}")
+        self.wait_for("there should be a bus", lambda: os.path.exists(address.partition("=")[2]))
+        bus.send_signal(signal.SIGSTOP)
+        with unittest.mock.patch.dict(os.environ, DBUS_SESSION_BUS_ADDRESS=address), \
+                unittest.mock.patch.object(self, "is_up", self.shows_a_window):
+            program = self.start_program()
+        self.assert_ends(program, signal.SIGTERM)
+
+    @staticmethod
+    def shows_a_window():
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "keldra"], check=False)
+        return found.returncode == 0
+
+
+if __name__ == "__main__":
+    main("xdotool")

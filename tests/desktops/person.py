@@ -1,0 +1,162 @@
+"""A person in front of a whole desktop session: hands, eyes, and the programs that they start there.
+
+The pointer, the keys and the pictures are those of the screen that holds the session; programs are started on the
+session's own displays.
+"""
+
+import contextlib
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import time
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "lab"))
+import accessibility  # noqa: E402
+import screen  # noqa: E402
+import tray  # noqa: E402
+from popover import View  # noqa: E402
+
+ROOM = pathlib.Path("/room")
+_DISPLAYS = ("DISPLAY", "WAYLAND_DISPLAY", "XAUTHORITY", "DESKTOP_SESSION", "XDG_SESSION_TYPE", "SESSION_MANAGER",
+             "XDG_CURRENT_DESKTOP", "KDE_FULL_SESSION", "KDE_SESSION_VERSION", "SWAYSOCK")
+QUIET = {"stdin": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+
+
+def session_environment():
+    lines = (ROOM / "session.env").read_text().splitlines()
+    told = dict(line.split("=", 1) for line in lines if line.split("=")[0] in _DISPLAYS)
+    return {name: value for name, value in os.environ.items() if name not in _DISPLAYS} | told
+
+
+def run(*words, inside=False):
+    """What it prints; empty when it fails. `inside`: on the session's displays."""
+    return subprocess.run(words, stdout=subprocess.PIPE, check=False, timeout=20, **QUIET,
+                          env=session_environment() if inside else None).stdout.decode(errors="replace").strip()
+
+
+def wait_for(condition, seconds=5.0):
+    """The first true value of the condition, or its last."""
+    deadline = time.monotonic() + seconds
+    while True:
+        value = None
+        with contextlib.suppress(accessibility.Gone, subprocess.SubprocessError, IndexError):
+            value = condition()
+        if value or time.monotonic() > deadline:
+            return value
+        time.sleep(0.05)
+
+
+def pixels(place=None):
+    return screen.colours(place or (0, 0, *screen.size()))
+
+
+def picture(name):
+    screen.take_picture(ROOM / f"{name}.png")
+
+
+def bounding_box(before, after, width):
+    changed = [index for index, (one, other) in enumerate(zip(before, after)) if one != other]
+    if not changed:
+        return None
+    columns, rows = [index % width for index in changed], [index // width for index in changed]
+    return min(columns), min(rows), max(columns) - min(columns) + 1, max(rows) - min(rows) + 1
+
+
+def luminance(colour):
+    parts = [part / 255 for part in colour]
+    parts = [part / 12.92 if part <= 0.03928 else ((part + 0.055) / 1.055) ** 2.4 for part in parts]
+    return 0.2126 * parts[0] + 0.7152 * parts[1] + 0.0722 * parts[2]
+
+
+def contrast(one, other):
+    light, dark = sorted((luminance(one), luminance(other)), reverse=True)
+    return (light + 0.05) / (dark + 0.05)
+
+
+class Keldra:
+    def __init__(self, program, machine, **environment):
+        self.command = [program, str(machine)]
+        self.environment = environment
+        self.process = subprocess.Popen(self.command, env=session_environment() | environment,
+                                        stdout=subprocess.DEVNULL, **QUIET)
+
+    def again(self):
+        subprocess.run(self.command, env=session_environment(), check=False, timeout=20, **QUIET)
+
+    @staticmethod
+    def windows():
+        program = accessibility.find_application("keldra")
+        return program.children() if program else []
+
+    def window(self):
+        for node in self.windows():
+            if node.is_showing() and any(child.name == "Quit" for child in node.descendants()):
+                return node
+        return None
+
+    def view(self):
+        window = self.window()
+        return View(window) if window else None
+
+    @staticmethod
+    def _in_pixels(node, window):
+        """Programs tell places in units of their own, of which a screen of 100 dpi has 1.04 pixels each."""
+        sizes = [re.findall(r"\d+", run("xdotool", "getwindowgeometry", "--shell", number, inside=True))
+                 for number in run("xdotool", "search", "--onlyvisible", "--name", "^Keldra$", inside=True).split()]
+        width = max((int(size[3]) for size in sizes), default=0)  # the item on an X11 tray is the smaller one
+        ratio = width / window.place()[2] if width else 1
+        return tuple(round(length * ratio) for length in node.place())
+
+    def place(self):
+        window = self.window()
+        return window and self._in_pixels(window, window)
+
+    def control(self, title):
+        view, window = self.view(), self.window()
+        node = view and (view.button(title) or view.controls.get(title))
+        return node and self._in_pixels(node, window)
+
+    def is_open(self, seconds=3.0):
+        return bool(wait_for(self.window, seconds))
+
+    def is_closed(self, seconds=2.0):
+        return bool(wait_for(lambda: not self.window(), seconds))
+
+    def stays(self, is_open, seconds=0.8):
+        deadline = time.monotonic() + seconds
+        while time.monotonic() < deadline:
+            if bool(self.window()) != is_open:
+                return False
+            time.sleep(0.05)
+        return True
+
+    def end(self):
+        self.process.terminate()
+        with contextlib.suppress(subprocess.TimeoutExpired):
+            self.process.wait(5)
+        self.process.kill()
+        self.process.wait()
+
+
+def registered():
+    return bool(tray.items()) or bool(run("xdotool", "search", "--class", "^keldra$", inside=True))
+
+
+def shell(script):
+    """What GNOME's shell answers."""
+    return run("gdbus", "call", "--session", "-d", "org.gnome.Shell", "-o", "/org/gnome/Shell",
+               "-m", "org.gnome.Shell.Eval", script)
+
+
+def write_machine(delay=0):
+    esp = {"slice": 1, "media": "EFI System Partition"}
+    disks = [{"unit": 0, "media": "Disk", "scheme": "GUID_partition_scheme",
+              "partitions": [esp | {"volume": {"kind": "msdos", "name": "EFI"}}]},
+             {"unit": 1, "media": "Slow", "scheme": "GUID_partition_scheme",
+              "partitions": [esp | {"volume": {"kind": "msdos", "name": "SLOW"}, "delay": 3000}]}]
+    file = ROOM / "machine.json"
+    file.write_text(json.dumps({"disks": disks}))
+    return file

@@ -1,0 +1,280 @@
+"""Goes through what a person expects of the program on one desktop: table.py KELDRA_DEMO DESKTOP x11|wayland.
+
+Prints a line for each cell of the table: its name, "yes", "no" or "-", and what was seen. Pictures are in /room.
+"""
+
+import os
+import re
+import subprocess
+import sys
+import time
+
+from person import (ROOM, Keldra, bounding_box, contrast, picture, pixels, registered, run, screen,
+                    session_environment, shell, tray, wait_for, write_machine)
+
+PROGRAM, DESKTOP, SERVER = sys.argv[1:4]
+WIDTH, HEIGHT = screen.size()
+NO_TRAY = bool(os.environ.get("EXTENSIONS"))
+X11_TRAYS = ("cinnamon",)
+WALLPAPER = (WIDTH // 4, HEIGHT * 3 // 4)
+OTHER = (100, 300, 300, 200)
+
+
+def tell(cell, good, seen=""):
+    print(f"{cell}\t{'-' if good is None else 'yes' if good else 'no'}\t{seen}", flush=True)
+
+
+def work_area():
+    told = re.findall(r"\d+", run("xprop", "-root", "_NET_WORKAREA", inside=True).partition("=")[2])
+    left, top, width, height = map(int, told[:4]) if len(told) >= 4 else (0, 26, WIDTH, HEIGHT - 26)
+    return left, top, width, height
+
+
+def click(x, y, button=1, times=1):
+    screen.click((x, y, 0, 0), button, times)
+
+
+def settle():
+    """Desktops greet people, and paint themselves in their own time."""
+    wait_for(tray.has_host, 40 if not NO_TRAY and DESKTOP not in X11_TRAYS else 0)
+    time.sleep(float(os.environ.get("SETTLE", 8)))
+    if DESKTOP == "gnome":
+        screen.press("Escape")
+        shell("Main.overview.hide(); Main.messageTray._banner && Main.messageTray._banner.destroy(); 1")
+        time.sleep(2)
+    screen.move_pointer(*WALLPAPER)
+    screen.wait_for_rest()
+
+
+def start():
+    """The program without the demo's own window, the place of its item, and how long that took to be there.
+
+    Nobody tells where the item is, but its picture changes while the popover is open, and nothing else does there."""
+    started = time.monotonic()
+    program = Keldra(PROGRAM, write_machine())
+    wait_for(registered, 8)
+    seconds = time.monotonic() - started
+    machine = wait_for(lambda: run("xdotool", "search", "--onlyvisible", "--name", "^Machine", inside=True))
+    run("xdotool", "windowunmap", machine or "0", inside=True)
+    time.sleep(1)
+    screen.wait_for_rest()
+    before = pixels()
+    program.again()
+    program.is_open()
+    time.sleep(1)
+    left, top, width, height = work_area()
+    after = [old if left <= index % WIDTH < left + width and top <= index // WIDTH < top + height else new
+             for index, (old, new) in enumerate(zip(before, pixels()))]
+    item = bounding_box(before, after, WIDTH)
+    screen.press("Escape")
+    program.is_closed()
+    return program, item, seconds
+
+
+class Visit:
+    def __init__(self):
+        self.program, self.item, seconds = start()
+        picture("1-item")
+        self.middle = self.item and (self.item[0] + self.item[2] // 2, self.item[1] + self.item[3] // 2)
+        tell("item", self.item and seconds < 1.5, f"{self.item}, after {seconds:.1f} s")
+
+    def click_item(self, times=None, across=0):
+        click(self.middle[0] + across, self.middle[1], times=times or (2 if DESKTOP == "gnome" else 1))
+
+    def open(self):
+        if not self.program.window():
+            time.sleep(0.5)
+            self.click_item()
+        self.program.is_open()
+        time.sleep(0.6)
+        return self.program.place()
+
+    def picture_of_item(self):
+        colours = pixels(self.item)
+        left, top, width, height = self.item
+        ground = pixels((max(left - 2, 0), top + height // 2, 1, 1))[0]
+        readable = [colour for colour in colours if contrast(colour, ground) >= 3]
+        best = max(contrast(colour, ground) for colour in colours)
+        tell("picture", len(readable) > width * height / 6, f"{best:.1f} to 1 on {ground}")
+
+    def place(self):
+        place = self.open()
+        picture("2-open")
+        tell("click", place, f"{place}")
+        if not place:
+            return
+        area = work_area()
+        tell("in work area", place[0] >= area[0] and place[1] >= area[1] - 1
+             and place[0] + place[2] <= area[0] + area[2] and place[1] + place[3] <= area[1] + area[3] + 1,
+             f"{place} in {area}")
+        hangs = self.middle[1] < HEIGHT / 2
+        row = place[1] + 5 if hangs else place[1] + place[3] - 6
+        line = pixels((place[0], row, place[2], 1))
+        ground = pixels((place[0] + place[2] // 2, place[1] + place[3] - 40, 1, 1))[0]
+        arrow = [x for x, colour in enumerate(line) if max(abs(a - b) for a, b in zip(colour, ground)) < 12]
+        tip = arrow and place[0] + (arrow[0] + arrow[-1]) / 2
+        tell("arrow", bool(arrow) and abs(tip - self.middle[0]) <= 2, f"tip {tip}, item {self.middle[0]}")
+
+    def again(self):
+        def closes(what, act):
+            self.open()
+            time.sleep(0.3)
+            act()
+            tell(f"closes: {what}", self.program.is_closed() and self.program.stays(False))
+            time.sleep(0.6)
+        closes("item", self.click_item)
+        closes("Escape", lambda: screen.press("Escape"))
+        closes("panel", lambda: click(WIDTH // 3, self.middle[1]))
+        screen.press("Escape")
+        time.sleep(0.5)
+        closes("wallpaper", lambda: click(*WALLPAPER))
+        self.program.window() and screen.press("Escape")
+        self.program.is_closed()
+        time.sleep(1)
+        self.click_item(times=2)
+        tell("double click", self.program.is_open() and self.program.stays(True, 1.2))
+        if DESKTOP != "gnome":
+            time.sleep(0.5)
+            screen.move_pointer(self.middle[0] + self.item[2] // 3, self.middle[1])
+            run("xdotool", "mousedown", "1")
+            held = self.program.stays(True, 0.6)
+            run("xdotool", "mouseup", "1")
+            tell("held", held and self.program.is_closed() and self.program.stays(False))
+
+    def windows(self):
+        self.program.window() and screen.press("Escape")
+        self.program.is_closed()
+        other = self.other_window()
+        before = run("xdotool", "getactivewindow", inside=True)
+        place = self.open()
+        if DESKTOP == "gnome":
+            listed = shell("global.get_window_actors().map(a => a.meta_window).filter(w => !w.skip_taskbar)"
+                           ".map(w => w.title).join()")
+            tell("windows", "Keldra" not in re.split(r"[',\"]", listed), listed)
+        else:
+            name = run("xdotool", "search", "--onlyvisible", "--name", "^Keldra$", inside=True).split()
+            states = " ".join(run("xprop", "-id", window, "_NET_WM_STATE", inside=True) for window in name)
+            tell("windows", "SKIP_TASKBAR" in states and "ABOVE" in states, states[-80:])
+        closed = other and (click(OTHER[0] + 150, OTHER[1] + 150), self.program.is_closed())[1]
+        tell("closes: window", closed and self.program.stays(False))
+        self.open()
+        screen.press("Escape")
+        self.program.is_closed()
+        time.sleep(0.3)
+        after = run("xdotool", "getactivewindow", inside=True)
+        tell("focus returns", before == after and place, f"{before} {after}")
+        other.kill()
+        other.wait()
+
+    @staticmethod
+    def other_window():
+        other = subprocess.Popen(["xterm", "-geometry", "40x12+{0}+{1}".format(*OTHER)], env=session_environment())
+        wait_for(lambda: run("xdotool", "search", "--onlyvisible", "--class", "xterm", inside=True))
+        time.sleep(1)
+        click(OTHER[0] + 150, OTHER[1] + 150)
+        time.sleep(0.5)
+        return other
+
+    def busy(self):
+        self.open()
+        button = self.program.control("mount disk1s1")
+        screen.click(button)
+        time.sleep(0.6)
+        self.click_item()
+        tell("busy", self.program.stays(True, 1.2))
+        wait_for(lambda: self.program.view() and self.program.view().mounted_at("disk1s1"), 6)
+
+    def info(self):
+        def shown():
+            self.open()
+            screen.click(self.program.control("Info"))
+            return wait_for(lambda: next((node for node in self.program.windows()
+                                          if node.role == "dialog" and node.is_showing()), None))
+        sizes = []
+        for _ in range(3):
+            window = shown()
+            time.sleep(0.7)
+            sizes.append(window and tuple(window.place()[2:]))
+            picture("3-info")
+            run("xdotool", "search", "--name", "^About Keldra", "windowminimize", inside=True)
+            time.sleep(0.7)
+        window = shown()
+        tell("info", window and window.is_active() and len(set(sizes)) == 1, str(sizes))
+        screen.press("Escape")
+        time.sleep(0.5)
+
+    def theme(self):
+        commands = {
+            "gnome": [["gsettings", "set", "org.gnome.desktop.interface", "color-scheme", value]
+                      for value in ("prefer-dark", "default")],
+            "cinnamon": [["gsettings", "set", "org.cinnamon.desktop.interface", "gtk-theme", value]
+                         for value in ("Adwaita-dark", "Adwaita")],
+            "mate": [["gsettings", "set", "org.mate.interface", "gtk-theme", value]
+                     for value in ("BlackMATE", "Menta")],
+            "xfce": [["xfconf-query", "-c", "xsettings", "-p", "/Net/ThemeName", "-n", "-t", "string", "-s", value]
+                     for value in ("Adwaita-dark", "Adwaita")],
+            "plasma": [["plasma-apply-colorscheme", value] for value in ("BreezeDark", "BreezeLight")],
+        }.get(DESKTOP)
+        if not commands:
+            return tell("theme", None, "nothing tells of it")
+        seen = []
+        for command in commands:
+            run(*command, inside=True)
+            time.sleep(2)
+            place = self.open()
+            seen.append(max(pixels((place[0] + place[2] // 2, place[1] + place[3] - 40, 1, 1))[0]) if place else -1)
+            picture(f"4-theme-{len(seen)}")
+            if len(seen) == 1:
+                self.picture_of_item()
+        tell("theme", 0 <= seen[0] < 110 and seen[1] > 160, str(seen))
+
+    def menu(self):
+        self.program.window() and screen.press("Escape")
+        self.program.is_closed()
+        screen.move_pointer(*WALLPAPER)
+        screen.wait_for_rest()
+        time.sleep(0.5)
+        before = pixels()
+        click(*self.middle, button=1 if DESKTOP == "gnome" else 3)
+        time.sleep(1.2)
+        picture("5-menu")
+        menu = bounding_box(before, pixels(), WIDTH)
+        for key in ("Down", "Down", "Return"):  # "Open Keldra", then "mount disk0s1"
+            screen.press(key)
+            time.sleep(0.2)
+        mounted = wait_for(lambda: any("disk0s1" in path for path in os.listdir("/tmp")), 0.1)
+        time.sleep(1.5)
+        picture("6-after-menu")
+        tell("menu", menu and menu[2] > 60 and not self.program.window(), f"{menu} {mounted or ''}")
+
+
+def visit_without_tray():
+    started = time.monotonic()
+    program = Keldra(PROGRAM, write_machine())
+    opened = program.is_open(4)
+    tell("no tray", opened and time.monotonic() - started < 2.6, f"{time.monotonic() - started:.1f} s")
+    picture("7-no-tray")
+    program.end()
+
+
+def main():
+    settle()
+    if NO_TRAY:
+        return visit_without_tray()
+    visit = Visit()
+    try:
+        if not visit.item:
+            return None
+        for step in (visit.picture_of_item, visit.place, visit.again, visit.windows, visit.busy, visit.info,
+                     visit.menu, visit.theme):
+            try:
+                step()
+            except Exception as problem:  # the other cells can be seen all the same
+                tell(step.__name__, False, f"{type(problem).__name__}: {problem}")
+    finally:
+        visit.program.end()
+
+
+if __name__ == "__main__":
+    (ROOM / "display").write_text(os.environ["DISPLAY"])
+    main()
