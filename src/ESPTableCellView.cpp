@@ -103,3 +103,5 @@ void ESPTableCellView::arrange() {
   const int left = margin + image + look.scaled(12);
   put(textField(), {left, 0, right - look.scaled(14) - left, height()});
 }
+
+#include "moc_ESPTableCellView.cpp"

@@ -78,3 +78,5 @@ void MachineTree::add(const SimulatedDisk &disk, const QString &state) {
                  shortened(partition.volumeName), placeOf(partition), answersOf(partition)});
   }
 }
+
+#include "moc_MachineTree.cpp"

@@ -176,3 +176,5 @@ int MachineWindow::selectedUnit() const {
   const QString afterDisk = _tree->selectedName().mid(4);
   return afterDisk.isEmpty() ? -1 : afterDisk.section(u's', 0, 0).toInt();
 }
+
+#include "moc_MachineWindow.cpp"

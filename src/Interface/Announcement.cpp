@@ -15,3 +15,5 @@ void Announcement::hideEvent(QHideEvent *event) {
   QWidget::hideEvent(event);
   hide();  // or it would be said again when the parent shows again
 }
+
+#include "moc_Announcement.cpp"

@@ -43,3 +43,5 @@ void CheckBox::nextCheckState() {
 bool CheckBox::hitButton(const QPoint &position) const {
   return rect().contains(position);
 }
+
+#include "moc_CheckBox.cpp"

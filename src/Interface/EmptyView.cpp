@@ -43,3 +43,5 @@ void EmptyView::paintEvent(QPaintEvent *) {
   place.setTop(headline.bottom() + 1 + look.scaled(6));
   painter.drawText(place, kTextFlags, _advice);
 }
+
+#include "moc_EmptyView.cpp"

@@ -46,3 +46,5 @@ void ImageView::paintEvent(QPaintEvent *) {
   QPainter(this).drawPixmap(QPointF((width() - shown.width()) / 2, (height() - shown.height()) / 2),
                             pixmap);
 }
+
+#include "moc_ImageView.cpp"

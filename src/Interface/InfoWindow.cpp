@@ -148,3 +148,5 @@ void InfoWindow::center() {
   place.moveCenter(screen()->availableGeometry().center());
   move(place.topLeft());
 }
+
+#include "moc_InfoWindow.cpp"

@@ -69,3 +69,5 @@ bool InputGate::eventFilter(QObject *watched, QEvent *event) {
   if (swallowed) event->accept();
   return swallowed;
 }
+
+#include "moc_InputGate.cpp"

@@ -46,3 +46,5 @@ void Notice::updateLook() {
   changed.setColor(QPalette::WindowText, look.red);
   setPalette(changed);
 }
+
+#include "moc_Notice.cpp"

@@ -251,3 +251,5 @@ void Popover::paintEvent(QPaintEvent *) {
   if (_frame.isNull() || _frame.devicePixelRatio() != devicePixelRatioF()) _frame = paintedFrame();
   QPainter(this).drawPixmap(0, 0, _frame);
 }
+
+#include "moc_Popover.cpp"

@@ -169,3 +169,5 @@ void RowButton::paintSpinner(QPainter &painter, const Look &look, const QRectF &
   painter.setPen(QPen(look.accent, 2, Qt::SolidLine, Qt::RoundCap));
   painter.drawArc(ring, (90 - spinnerAngle()) * kSixteenths, 100 * kSixteenths);
 }
+
+#include "moc_RowButton.cpp"

@@ -65,3 +65,5 @@ void RowTextField::paintEvent(QPaintEvent *) {
     top += place.height();
   }
 }
+
+#include "moc_RowTextField.cpp"

@@ -48,3 +48,5 @@ void StatusItem::activated() {
   const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
   if (!isWithin(_openedAt, doubleClick)) emit dismissal();
 }
+
+#include "moc_StatusItem.cpp"

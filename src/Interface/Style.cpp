@@ -184,3 +184,5 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
   painter->setRenderHint(QPainter::Antialiasing);
   paintPanel(painter, handle, handle.width() / 2, Qt::NoPen, isMeant ? look.dimText : look.outline);
 }
+
+#include "moc_Style.cpp"

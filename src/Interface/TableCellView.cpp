@@ -13,3 +13,5 @@ TableCellView::TableCellView(QWidget *parent)
     QAccessible::updateAccessibility(&event);
   });
 }
+
+#include "moc_TableCellView.cpp"

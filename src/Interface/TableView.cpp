@@ -237,3 +237,5 @@ void TableView::paintEvent(QPaintEvent *) {
   const bool byKeyboard = window()->testAttribute(Qt::WA_KeyboardFocusChange);
   if (hasFocus() && byKeyboard && _selectedRow < 0) paintPanel(rect(), true, Qt::NoBrush);
 }
+
+#include "moc_TableView.cpp"

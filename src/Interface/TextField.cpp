@@ -99,3 +99,5 @@ void TextField::paintEvent(QPaintEvent *) {
       rect(), side | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
       painter.fontMetrics().elidedText(printable(stringValue()), Qt::ElideMiddle, width()));
 }
+
+#include "moc_TextField.cpp"

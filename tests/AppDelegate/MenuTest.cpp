@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMenu>
+#include <QTimer>
 
 #include "support/TestMachine.h"
 

@@ -11,12 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kLargestFile = 64 * 1024;
+constexpr qint64 kLargestSettings = 64 * 1024;
 const QByteArray kGroup = "General";
 
 /// Absent, and the log says why, where there is a file that cannot be read.
 std::optional<KeyFile> readSettings(const QString &fileName) {
-  const auto content = readPlainFile(QFile::encodeName(fileName), kLargestFile);
+  const auto content = readPlainFile(QFile::encodeName(fileName), kLargestSettings);
   if (const auto *bytes = std::get_if<QByteArray>(&content)) return KeyFile(*bytes);
   const Error &problem = std::get<Error>(content);
   if (problem.code == ENOENT) return KeyFile({});

@@ -11,7 +11,7 @@
 namespace {
 
 // Icons have some hundred kilobytes: whatever is larger is none.
-constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+constexpr qint64 kLargestIcon = 16 * 1024 * 1024;
 
 FileStamp stampOf(const struct stat &status) {
 #ifdef __APPLE__
@@ -33,7 +33,7 @@ IconFile readIconFile(const QString &path, const FileStamp &known) {
   if (lstat(name.constData(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
   const FileStamp stamp = stampOf(status);
   if (stamp == known) return {stamp, {}};
-  const auto bytes = readPlainFile(name, kLargestFile, Links::Refused);
+  const auto bytes = readPlainFile(name, kLargestIcon, Links::Refused);
   if (const auto *read = std::get_if<QByteArray>(&bytes)) return {stamp, iconFromBytes(*read)};
   return {};
 }

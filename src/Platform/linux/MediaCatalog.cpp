@@ -19,7 +19,7 @@ QString diskOf(const ServiceObject &partition) {
 }
 
 WholeDisk wholeDisk(const ServiceObject &block) {
-  return {kernelNameOf(block), block.number(kBlockInterface, u"DeviceNumber"_s).value_or(0)};
+  return {kernelNameOf(block), block.device()};
 }
 
 }  // namespace

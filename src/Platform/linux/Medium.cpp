@@ -10,12 +10,8 @@ namespace {
 
 constexpr int kLargestSlice = 1'000'000;
 
-quint64 deviceOf(const ServiceObject &block) {
-  return block.number(kBlockInterface, u"DeviceNumber"_s).value_or(0);
-}
-
 bool holdsSomething(const ServiceObject &block) {
-  return deviceOf(block) != 0 && block.number(kBlockInterface, u"Size"_s).value_or(0) > 0;
+  return block.device() != 0 && block.number(kBlockInterface, u"Size"_s).value_or(0) > 0;
 }
 
 template <typename Value>
@@ -57,7 +53,7 @@ Medium describeBlock(const QString &path, const ServiceObject &block, int unit, 
   Medium medium{path,
                 unit,
                 slice,
-                deviceOf(block),
+                block.device(),
                 block.text(kBlockInterface, u"IdLabel"_s).value_or(QString()),
                 block.text(kBlockInterface, u"IdVersion"_s).value_or(QString()),
                 {}};

@@ -150,3 +150,5 @@ bool MessageBus::waitForConnection(std::chrono::milliseconds patience) {
   if (poll(&answer, 1, static_cast<int>(patience.count())) > 0) takeAnswer();
   return _connection.isConnected();
 }
+
+#include "moc_MessageBus.cpp"

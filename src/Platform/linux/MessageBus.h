@@ -12,6 +12,7 @@
 #include <QObject>
 #include <QTimer>
 #include <chrono>
+#include <limits>
 
 class QSocketNotifier;
 
@@ -24,6 +25,9 @@ class MessageBus final : public QObject {
   /// desktop uses, are connected to without a greeting, and that may wait.
   explicit MessageBus(const QString &address);
   ~MessageBus() override;
+
+  /// For calls whose answers may take as long as they like: a person is typing a password, or nobody waits.
+  static constexpr int kNoTimeOut = std::numeric_limits<int>::max();
 
   static QString systemAddress();
   static QString sessionAddress();

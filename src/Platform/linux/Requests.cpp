@@ -5,10 +5,10 @@
 #include <QTimer>
 #include <algorithm>
 #include <cerrno>
-#include <limits>
 #include <utility>
 
 #include "Foundation/SystemLog.h"
+#include "Platform/linux/MessageBus.h"
 #include "Platform/linux/Refusals.h"
 #include "Platform/linux/ServiceTree.h"
 #include "Platform/linux/VolumeHelpers.h"
@@ -17,9 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// A person may be typing a password.
-constexpr int kNoTimeOut = std::numeric_limits<int>::max();
 
 constexpr std::chrono::seconds kFlushTime(5);
 
@@ -79,7 +76,8 @@ void Requests::send(Number number) {
                                              kFilesystemInterface, request->method);
   call.setArguments({request->options});
   call.setInteractiveAuthorizationAllowed(true);
-  auto *watcher = new QDBusPendingCallWatcher(_tree.connection().asyncCall(call, kNoTimeOut), this);
+  auto *watcher =
+      new QDBusPendingCallWatcher(_tree.connection().asyncCall(call, MessageBus::kNoTimeOut), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, number, watcher] {
     watcher->deleteLater();
     takeAnswer(number, watcher->reply());

@@ -37,6 +37,11 @@ class ServiceObject {
   /// The path of another object. Empty when absent or when it points to none ("/").
   QString link(const QString &interface, const QString &property) const;
 
+  /// The kernel's number of a block device; 0 when absent.
+  quint64 device() const {
+    return number(kBlockInterface, QStringLiteral("DeviceNumber")).value_or(0);
+  }
+
   void add(const InterfaceMap &interfaces);
   void remove(const QStringList &interfaces);
   /// Nothing happens when the object has no such interface.

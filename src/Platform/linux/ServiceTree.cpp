@@ -7,7 +7,6 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <algorithm>
-#include <limits>
 
 #include "Foundation/SystemLog.h"
 
@@ -23,9 +22,6 @@ const QString kObjectManager = u"org.freedesktop.DBus.ObjectManager"_s;
 const QString kProperties = u"org.freedesktop.DBus.Properties"_s;
 const QString kBus = u"org.freedesktop.DBus"_s;
 
-// Nobody waits for the tree, so that a slow answer is as good as a quick one.
-constexpr int kNoTimeOut = std::numeric_limits<int>::max();
-
 // A service that lives no longer than this is dying again and again.
 constexpr auto kShortLife = 10s;
 constexpr auto kFirstDelay = 50ms;
@@ -34,10 +30,6 @@ constexpr auto kLongestDelay = 2000ms;
 // Jobs come and go with every operation and say nothing of disks.
 bool isJob(const QString &path) {
   return path.startsWith(u"/org/freedesktop/UDisks2/jobs/"_s);
-}
-
-quint64 deviceOf(const ServiceObject &object) {
-  return object.number(kBlockInterface, u"DeviceNumber"_s).value_or(0);
 }
 
 }  // namespace
@@ -95,7 +87,8 @@ void ServiceTree::fetch() {
   _sinceFetch.start();
   const auto question = QDBusMessage::createMethodCall(kDiskServiceName, kRootPath, kObjectManager,
                                                        u"GetManagedObjects"_s);
-  _fetching = new QDBusPendingCallWatcher(connection().asyncCall(question, kNoTimeOut), this);
+  _fetching =
+      new QDBusPendingCallWatcher(connection().asyncCall(question, MessageBus::kNoTimeOut), this);
   connect(_fetching, &QDBusPendingCallWatcher::finished, this, &ServiceTree::takeTree);
 }
 
@@ -194,7 +187,7 @@ void ServiceTree::removeInterfaces(const QDBusMessage &message) {
   const QStringList interfaces = message.arguments().at(1).toStringList();
   const auto object = _objects.find(path);
   if (object == _objects.end()) return;
-  const quint64 device = deviceOf(*object);
+  const quint64 device = object->device();
   object->remove(interfaces);
   if (object->isEmpty()) _objects.erase(object);
   noteChange(path);
@@ -210,8 +203,10 @@ void ServiceTree::changeProperties(const QDBusMessage &message) {
   object->change(message.arguments().at(0).toString(),
                  qdbus_cast<QVariantMap>(message.arguments().at(1)),
                  message.arguments().at(2).toStringList());
-  const quint64 device = deviceOf(*object);
+  const quint64 device = object->device();
   const bool isRenamed = label() != labelBefore;
   noteChange(message.path());
   if (isRenamed) emit labelChanged(device);
 }
+
+#include "moc_ServiceTree.cpp"

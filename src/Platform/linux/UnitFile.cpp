@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kLargestFile = 1024 * 1024;
+constexpr qint64 kLargestUnitFile = 1024 * 1024;
 constexpr int kNumberLimit = 1'000'000;
 
 bool isNumber(const QJsonValue &value) {
@@ -23,7 +23,7 @@ bool isNumber(const QJsonValue &value) {
 UnitFile::UnitFile(QString path, QString boot) : _path(std::move(path)), _boot(std::move(boot)) {}
 
 Units UnitFile::read() const {
-  const auto file = readPlainFile(QFile::encodeName(_path), kLargestFile);
+  const auto file = readPlainFile(QFile::encodeName(_path), kLargestUnitFile);
   const auto *bytes = std::get_if<QByteArray>(&file);
   if (bytes == nullptr) return {};
   const QJsonObject content = QJsonDocument::fromJson(*bytes).object();

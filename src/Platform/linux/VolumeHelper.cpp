@@ -117,10 +117,10 @@ void VolumeHelper::ask(const QByteArray &question, Handler handler) {
 }
 
 void VolumeHelper::serve(std::chrono::milliseconds atMost) {
-  using Clock = std::chrono::steady_clock;
-  const auto deadline = Clock::now() + atMost;
+  const auto deadline = std::chrono::steady_clock::now() + atMost;
   while (!isIdle() && !hasEnded()) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
     if (left.count() <= 0) return;
     pollfd waiting{_socket, POLLIN, 0};
     if (poll(&waiting, 1, static_cast<int>(left.count())) > 0) takeAnswers();

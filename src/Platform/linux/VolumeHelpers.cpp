@@ -57,7 +57,6 @@ void VolumeHelpers::ask(const Mount &volume, const QByteArray &question,
 }
 
 std::optional<QByteArray> VolumeHelpers::answer(const Mount &volume, const QByteArray &question) {
-  using Clock = std::chrono::steady_clock;
   if (!_isTellingLate) _lateAnswers.clear();
   const auto late = _lateAnswers.constFind(question);
   if (late != _lateAnswers.constEnd()) return *late;
@@ -72,7 +71,7 @@ std::optional<QByteArray> VolumeHelpers::answer(const Mount &volume, const QByte
     bool isOver = false;
   };
   const auto wait = std::make_shared<Wait>();
-  const auto start = Clock::now();
+  const auto start = std::chrono::steady_clock::now();
   ask(volume, question, [this, wait, question](const QByteArray &answer) {
     wait->answer = answer;
     if (!wait->isOver) return;
@@ -82,7 +81,7 @@ std::optional<QByteArray> VolumeHelpers::answer(const Mount &volume, const QByte
   if (const Helper helper = _busy.value(volume)) {
     helper->serve(std::chrono::ceil<std::chrono::milliseconds>(kPatience - _spent));
   }
-  spend(Clock::now() - start);
+  spend(std::chrono::steady_clock::now() - start);
   wait->isOver = true;
   return wait->answer;
 }

@@ -15,7 +15,7 @@
 #include "Platform/macos/MacRunLoop.h"
 #include "Platform/macos/MacSystemFiles.h"
 #include "Platform/macos/MacUserDefaults.h"
-#include "Platform/macos/VolumeUsers.h"
+#include "Platform/macos/MacVolumeUsers.h"
 #include "Platform/macos/VolumeWatcher.h"
 
 using namespace Qt::StringLiterals;
@@ -33,7 +33,7 @@ class MacVolumeFiles final : public DirectVolumeFiles {
   }
   void findProcessesUsing(const QString &mountPoint,
                           std::function<void(const QStringList &)> answer) override {
-    answer(processesUsingVolume(mountPoint));
+    answer(programsUsingVolume(mountPoint));
   }
 
  private:

@@ -108,3 +108,5 @@ void VolumeWatcher::notePath(const QString &media, const QString &path) {
     emit renamed(path);
   }
 }
+
+#include "moc_VolumeWatcher.cpp"

@@ -94,3 +94,5 @@ void ColorScheme::take(const QString &key, const QVariant &value) {
     if (std::exchange(_accent, accent) != accent) emit changed();
   }
 }
+
+#include "moc_ColorScheme.cpp"

@@ -6,7 +6,7 @@
 
 #include "Foundation/SystemLog.h"
 #include "Platform/Desktop.h"
-#include "Platform/linux/desktop/Notifications.h"
+#include "Platform/linux/desktop/DesktopNotifications.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -110,3 +110,5 @@ void InstanceInterface::Activate(const QVariantMap &platformData) {
   if (!token.isEmpty() && token.size() <= kLongest) qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
   emit _instance.activated();
 }
+
+#include "moc_Instance.cpp"

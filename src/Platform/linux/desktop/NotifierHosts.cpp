@@ -45,3 +45,5 @@ void NotifierHosts::takeAnswer(QDBusPendingCallWatcher *call) {
   if (reply.error().type() == QDBusError::NoReply) return ask();
   emit answered(!reply.isError() && reply.value().variant().toBool());
 }
+
+#include "moc_NotifierHosts.cpp"

@@ -88,3 +88,5 @@ QString NotifierInterface::title() const {
 QDBusObjectPath NotifierInterface::menu() const {
   return QDBusObjectPath(kMenuPath);
 }
+
+#include "moc_NotifierItem.cpp"

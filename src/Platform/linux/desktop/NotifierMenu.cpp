@@ -17,11 +17,11 @@ void NotifierMenu::setMenu(QMenu *menu) {
   tellPanels();
 }
 
-bool NotifierMenu::eventFilter(QObject *watched, QEvent *event) {
+bool NotifierMenu::eventFilter(QObject * /*menu*/, QEvent *event) {
   const bool isChange = event->type() == QEvent::ActionAdded ||
                         event->type() == QEvent::ActionRemoved ||
                         event->type() == QEvent::ActionChanged;
-  if (watched != _menu || !isChange || std::exchange(_willTell, true)) return false;
+  if (!isChange || std::exchange(_willTell, true)) return false;
   QMetaObject::invokeMethod(this, &NotifierMenu::tellPanels, Qt::QueuedConnection);
   return false;
 }
@@ -114,3 +114,5 @@ QList<int> NotifierMenu::AboutToShowGroup(const QList<int> & /*ids*/, QList<int>
   errors.clear();
   return {};
 }
+
+#include "moc_NotifierMenu.cpp"

@@ -4,7 +4,6 @@
 
 #include <QRegularExpression>
 #include <QtEndian>
-#include <string_view>
 #include <utility>
 
 #include "Platform/linux/desktop/XcbReply.h"
@@ -15,13 +14,6 @@ namespace {
 
 // Far more than any desktop has.
 constexpr uint32_t kMostWords = 1U << 16;
-
-xcb_atom_t atom(xcb_connection_t *server, std::string_view name) {
-  const auto cookie =
-      xcb_intern_atom(server, false, static_cast<uint16_t>(name.size()), name.data());
-  const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(server, cookie, nullptr));
-  return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
 
 void listenTo(xcb_connection_t *server, xcb_window_t window) {
   const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
@@ -149,3 +141,5 @@ void XSettings::readSettings() {
   const QString themeName = textSettings(property).value("Net/ThemeName");
   if (std::exchange(_themeName, themeName) != themeName) emit changed();
 }
+
+#include "moc_XSettings.cpp"

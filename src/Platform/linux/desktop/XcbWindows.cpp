@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QWidget>
 #include <array>
-#include <string_view>
 
 #include "Platform/linux/desktop/XcbReply.h"
 
@@ -16,13 +15,6 @@ namespace {
 xcb_connection_t *connection() {
   const auto *application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   return application ? application->connection() : nullptr;
-}
-
-xcb_atom_t atom(xcb_connection_t *server, std::string_view name) {
-  const auto cookie =
-      xcb_intern_atom(server, false, static_cast<uint16_t>(name.size()), name.data());
-  const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(server, cookie, nullptr));
-  return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
 bool hasCompositor(xcb_connection_t *server) {

@@ -1,4 +1,4 @@
-#include "Platform/linux/desktop/Notifications.h"
+#include "Platform/linux/desktop/DesktopNotifications.h"
 
 #include <QDBusPendingCallWatcher>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "Platform/macos/VolumeUsers.h"
+#include "Platform/macos/MacVolumeUsers.h"
 
 #include <libproc.h>
 
@@ -19,7 +19,7 @@ QString nameOf(int process) {
 
 }  // namespace
 
-QStringList processesUsingVolume(const QString &mountPoint) {
+QStringList programsUsingVolume(const QString &mountPoint) {
   // Who only watches the volume for changes does not hold it.
   constexpr auto kHolders = PROC_LISTPIDSPATH_PATH_IS_VOLUME | PROC_LISTPIDSPATH_EXCLUDE_EVTONLY;
   std::vector<int> processes(kMostProcesses);

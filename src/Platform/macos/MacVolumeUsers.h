@@ -3,4 +3,4 @@
 #include <QStringList>
 
 /// As `VolumeFiles::findProcessesUsing`; blocks for some milliseconds.
-QStringList processesUsingVolume(const QString &mountPoint);
+QStringList programsUsingVolume(const QString &mountPoint);
