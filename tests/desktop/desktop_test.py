@@ -46,11 +46,15 @@ class DesktopTest(unittest.TestCase):
         self.addCleanup(self.end, process)
         return process
 
-    def wait_for(self, what, condition):
-        deadline = time.monotonic() + 10
-        while not condition():
-            self.assertLess(time.monotonic(), deadline, what)
+    @staticmethod
+    def comes_true(condition, patience_s=2):
+        deadline = time.monotonic() + patience_s
+        while not (value := condition()) and time.monotonic() < deadline:
             time.sleep(0.03)
+        return value
+
+    def wait_for(self, what, condition):
+        self.assertTrue(self.comes_true(condition, 10), what)
 
     @staticmethod
     def end(process):

@@ -123,10 +123,11 @@ class Program:
         return self._process.poll() is None
 
     def end(self):
-        """In any case, and at once if need be."""
+        """In any case, and at once if need be. What it says by its status counts, as at any other end."""
         if self._process.poll() is None:
             self._process.terminate()
-            with contextlib.suppress(subprocess.TimeoutExpired):
-                self._process.wait(5)
+        try:
+            self.wait_for_end()
+        finally:
             self._process.kill()
             self._process.wait()

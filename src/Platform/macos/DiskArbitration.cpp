@@ -56,14 +56,14 @@ void insertValue(DiskArbitration::Record &record, CFDictionaryRef description, C
 }
 
 void insertIcon(DiskArbitration::Record &record, CFDictionaryRef description) {
-  const CFTypeRef icon = CFDictionaryGetValue(description, kDADiskDescriptionMediaIconKey);
+  const CFTypeRef icon = CFDictionaryGetValue(description, ::kDADiskDescriptionMediaIconKey);
   if (icon == nullptr) return;
   QVariantMap values;
   for (const QString &key :
        {QStringLiteral("CFBundleIdentifier"), QStringLiteral("IOBundleResourceFile")}) {
     if (const QVariant value = valueIn(icon, key); value.isValid()) values.insert(key, value);
   }
-  record.insert(*textOf(kDADiskDescriptionMediaIconKey), values);
+  record.insert(*textOf(::kDADiskDescriptionMediaIconKey), values);
 }
 
 std::optional<DiskArbitration::Record> recordOf(const Owned<DADiskRef> &disk) {
@@ -72,13 +72,13 @@ std::optional<DiskArbitration::Record> recordOf(const Owned<DADiskRef> &disk) {
   if (!description) return std::nullopt;
   DiskArbitration::Record record;
   for (const CFStringRef key :
-       {kDADiskDescriptionMediaBSDNameKey, kDADiskDescriptionMediaBSDUnitKey,
-        kDADiskDescriptionMediaNameKey, kDADiskDescriptionMediaContentKey,
-        kDADiskDescriptionMediaUUIDKey, kDADiskDescriptionMediaWritableKey,
-        kDADiskDescriptionMediaEjectableKey, kDADiskDescriptionVolumeNameKey,
-        kDADiskDescriptionVolumePathKey, kDADiskDescriptionVolumeKindKey,
-        kDADiskDescriptionVolumeUUIDKey, kDADiskDescriptionDeviceProtocolKey,
-        kDADiskDescriptionDeviceInternalKey}) {
+       {::kDADiskDescriptionMediaBSDNameKey, ::kDADiskDescriptionMediaBSDUnitKey,
+        ::kDADiskDescriptionMediaNameKey, ::kDADiskDescriptionMediaContentKey,
+        ::kDADiskDescriptionMediaUUIDKey, ::kDADiskDescriptionMediaWritableKey,
+        ::kDADiskDescriptionMediaEjectableKey, ::kDADiskDescriptionVolumeNameKey,
+        ::kDADiskDescriptionVolumePathKey, ::kDADiskDescriptionVolumeKindKey,
+        ::kDADiskDescriptionVolumeUUIDKey, ::kDADiskDescriptionDeviceProtocolKey,
+        ::kDADiskDescriptionDeviceInternalKey}) {
     insertValue(record, description.get(), key);
   }
   insertIcon(record, description.get());
@@ -115,7 +115,7 @@ void DiskArbitration::ask(const QString &bsdName, Completion completion, Questio
   Owned<DASessionRef> session = openSession();
   Owned<DADiskRef> disk = diskNamed(bsdName, session);
   if (!disk)
-    return completion(static_cast<quint32>(session ? kDAReturnNotFound : kDAReturnNotReady));
+    return completion(static_cast<quint32>(session ? ::kDAReturnNotFound : ::kDAReturnNotReady));
   DASessionScheduleWithRunLoop(session.get(), CFRunLoopGetMain(), kCFRunLoopDefaultMode);
   const auto request = _requests.emplace_back(std::make_shared<Request>());
   request->service = this;

@@ -18,12 +18,12 @@ void setUuid(DiskDescription &description, const QString &key) {
 
 // The service also knows the name of a volume that is not mounted.
 DiskDescription descriptionFrom(DiskArbitration::Record record) {
-  const bool isMounted = record.contains(kDADiskDescriptionVolumePathKey);
-  if (!isMounted || record.value(kDADiskDescriptionVolumeNameKey).toString().isEmpty()) {
-    record.remove(kDADiskDescriptionVolumeNameKey);
+  const bool isMounted = record.contains(disk_service::kDADiskDescriptionVolumePathKey);
+  if (!isMounted || record.value(disk_service::kDADiskDescriptionVolumeNameKey).toString().isEmpty()) {
+    record.remove(disk_service::kDADiskDescriptionVolumeNameKey);
   }
-  setUuid(record, kDADiskDescriptionMediaUUIDKey);
-  setUuid(record, kDADiskDescriptionVolumeUUIDKey);
+  setUuid(record, disk_service::kDADiskDescriptionMediaUUIDKey);
+  setUuid(record, disk_service::kDADiskDescriptionVolumeUUIDKey);
   return record;
 }
 
@@ -48,7 +48,7 @@ std::optional<DiskDescription> MacDiskService::descriptionOfVolume(
     const QString &mountPoint) const {
   auto record = DiskArbitration::recordOfVolume(mountPoint);
   if (!record) return std::nullopt;
-  const QUrl path = record->value(kDADiskDescriptionVolumePathKey).toUrl();
+  const QUrl path = record->value(disk_service::kDADiskDescriptionVolumePathKey).toUrl();
   // In one of the forms that accents have, as the path came through the file system's.
   const QString wanted = QFile::decodeName(QFile::encodeName(mountPoint));
   if (path.toLocalFile() != wanted) return std::nullopt;
@@ -58,9 +58,9 @@ std::optional<DiskDescription> MacDiskService::descriptionOfVolume(
 // The service takes an unknown disk for a bad argument, and hands on that the volume was busy as the
 // system said it.
 DissenterStatus MacDiskService::inWordsOfTheSeam(const QString &bsdName, quint32 status) const {
-  if (status == unixErrorStatus(EBUSY)) return kDAReturnBusy;
-  const bool isUnknown = status == kDAReturnBadArgument && !descriptionOfMedia(bsdName);
-  return isUnknown ? kDAReturnNotFound : status;
+  if (status == unixErrorStatus(EBUSY)) return disk_service::kDAReturnBusy;
+  const bool isUnknown = status == disk_service::kDAReturnBadArgument && !descriptionOfMedia(bsdName);
+  return isUnknown ? disk_service::kDAReturnNotFound : status;
 }
 
 void MacDiskService::mount(const QString &bsdName, const std::optional<QString> &path,

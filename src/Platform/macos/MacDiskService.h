@@ -19,7 +19,7 @@ class MacDiskService final : public DiskService {
   void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
 
   /// Completes what is under way: the service that it was asked of is gone.
-  void noteServiceStart() { _arbitration.answerAll(kDAReturnNotReady); }
+  void noteServiceStart() { _arbitration.answerAll(disk_service::kDAReturnNotReady); }
 
  private:
   DissenterStatus inWordsOfTheSeam(const QString &bsdName, quint32 status) const;

@@ -88,7 +88,7 @@ class MacPlatform final : public MachinePlatform {
 
   bool isOnInternalDisk(const QString &path) const {
     const auto volume = _disks.descriptionOfVolume(QFileInfo(path).path());
-    return volume && volume->value(kDADiskDescriptionDeviceInternalKey).toBool();
+    return volume && volume->value(disk_service::kDADiskDescriptionDeviceInternalKey).toBool();
   }
 
   MacRunLoop _runLoop;

@@ -34,7 +34,7 @@ struct VolumeWatcher::Session {
   static void tell(DADiskRef disk, void *context) {
     const Owned<CFDictionaryRef> description(DADiskCopyDescription(disk));
     const CFTypeRef path =
-        description ? CFDictionaryGetValue(description.get(), kDADiskDescriptionVolumePathKey)
+        description ? CFDictionaryGetValue(description.get(), ::kDADiskDescriptionVolumePathKey)
                     : nullptr;
     (static_cast<Session *>(context)->watcher.*note)(QString::fromUtf8(DADiskGetBSDName(disk)),
                                                      pathOf(path).value_or(QString()));
