@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "Application/Outlets.h"
 #include "DiskArbitrator/DiskArbitrator.h"
-#include "application.h"
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;

@@ -34,7 +34,7 @@ Error setUpFailed(const Error &underlying) {
 }  // namespace
 
 QString AppDelegate::applicationDocumentsDirectory() const {
-  return _platform.applicationSupportFolder() + u"/com.Brinmoor.Keldra"_s;
+  return _platform.folders().support + u"/com.Brinmoor.Keldra"_s;
 }
 
 ManagedObjectModel *AppDelegate::managedObjectModel() {

@@ -1,5 +1,5 @@
-#include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/GetDADiskDescription.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +32,7 @@ QStringList DiskArbitrator::getListOfMountedMedia() {
   Platform &platform = Platform::current();
   QStringList names;
   for (const FolderEntry &entry :
-       platform.volumeFiles().entries(platform.volumesFolder()).value_or(QList<FolderEntry>())) {
+       platform.volumeFiles().entries(platform.folders().volumes).value_or(QList<FolderEntry>())) {
     if (entry.isFolder) names += entry.name;
   }
 

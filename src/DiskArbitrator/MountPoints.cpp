@@ -1,5 +1,5 @@
-#include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/GetDADiskDescription.h"
 #include "Foundation/Paths.h"
 
 using namespace Qt::StringLiterals;

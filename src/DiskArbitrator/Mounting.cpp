@@ -37,6 +37,17 @@ void waitUntilMounted(const QString &partition) {
 
 }  // namespace
 
+const void *DiskArbitrator::sender() {
+  // There are no instances, so a constant of the class stands for it.
+  return &kEFISystemPartition;
+}
+
+void DiskArbitrator::sendNotificationWithMessage(const QString &message) {
+  if (message.isEmpty()) return;
+  NotificationCenter::defaultCenter().post(
+      {kArbitratorNotification, sender(), {{kNoteKey, message}}});
+}
+
 bool DiskArbitrator::mountPartition(const QString &partition,
                                     const std::optional<QString> &atPath) {
   if (isThere(findMountPoint(partition))) return true;

@@ -49,7 +49,7 @@ QString DiskArbitrator::findMountPointLegacy(const QString &reference) {
 bool DiskArbitrator::mountPartitionModeLegacy(const QString &partition,
                                               const std::optional<QString> &atPath) {
   Platform &platform = Platform::current();
-  QString base = platform.legacyVolumesFolder() + "/EFI"_L1;
+  QString base = platform.folders().legacyVolumes + "/EFI"_L1;
   if (atPath.has_value() && *atPath != "(null)"_L1) {
     if (isMountPointValid(*atPath)) return isSameDisk(partition, *atPath);
     base = *atPath;

@@ -1,7 +1,7 @@
 // Questions that touch the mounted file system or the device.
 
-#include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/GetDADiskDescription.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include <QFileInfo>
 
-#include "DiskArbitrator/DescriptionValues.h"
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/GetDADiskDescription.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,7 +19,8 @@ std::optional<QString> volumeIconPath(const QString &partition) {
 QImage mediaIconOf(const QString &partition, const std::optional<QString> &volumeIcon) {
   Platform &platform = Platform::current();
   const QVariantMap record = descriptionValue(partition, kDADiskDescriptionMediaIconKey).toMap();
-  const auto bundle = platform.driverBundle(record.value(kMediaIconBundleKey).toString());
+  const auto bundle =
+      platform.systemFiles().driverBundle(record.value(kMediaIconBundleKey).toString());
   if (!bundle) return {};
   const SystemFiles &files = Platform::current().systemFiles();
   const QFileInfo file(record.value(kMediaIconFileKey).toString());

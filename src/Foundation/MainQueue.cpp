@@ -18,8 +18,7 @@ MainQueue::Hold::~Hold() {
 void MainQueue::schedule() {
   if (_isScheduled || _holds > 0 || _jobs.empty()) return;
   _isScheduled = true;
-  QMetaObject::invokeMethod(
-      this, [this] { runJobs(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &MainQueue::runJobs, Qt::QueuedConnection);
 }
 
 void MainQueue::runJobs() {

@@ -76,7 +76,7 @@ void syncFolder(const QByteArray &path) {
 }
 
 bool isStillAt(const QByteArray &path, const struct stat &opened) {
-  struct stat found {};
+  struct stat found = {};
   return lstat(path.constData(), &found) == 0 && found.st_ino == opened.st_ino &&
          found.st_dev == opened.st_dev;
 }
@@ -86,7 +86,7 @@ bool isStillAt(const QByteArray &path, const struct stat &opened) {
 std::variant<QByteArray, Error> readPlainFile(const QByteArray &path, qint64 mostBytes,
                                               Links links) {
   // Looked at before it is opened too: opening alone does something to some devices.
-  struct stat status {};
+  struct stat status = {};
   const bool isFollowed = links == Links::Followed;
   const auto look = isFollowed ? stat : lstat;
   if (look(path.constData(), &status) != 0) return posixError(errno);
@@ -110,7 +110,7 @@ PlainFileWriter::~PlainFileWriter() {
 }
 
 std::optional<Error> PlainFileWriter::prepare() {
-  struct stat status {};
+  struct stat status = {};
   if (stat(_path.constData(), &status) == 0) {
     if (!S_ISREG(status.st_mode)) return noPlainFile();
     const QString target = QFileInfo(QFile::decodeName(_path)).canonicalFilePath();
@@ -130,7 +130,7 @@ std::optional<Error> PlainFileWriter::openBeside() {
   QDeadlineTimer deadline(kLongestWait);
   for (;;) {
     _beside = open(name.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | kFlags, kForAll);
-    struct stat status {};
+    struct stat status = {};
     if (_beside < 0 || fstat(_beside, &status) != 0) return posixError(errno);
     const bool isPlain = S_ISREG(status.st_mode) && status.st_nlink <= 1;
     // The one who had the lock before may have given the file its real name, or removed it.
@@ -150,7 +150,7 @@ bool PlainFileWriter::holdsAlready(const QByteArray &bytes) const {
 }
 
 std::optional<Error> PlainFileWriter::replace(const QByteArray &bytes) {
-  struct stat old {};
+  struct stat old = {};
   const bool isNew = stat(_path.constData(), &old) != 0;
   // Root, who may write everybody's files, leaves them to their owners.
   if (!isNew && geteuid() == 0 && fchown(_beside, old.st_uid, old.st_gid) != 0)

@@ -118,6 +118,16 @@ class SystemFiles {
   /// empty when the bundle has none. Absent when there is no bundle at that path.
   virtual std::optional<QString> bundleResource(const QString &bundle, const QString &name,
                                                 const QString &type) const = 0;
+
+  /// Where the driver bundle with this identifier is. Absent when there is none.
+  virtual std::optional<QString> driverBundle(const QString &identifier) const = 0;
+};
+
+/// Where things of this user are, as absolute paths. They need not be there.
+struct Folders {
+  QString volumes;        // the system mounts volumes below it: "/Volumes", "/media/alex"
+  QString legacyVolumes;  // ESPs are mounted below it on an old system
+  QString support;        // programs keep data below it, each below a name of its own
 };
 
 /// One machine. Owns its roles, which live as long as it does.
@@ -139,19 +149,7 @@ class Platform {
   virtual LoginItems &loginItems() = 0;
   virtual UserDefaults &userDefaults() = 0;
 
-  /// Where, among the system files, the driver bundle with this identifier is. Absent when there is
-  /// none.
-  virtual std::optional<QString> driverBundle(const QString &identifier) const = 0;
-
-  /// The folder below which the system mounts volumes ("/Volumes", "/media/alex").
-  virtual QString volumesFolder() const = 0;
-
-  /// The folder below which ESPs are mounted on an old system: "/Volumes", on a real machine.
-  virtual QString legacyVolumesFolder() const = 0;
-
-  /// The folder where programs keep data of this user, each below a name of its own. It need not be
-  /// there.
-  virtual QString applicationSupportFolder() const = 0;
+  virtual Folders folders() const = 0;
 
   /// Where mounts, unmounts and renames of volumes are posted, under the names below, whoever
   /// caused them. Posted from the run loop, never from inside a question.

@@ -6,8 +6,8 @@
 #include <QScopeGuard>
 #include <QTranslator>
 
+#include "Application/Languages.h"
 #include "Interface/InfoWindow.h"
-#include "application.h"
 #include "support/TestMachine.h"
 
 namespace {

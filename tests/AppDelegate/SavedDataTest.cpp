@@ -4,9 +4,9 @@
 #include <QUndoStack>
 #include <csignal>
 
+#include "Application/End.h"
 #include "Foundation/Error.h"
 #include "SavedData/ManagedObjectContext.h"
-#include "application.h"
 #include "support/Dialogs.h"
 #include "support/Files.h"
 #include "support/TestMachine.h"
@@ -28,7 +28,7 @@ class SavedDataTest : public testing::Test {
 
   TestMachine machine{twoEspMachine()};
   Application shared;
-  const QString folder = machine.platform.applicationSupportFolder() + "/com.Brinmoor.Keldra";
+  const QString folder = machine.platform.folders().support + "/com.Brinmoor.Keldra";
   const QString store = folder + "/OSXCoreDataObjC.storedata";
 };
 

@@ -37,7 +37,7 @@ TEST_F(Mounting, OfABtrfsSubvolumeIsKnownThoughItHasNoDeviceNumber) {
       waitFor([&] { return value(nameOf(disk), kDADiskDescriptionVolumeKindKey) == "btrfs"; }));
   const QString name = nameOf(disk);
   EXPECT_EQ(mount(name), kDAReturnSuccess);
-  EXPECT_EQ(mountPointOf(name), platform->volumesFolder() + "/TREE");
+  EXPECT_EQ(mountPointOf(name), platform->folders().volumes + "/TREE");
   EXPECT_EQ(unmount(name), kDAReturnSuccess);
   EXPECT_EQ(mountPointOf(name), "");
   DiskLab::remove(disk);

@@ -6,13 +6,13 @@
 #include <QVariantAnimation>
 
 #include "AppDelegate/AppDelegate.h"
+#include "Application/Outlets.h"
 #include "ESPTableCellView.h"
 #include "Interface/MainInterface.h"
 #include "Interface/RowButton.h"
 #include "Interface/RowTextField.h"
 #include "Interface/TextField.h"
 #include "Platform/simulated/SimulatedDesktop.h"
-#include "application.h"
 
 class Program {
  public:

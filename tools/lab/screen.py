@@ -113,7 +113,7 @@ def docked_icon(window_class):
 
 # A panel paints the items of StatusNotifierItem itself. Its only one is the last of what the panel shows.
 def _item_in_panel():
-    panel = accessibility.find_application("xfce4-panel") or accessibility.find_application("lxqt-panel")
+    panel = accessibility.find_application("xfce4-panel")
     if not panel or not tray.items():
         return None
     shown = [node.place() for node in panel.descendants() if node.role in ("filler", "push button")]

@@ -7,6 +7,8 @@
 #include "Platform/common/IconImage.h"
 #include "Platform/common/PropertyList.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Version files are a few hundred bytes and icons some hundred kilobytes: whatever is larger is not
@@ -50,4 +52,10 @@ std::optional<Content> FileSystemFiles::read(Memory<Content> &memory, const QStr
   const Content content = decode(file.readAll());
   memory.insert(path, {info.size(), info.lastModified(), content});
   return content;
+}
+
+std::optional<QString> FileSystemFiles::driverBundle(const QString &identifier) const {
+  const QString bundle = u"/System/Library/Extensions/"_s + identifier + u".kext"_s;
+  if (identifier.isEmpty() || identifier.contains(u'/') || !exists(bundle)) return std::nullopt;
+  return bundle;
 }

@@ -20,6 +20,7 @@ class FileSystemFiles : public SystemFiles {
   std::optional<QImage> image(const QString &path) const override;
   std::optional<QString> bundleResource(const QString &bundle, const QString &name,
                                         const QString &type) const override;
+  std::optional<QString> driverBundle(const QString &identifier) const override;
 
  private:
   template <typename Content>

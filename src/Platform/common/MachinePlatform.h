@@ -13,12 +13,15 @@ class MachinePlatform : public Platform {
  public:
   Clock &clock() override { return _clock; }
   SystemPrograms &systemPrograms() override { return _systemPrograms; }
-  QString applicationSupportFolder() const override {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  Folders folders() const override {
+    return {volumesFolder(), QStringLiteral("/Volumes"),
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)};
   }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
  protected:
+  virtual QString volumesFolder() const { return QStringLiteral("/Volumes"); }
+
   NotificationCenter _workspace;
 
  private:

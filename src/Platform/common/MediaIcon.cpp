@@ -24,11 +24,3 @@ QVariantMap mediaIcon(StorageKind kind) {
   return {{kMediaIconBundleKey, u"com.brinmoor.Keldra.StorageIcons"_s},
           {kMediaIconFileKey, fileOf(kind)}};
 }
-
-std::optional<QString> shippedDriverBundle(const SystemFiles &files, const QString &identifier) {
-  const QString bundle = u"/System/Library/Extensions/"_s + identifier + u".kext"_s;
-  if (identifier.isEmpty() || identifier.contains(u'/') || !files.exists(bundle)) {
-    return std::nullopt;
-  }
-  return bundle;
-}

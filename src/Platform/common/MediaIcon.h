@@ -9,6 +9,3 @@ enum class StorageKind { Internal, Removable, DiskImage, Optical };
 
 /// What a disk description says under kDADiskDescriptionMediaIconKey.
 QVariantMap mediaIcon(StorageKind kind);
-
-/// As `Platform::driverBundle`, for bundles that ship.
-std::optional<QString> shippedDriverBundle(const SystemFiles &files, const QString &identifier);

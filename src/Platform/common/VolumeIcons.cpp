@@ -29,7 +29,7 @@ FileStamp stampOf(const struct stat &status) {
 
 IconFile readIconFile(const QString &path, const FileStamp &known) {
   const QByteArray name = bytesOfPath(path);
-  struct stat status {};
+  struct stat status = {};
   if (lstat(name.constData(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
   const FileStamp stamp = stampOf(status);
   if (stamp == known) return {stamp, {}};

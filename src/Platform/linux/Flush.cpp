@@ -15,8 +15,8 @@ namespace {
 // Another volume may be mounted on top. Btrfs has a device number for each subvolume, and none of
 // them is that of its disk.
 bool isOnDevice(int folder, quint64 device) {
-  struct stat status {};
-  struct statfs system {};
+  struct stat status = {};
+  struct statfs system = {};
   if (fstat(folder, &status) != 0 || fstatfs(folder, &system) != 0) return false;
   return status.st_dev == device || system.f_type == BTRFS_SUPER_MAGIC;
 }

@@ -80,13 +80,10 @@ class LinuxPlatform final : public MachinePlatform {
   SystemFiles &systemFiles() override { return _systemFiles; }
   LoginItems &loginItems() override { return _loginItems; }
   UserDefaults &userDefaults() override { return _userDefaults; }
-  std::optional<QString> driverBundle(const QString &identifier) const override {
-    return shippedDriverBundle(_systemFiles, identifier);
-  }
-  QString volumesFolder() const override { return mountFolderOfUser(); }
-  QString legacyVolumesFolder() const override { return u"/Volumes"_s; }
 
  private:
+  QString volumesFolder() const override { return mountFolderOfUser(); }
+
   QtRunLoop _runLoop;
   ShippedFiles _systemFiles;
   XdgLoginItems _loginItems;

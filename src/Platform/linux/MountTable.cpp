@@ -25,7 +25,7 @@ quint64 deviceBehind(const MountLine &line) {
   if (major(line.device) != 0) return line.device;
   // Anything else might lie on a volume.
   if (line.fileSystem != "btrfs" || !line.source.startsWith("/dev/")) return 0;
-  struct stat source {};
+  struct stat source = {};
   if (stat(line.source.constData(), &source) != 0 || !S_ISBLK(source.st_mode)) return 0;
   return source.st_rdev;
 }

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "Foundation/Error.h"
 #include "Foundation/SystemLog.h"
 #include "Platform/linux/MessageBus.h"
 #include "Platform/linux/Refusals.h"
@@ -43,7 +44,7 @@ void Requests::forceUnmount(const Medium &medium, const Mount &mount,
     int error = EIO;
     unpack(answer, error);
     if (error == 0) return send(number);
-    sendUnwritten(number, mount, qt_error_string(error));
+    sendUnwritten(number, mount, posixError(error).localizedDescription);
   });
   QTimer::singleShot(kFlushTime, this, [=, this] { sendUnwritten(number, mount, u"no answer"_s); });
 }

@@ -21,7 +21,7 @@ constexpr qsizetype kMostDisks = 5000;
 class AsOwnerOf {
  public:
   explicit AsOwnerOf(const QString &folder) {
-    struct stat found {};
+    struct stat found = {};
     const bool isOthers = stat(QFile::encodeName(folder).constData(), &found) == 0 && found.st_uid;
     if (geteuid() != 0 || !isOthers) return;
     _isSomebodyElse = setegid(found.st_gid) == 0 && seteuid(found.st_uid) == 0;

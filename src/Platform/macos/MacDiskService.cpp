@@ -19,7 +19,8 @@ void setUuid(DiskDescription &description, const QString &key) {
 // The service also knows the name of a volume that is not mounted.
 DiskDescription descriptionFrom(DiskArbitration::Record record) {
   const bool isMounted = record.contains(disk_service::kDADiskDescriptionVolumePathKey);
-  if (!isMounted || record.value(disk_service::kDADiskDescriptionVolumeNameKey).toString().isEmpty()) {
+  if (!isMounted ||
+      record.value(disk_service::kDADiskDescriptionVolumeNameKey).toString().isEmpty()) {
     record.remove(disk_service::kDADiskDescriptionVolumeNameKey);
   }
   setUuid(record, disk_service::kDADiskDescriptionMediaUUIDKey);
@@ -59,7 +60,8 @@ std::optional<DiskDescription> MacDiskService::descriptionOfVolume(
 // system said it.
 DissenterStatus MacDiskService::inWordsOfTheSeam(const QString &bsdName, quint32 status) const {
   if (status == unixErrorStatus(EBUSY)) return disk_service::kDAReturnBusy;
-  const bool isUnknown = status == disk_service::kDAReturnBadArgument && !descriptionOfMedia(bsdName);
+  const bool isUnknown =
+      status == disk_service::kDAReturnBadArgument && !descriptionOfMedia(bsdName);
   return isUnknown ? disk_service::kDAReturnNotFound : status;
 }
 

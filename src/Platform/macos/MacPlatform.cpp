@@ -60,11 +60,6 @@ class MacPlatform final : public MachinePlatform {
   SystemFiles &systemFiles() override { return _systemFiles; }
   LoginItems &loginItems() override { return _loginItems; }
   UserDefaults &userDefaults() override { return _userDefaults; }
-  std::optional<QString> driverBundle(const QString &identifier) const override {
-    return locationOfDriver(identifier);
-  }
-  QString volumesFolder() const override { return u"/Volumes"_s; }
-  QString legacyVolumesFolder() const override { return u"/Volumes"_s; }
 
  private:
   void postOn(void (VolumeWatcher::*news)(const QString &), const QString &name) {

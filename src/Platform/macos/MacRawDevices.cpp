@@ -27,7 +27,7 @@ bool MacRawDevices::isPrivileged() const {
 }
 
 std::optional<quint32> MacRawDevices::fileSystemSubtype(const QString &mountPoint) const {
-  struct statfs status {};
+  struct statfs status = {};
   if (statfs(QFile::encodeName(mountPoint).constData(), &status) != 0) return std::nullopt;
   return status.f_fssubtype;
 }

@@ -16,7 +16,7 @@ std::optional<QString> MacSystemFiles::bundleResource(const QString &bundle, con
   return pathOf(resource.get()).value_or(QString()).mid(_root.size());
 }
 
-std::optional<QString> locationOfDriver(const QString &identifier) {
+std::optional<QString> MacSystemFiles::driverBundle(const QString &identifier) const {
   if (identifier.isEmpty()) return std::nullopt;
   const Owned<CFURLRef> url(
       KextManagerCreateURLForBundleIdentifier(kCFAllocatorDefault, makeText(identifier).get()));

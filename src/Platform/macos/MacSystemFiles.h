@@ -10,10 +10,8 @@ class MacSystemFiles final : public FileSystemFiles {
 
   std::optional<QString> bundleResource(const QString &bundle, const QString &name,
                                         const QString &type) const override;
+  std::optional<QString> driverBundle(const QString &identifier) const override;
 
  private:
   QString _root;
 };
-
-/// Where the driver bundle with this identifier is. Absent when there is none.
-std::optional<QString> locationOfDriver(const QString &identifier);

@@ -58,10 +58,6 @@ std::optional<quint32> SimulatedPlatform::logicalBlockSize(const QString &bsdNam
   return disk == nullptr ? std::nullopt : disk->logicalBlockSize;
 }
 
-std::optional<QString> SimulatedPlatform::driverBundle(const QString &identifier) const {
-  return shippedDriverBundle(_systemFiles, identifier);
-}
-
 void SimulatedVolumeFiles::findProcessesUsing(const QString &mountPoint,
                                               std::function<void(const QStringList &)> answer) {
   for (const SimulatedDisk &disk : _machine.disks) {

@@ -62,10 +62,10 @@ class SimulatedPlatform final : public Platform,
   SystemPrograms &systemPrograms() override { return *this; }
   SimulatedLoginItems &loginItems() override { return _loginItems; }
   SimulatedDefaults &userDefaults() override { return _userDefaults; }
-  std::optional<QString> driverBundle(const QString &identifier) const override;
-  QString volumesFolder() const override { return _root.filePath(QStringLiteral("Volumes")); }
-  QString legacyVolumesFolder() const override { return volumesFolder(); }
-  QString applicationSupportFolder() const override { return _applicationSupport.path(); }
+  Folders folders() const override {
+    return {volumesFolder(), volumesFolder(), _applicationSupport.path()};
+  }
+  QString volumesFolder() const { return _root.filePath(QStringLiteral("Volumes")); }
   NotificationCenter &workspaceNotificationCenter() override { return _workspace; }
 
   Presence presence() const override { return _machine.presence; }
