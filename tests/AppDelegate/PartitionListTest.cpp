@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QLabel>
+#include <stdexcept>
 
 #include "Interface/EmptyView.h"
 #include "Interface/Notice.h"
@@ -31,6 +31,8 @@ TEST(PartitionList, SaysWhyItIsNotCompleteUntilItIs) {
   EXPECT_TRUE(notice->isVisible());
   EXPECT_TRUE(notice->text().contains("disk1s1")) << notice->text().toStdString();
   EXPECT_EQ(machine.mountButton(0)->title(), "mount disk0s1") << "the rows stay as they were";
+  EXPECT_EQ(machine.listed(), QStringList("disk0s1")) << "those before it are known";
+  EXPECT_THROW(machine.delegate.refreshLists(), std::invalid_argument);
 
   QFile::remove(icon);
   machine.platform.rename("disk0s1", "Other");
