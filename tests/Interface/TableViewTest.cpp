@@ -10,16 +10,14 @@ class TableViewTest : public TableFixture {};
 
 TEST_F(TableViewTest, OnlyRowsInViewHaveCellsAndTheyAreUsedAgain) {
   QList<Row> list = manyRows(1000);
-  list[0] = {"disk0s1", true,
-             true};  // a disabled button stays so, and its cell is used for no other
+  list[0].dead = true;  // a disabled button stays so, and its cell is used for no other
   reload(list);
   EXPECT_EQ(cellsAlive(), 0) << "before anybody looks";
   show(list);
   EXPECT_EQ(table->visibleCells().size(), 8U);
-  for (int turn = 0; turn < 50; ++turn) {
+  for (int turn = 0; turn < 5; ++turn) {
     table->scrollRowToVisible(600);
     EXPECT_EQ(mountButton(600)->title(), "mount disk600s1");
-    for (TableCellView *each : table->visibleCells()) EXPECT_FALSE(each->controls().isEmpty());
     table->scrollRowToVisible(0);
     EXPECT_FALSE(mountButton(0)->isEnabled());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -79,31 +77,26 @@ TEST_F(TableViewTest, ButtonOutlivesAReloadInItsOwnAction) {
   EXPECT_TRUE(button.isNull());
 }
 
-TEST_F(TableViewTest, FocusFollowsThePartition) {
-  show({{"disk0s1"}, {"disk1s1", true}});
-  cell(1)->openButton()->setFocus();
-  reload({{"disk0s1"}, {"disk0s2"}, {"disk1s1", true}});
-  EXPECT_EQ(focusedTitle(), "open /disk1s1");
-  reload({{"disk0s1"}, {"disk1s1", false}});
-  EXPECT_EQ(focusedTitle(), "mount disk1s1");
-  reload({{"disk0s1"}, {"disk7s1"}});
-  EXPECT_TRUE(table->hasFocus());
-}
-
-TEST_F(TableViewTest, AButtonThatGoesWithItsFocusLeavesTheRowsInOrder) {
+TEST_F(TableViewTest, FocusFollowsThePartitionAndLeavesTheRowsInOrder) {
   QList<Row> list = manyRows(12);
   for (int row = 0; row < 12; ++row) {
     list[row].mounted = true;
     show(list);
     table->scrollRowToVisible(row);
     cell(row)->openButton()->setFocus();
-    list[row].mounted = false;
     reload(list);
+    EXPECT_EQ(focusedTitle(), "open /" + list[row].name);
+    list[row].mounted = false;
+    reload(list);  // the button goes, with its focus
     for (int each = 0; each < 12; ++each) {
       EXPECT_TRUE(!cell(each) || cell(each)->rowKey() == list[each].name) << row << ' ' << each;
     }
     EXPECT_EQ(focusedTitle(), "mount " + list[row].name);
   }
+  reload({{"new"}, {"disk11s1"}});
+  EXPECT_EQ(focusedTitle(), "mount disk11s1");
+  reload({{"disk0s1"}, {"disk7s1"}});
+  EXPECT_TRUE(table->hasFocus());
 }
 
 TEST_F(TableViewTest, TabWalksThroughEveryRowAndLeaves) {

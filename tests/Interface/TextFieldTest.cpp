@@ -56,6 +56,11 @@ TEST_F(TextFieldTest, QuickSuccessionRunsBothAndEndsOpaque) {
   expect("second", 1);
 }
 
+void expectReadable(const QColor &one, const QColor &other, qreal ratio = 4.5) {
+  EXPECT_GE(contrastRatio(one, other), ratio)
+      << one.name().toStdString() << " and " << other.name().toStdString();
+}
+
 TEST(LookTest, EverythingReadsOnItsGroundInLightAndDark) {
   for (const bool dark : {true, false}) {
     setDarkAppearance(dark);
@@ -66,31 +71,22 @@ TEST(LookTest, EverythingReadsOnItsGroundInLightAndDark) {
                                        {QPalette::Text, QPalette::Base},
                                        {QPalette::HighlightedText, QPalette::Highlight},
                                        {QPalette::ToolTipText, QPalette::ToolTipBase}}) {
-      EXPECT_GE(contrastRatio(palette.color(text), palette.color(ground)), 4.5) << dark << text;
+      expectReadable(palette.color(text), palette.color(ground));
     }
     const Look look(palette, QFont());
     EXPECT_EQ(look.isDark, dark);
-    for (const QColor &text : {look.text, look.dimText}) {
-      EXPECT_GE(contrastRatio(look.selection, text), 4.5) << dark;
-    }
+    for (const QColor &text : {look.text, look.dimText}) expectReadable(look.selection, text);
   }
-  for (const QColor &window : {QColor(0xefefef), QColor(0xffffff), QColor(0x2a2d34),
-                               QColor(Qt::black), QColor(0x707070), QColor(0x909090)}) {
-    QPalette palette(window);
+  for (const QRgb window : {0xefefefU, 0xffffffU, 0x2a2d34U, 0x000000U, 0x707070U, 0x909090U}) {
+    QPalette palette{QColor(window)};
     palette.setColor(QPalette::Base, window);
     const Look look(palette, QFont());
-    for (const auto &[color, ground, ratio] :
-         {std::tuple(look.red, look.ground, 4.5),
-          {look.blue, look.ground, 4.5},
-          {look.accent, look.ground, 4.5},
-          {look.disabledText, look.ground, 4.5},
-          {look.text, look.ground, 4.5},
-          {look.dimText, look.ground, 4.5},
-          // The mark of a box and the ring of what has the keyboard.
-          {look.outline, look.ground, 3.0},
-          {look.accent, look.selection, 3.0}}) {
-      EXPECT_GE(contrastRatio(ground, color), ratio) << window.name().toStdString();
+    for (const QColor &text :
+         {look.red, look.blue, look.accent, look.disabledText, look.text, look.dimText}) {
+      expectReadable(text, look.ground);
     }
+    expectReadable(look.outline, look.ground, 3);    // the mark of a box
+    expectReadable(look.accent, look.selection, 3);  // the ring of what has the keyboard
   }
 }
 
