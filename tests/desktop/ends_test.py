@@ -41,11 +41,11 @@ class EndsTest(DesktopTest):
         self.assert_ends(program, signal.SIGINT)
 
     def test_frozen_session_bus_does_not_keep_it_from_coming_up(self):
-        address = f"unix:path={os.environ['XDG_RUNTIME_DIR']}/frozen"
-        bus = self.start("dbus-daemon", "--session", "--nofork", f"--address={address}")
-        self.wait_for("there should be a bus", lambda: os.path.exists(address.partition("=")[2]))
+        socket = f"{os.environ['XDG_RUNTIME_DIR']}/frozen"
+        bus = self.start("dbus-daemon", "--session", "--nofork", f"--address=unix:path={socket}")
+        self.wait_for("there should be a bus", lambda: os.path.exists(socket))
         bus.send_signal(signal.SIGSTOP)
-        with unittest.mock.patch.dict(os.environ, DBUS_SESSION_BUS_ADDRESS=address), \
+        with unittest.mock.patch.dict(os.environ, DBUS_SESSION_BUS_ADDRESS=f"unix:path={socket}"), \
                 unittest.mock.patch.object(self, "is_up", self.shows_a_window):
             program = self.start_program()
         self.assert_ends(program, signal.SIGTERM)
