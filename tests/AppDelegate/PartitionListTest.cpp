@@ -8,15 +8,6 @@
 #include "support/Files.h"
 #include "support/TestMachine.h"
 
-TEST(PartitionList, SortsByCodeUnitsNotByNumber) {
-  const TestMachine machine(R"({ "disks": [
-    { "unit": 1, "partitions": [ { "slice": 1, "media": "EFI System Partition" } ] },
-    { "unit": 10, "partitions": [ { "slice": 1, "media": "EFI System Partition" } ] },
-    { "unit": 0, "partitions": [ { "slice": 2, "media": "EFI System Partition" },
-                                 { "slice": 10, "media": "EFI System Partition" } ] } ] })");
-  EXPECT_EQ(machine.listed(), QStringList({"disk0s10", "disk0s2", "disk10s1", "disk1s1"}));
-}
-
 TEST(PartitionList, SaysWhyItIsNotCompleteUntilItIs) {
   TestMachine machine(twoEspMachine());
   const Notice *notice = machine.interface.listNotice();

@@ -72,6 +72,7 @@ TEST(ProgramWithoutATray, SaysSoInThePopoverOnceUnlessTheSessionHasStartedIt) {
     const auto isShown = [&] { return interface.popover()->isShown(); };
     EXPECT_EQ(QTest::qWaitFor(isShown, 2000), !startedAtLogin);
     EXPECT_EQ(interface.trayNotice()->text(), startedAtLogin ? "" : "Get a tray.");
+    EXPECT_EQ(interface.tableView()->visibleCells().empty(), startedAtLogin) << "nobody looks";
     interface.popover()->close();
     delegate.showPopover();
     EXPECT_FALSE(interface.trayNotice()->isVisible()) << "it has been said";

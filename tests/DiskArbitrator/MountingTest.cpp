@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/daStatus.h"
 #include "Foundation/NotificationCenter.h"
 #include "support/TestMachine.h"
 
@@ -56,4 +57,12 @@ TEST_F(Mounting, ARefusalIsAnnouncedOnce) {
   EXPECT_EQ(notes, QStringList({"mount failed for disk1s1, status Operation canceled",
                                 "umount failed for disk1s2, reason: busy",
                                 "mount failed for (null), status not ready"}));
+}
+
+TEST(daStatus, HasWordsForEveryNumber) {
+  EXPECT_STREQ(daStatus(kDAReturnError), "error");
+  EXPECT_STREQ(daStatus(kDAReturnUnsupported), "unsupported");
+  for (const DissenterStatus outside : {0xF8DA0000U, 0xF8DA000DU, kDAReturnSuccess, 0x1C00DU}) {
+    EXPECT_STREQ(daStatus(outside), "unknown error") << outside;
+  }
 }

@@ -1,19 +1,23 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QVariantAnimation>
+#include <ranges>
 
 #include "Interface/Appearance.h"
 #include "Interface/Look.h"
+#include "Interface/MainInterface.h"
 #include "Interface/TextField.h"
 
 namespace {
 
 class TextFieldTest : public testing::Test {
  protected:
-  // Time in the test's hand: moves every fade on, in the order in which they were started.
+  // Time in the test's hand: moves every fade on, the latest first, so that no older one has the last word.
   void pass(int milliseconds) {
-    for (QVariantAnimation *fade : field.findChildren<QVariantAnimation *>()) {
+    const auto fades = field.findChildren<QVariantAnimation *>();
+    for (QVariantAnimation *fade : std::views::reverse(fades)) {
       if (fade->state() == QAbstractAnimation::Running) {
         fade->setCurrentTime(fade->currentTime() + milliseconds);
       }
@@ -48,12 +52,34 @@ TEST_F(TextFieldTest, QuickSuccessionRunsBothAndEndsOpaque) {
   pass(100);
   field.setAnimatedStringValue("second");
   field.setStringValue("");  // as opening the popover does
-  pass(200);
+  pass(100);
+  expect("", 0.2);
+  pass(100);
   EXPECT_EQ(field.stringValue(), "first");
   pass(100);
   EXPECT_EQ(field.stringValue(), "second");
   pass(1000);
   expect("second", 1);
+}
+
+TEST(StatusLineTest, IsALabelAndAnnouncesWhatItSaysWhileItIsSeen) {
+  const MainInterface interface;
+  TextField *status = interface.statusTextField();
+  QAccessibleInterface *label = QAccessible::queryAccessibleInterface(status);
+  QAccessibleInterface *announcement = label->child(0);
+  ASSERT_NE(announcement, nullptr);
+  EXPECT_EQ(announcement->role(), QAccessible::Notification);
+  status->setStringValue("said before it can be seen");
+  interface.popover()->show();
+  EXPECT_TRUE(announcement->state().invisible);
+  status->setStringValue("disk0s1 mouted at /media/a");
+  for (QAccessibleInterface *heard : {label, announcement}) {
+    EXPECT_EQ(heard->text(QAccessible::Name), "disk0s1 mouted at /media/a");
+  }
+  EXPECT_FALSE(announcement->state().invisible);
+  interface.popover()->close();
+  interface.popover()->show();
+  EXPECT_TRUE(announcement->state().invisible) << "it has been said";
 }
 
 void expectReadable(const QColor &one, const QColor &other, qreal ratio = 4.5) {
