@@ -33,15 +33,6 @@ class PopoverTest(DesktopTest):
         program.wait_for("the program should have noticed", lambda: not any(window.is_active() for window in windows))
         return subprocess.check_output(["xdotool", "getactivewindow"]).strip()
 
-    def test_second_launch_opens_the_popover_and_leaves_it_open(self):
-        program = self.open_program()
-        self.assertEqual(self.launch_again(), 0)
-        self.assert_stays_open(program)
-        screen.press("Escape")
-        self.assert_stays_closed(program)
-        self.assertEqual(self.launch_again(), 0)
-        self.assert_stays_open(program)
-
     def test_refusal_that_finds_the_popover_closed_becomes_a_notification(self):
         texts = []
 
