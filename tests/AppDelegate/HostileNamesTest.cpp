@@ -6,7 +6,6 @@
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include "Foundation/SystemLog.h"
 #include "Foundation/Text.h"
@@ -33,30 +32,22 @@ const QStringList kHostileNames = {
 
 /// A disk0 with an ordinary ESP, and a disk1 whose own and only partition's names are this one.
 QByteArray machineWith(const QString &name, const QString &mountPoint = {}) {
-  const auto disk = [](int unit, const QString &media, const QJsonObject &partition) {
-    return QJsonObject{{"unit", unit}, {"media", media}, {"partitions", QJsonArray{partition}}};
+  const auto quoted = [](const QString &text) {
+    return QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
   };
-  QJsonObject volume{{"kind", "ext4"}, {"name", name}};
-  if (!mountPoint.isEmpty()) volume["mountPoint"] = mountPoint;
-  const QJsonObject hostile{
-      {"slice", 1}, {"media", name}, {"device", "/dev/sdb1"}, {"volume", volume}};
-  const QJsonObject esp{{"slice", 1},
-                        {"media", "EFI System Partition"},
-                        {"volume", QJsonObject{{"kind", "msdos"}, {"name", "EFI"}}}};
-  const QJsonArray disks{disk(0, "Real disk", esp), disk(1, name, hostile)};
-  return QJsonDocument(QJsonObject{{"disks", disks}}).toJson();
+  return QByteArray(R"({ "disks": [ { "unit": 0, "media": "Real disk", "partitions": [
+    { "slice": 1, "media": "EFI System Partition", "volume": { "kind": "msdos", "name": "EFI" } } ] },
+    { "unit": 1, "media": NAME, "partitions": [ { "slice": 1, "media": NAME, "device": "/dev/sdb1",
+      "volume": { "kind": "ext4", "name": NAME MOUNT } } ] } ] })")
+      .replace("MOUNT", mountPoint.isEmpty() ? "" : ", \"mountPoint\": " + quoted(mountPoint))
+      .replace("NAME", quoted(name));
 }
 
-/// What is drawn in one of three lines of a row's text.
-QImage paintedLine(const QString &name, int line) {
-  TestMachine machine(machineWith(name));
+/// What is drawn of the row's text.
+QImage painted(const QByteArray &json) {
+  TestMachine machine(json);
   machine.tickShowAll();
-  const QImage whole = machine.cell(1)->textField()->grab().toImage();
-  const RowTextField *field = machine.cell(1)->textField();
-  const int top = (whole.height() - field->sizeHint().height()) / 2;
-  const int height = field->sizeHint().height() / 3;
-  return line == 0 ? whole.copy(0, 0, whole.width(), top + height)
-                   : whole.copy(0, top + line * height + 3, whole.width(), height - 3);
+  return machine.cell(1)->textField()->grab().toImage();
 }
 
 }  // namespace
@@ -69,7 +60,6 @@ TEST(HostileNames, KeepToTheirRowAndMakeNoButtonActOnAnother) {
         name.size() < 80 && !name.contains('/') && !name.contains(QChar(0)) && name.isValidUtf16();
     TestMachine machine(machineWith(name, isFolderName ? name : "chosen"));
     OpenedFolders opened;
-    EXPECT_EQ(machine.listed(), QStringList{"disk0s1"});
     machine.tickShowAll();
     const QString folder = machine.folder(isFolderName ? name : "chosen");
     EXPECT_EQ(machine.text(1).section(" on disk1s1\n", 0, 0), folder.section('/', -1));
@@ -85,48 +75,38 @@ TEST(HostileNames, KeepToTheirRowAndMakeNoButtonActOnAnother) {
     const QString shown = name == QStringLiteral("(null)") ? "N/A" : name;
     EXPECT_EQ(machine.text(1), shown + " on disk1s1\nparent of disk1,\n" + shown + ": " + shown);
 
-    const QString spoken =
+    QString spoken =
         QAccessible::queryAccessibleInterface(machine.cell(1))->text(QAccessible::Name);
-    EXPECT_EQ(spoken.section('\n', 1, 1), "parent of disk1,");
     EXPECT_EQ(spoken.count('\n'), 2);
-    const auto characters = QString(spoken).remove('\n').toUcs4();
+    const auto characters = spoken.remove('\n').toUcs4();
     EXPECT_TRUE(std::all_of(characters.begin(), characters.end(), isHarmless));
   }
 }
 
-TEST(HostileNames, ArePaintedWithinTheirLine) {
+TEST(HostileNames, ArePaintedWithinTheirLineAndLeaveThePartitionsOwnNameInSight) {
   for (const char *kind : {"\n", "\u202E", "\u2028", "\t"}) {
     const QString name = QStringLiteral("ESP on disk0s1%1parent of disk0,");
-    EXPECT_EQ(paintedLine(name.arg(kind), 0), paintedLine(name.arg("\uFFFD"), 0)) << kind;
+    EXPECT_EQ(painted(machineWith(name.arg(kind))), painted(machineWith(name.arg("\uFFFD"))))
+        << kind;
   }
-  const QString tower = "Z" + QString(60, QChar(0x0301));
-  EXPECT_NE(paintedLine(tower, 0), paintedLine("Z", 0));
-  EXPECT_EQ(paintedLine(tower, 1), paintedLine("Z", 1));
-  EXPECT_NE(paintedLine("&Quit", 0), paintedLine("Quit", 0));
-}
-
-TEST(HostileNames, CannotPushThePartitionsOwnNameOutOfSight) {
-  const QString name = "ESP on disk0s1" + QString(400, ' ');
-  const QByteArray first = machineWith(name);
-  const QByteArray second = QByteArray(first).replace("\"slice\": 1", "\"slice\": 7");
-  TestMachine one(first);
-  one.tickShowAll();
-  const QImage ofOne = one.cell(1)->textField()->grab().toImage();
-  TestMachine seven(second);
-  seven.tickShowAll();
-  EXPECT_NE(ofOne, seven.cell(1)->textField()->grab().toImage());
+  const auto middle = [](const QString &name) {
+    const QImage whole = painted(machineWith(name));
+    return whole.copy(0, whole.height() / 2 - 5, whole.width(), 10);
+  };
+  EXPECT_EQ(middle("Z" + QString(60, QChar(0x0301))), middle("Z"));
+  const QByteArray one = machineWith("ESP on disk0s1" + QString(400, ' '));
+  EXPECT_NE(painted(one), painted(QByteArray(one).replace("slice\": 1, \"media\": \"ESP on",
+                                                          "slice\": 7, \"media\": \"ESP on")));
 }
 
 TEST(HostileNames, AreNoRichTextInTooltips) {
-  const QString name = "<b>x</b>&amp;\n" + QString(400, 'x') + "\u202E";
-  TestMachine machine(machineWith(name, "/mnt/<i>&amp;\n" + QString(200, 'y')));
+  const QString name = "<b>&amp;\n" + QString(400, 'x') + "\u202E";
+  TestMachine machine(machineWith(name, "/mnt/" + name.left(200)));
   machine.tickShowAll();
-  for (QWidget *widget : {static_cast<QWidget *>(machine.cell(1)),
-                          static_cast<QWidget *>(machine.cell(1)->openButton())}) {
+  for (QWidget *widget : QWidgetList{machine.cell(1), machine.cell(1)->openButton()}) {
     const QString shown = toolTipOf(widget);
-    EXPECT_FALSE(shown.contains("<b>") || shown.contains("<i>")) << shown.toStdString();
-    EXPECT_TRUE(shown.contains("&amp;amp;\uFFFD")) << shown.toStdString();
-    EXPECT_FALSE(shown.contains('\n') || shown.contains(QChar(0x202E))) << shown.toStdString();
+    EXPECT_TRUE(shown.contains("&lt;b&gt;&amp;amp;\uFFFDxxx")) << shown.toStdString();
+    EXPECT_FALSE(shown.contains(QChar(0x202E))) << shown.toStdString();
   }
   EXPECT_EQ(toolTipOf(machine.cell(1)).count("<br>"), 3);
   EXPECT_TRUE(toolTipOf(machine.cell(1)).endsWith("<br>/dev/sdb1</p>"));
@@ -151,12 +131,11 @@ TEST(HostileNames, ForgeNoLineInTheLog) {
 }
 
 TEST(HostileNames, OfAnyLengthArePaintedAtOnce) {
-  constexpr int kMilliseconds = 2000;  // a megabyte that is shaped takes many times as long
-  QElapsedTimer timer;
   TestMachine machine(machineWith(QString(1000000, 'x'), "/mnt/" + QString(1000000, 'y')));
   machine.tickShowAll();
+  QElapsedTimer timer;
   timer.start();
   for (int time = 0; time < 20; ++time) machine.interface.popover()->grab();
   toolTipOf(machine.cell(1));
-  EXPECT_LT(timer.elapsed(), kMilliseconds);
+  EXPECT_LT(timer.elapsed(), 2000) << "a megabyte that is shaped takes many times as long";
 }

@@ -13,9 +13,9 @@ TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
   QTest::mouseClick(machine.interface.infoButton(), Qt::LeftButton);
   InfoWindow *window = machine.interface.infoWindow();
   EXPECT_TRUE(window->isVisible());
-  EXPECT_TRUE((window->frameGeometry().center() - window->screen()->availableGeometry().center())
-                  .manhattanLength() <= 2);
-  for (QPushButton *button : window->findChildren<QPushButton *>()) {
+  const QRect screen = window->screen()->availableGeometry();
+  EXPECT_LE((window->frameGeometry().center() - screen.center()).manhattanLength(), 2);
+  for (auto *button : window->findChildren<QPushButton *>()) {
     if (button->text() == "&Copy") button->click();
   }
   const QString copied = QGuiApplication::clipboard()->text();

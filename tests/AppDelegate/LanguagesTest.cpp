@@ -12,16 +12,14 @@
 
 namespace {
 
-void expectRoomForWords(const QWidget &window, const std::string &language) {
+void expectRoomForWords(const QWidget &window) {
   for (const auto *button : window.findChildren<QAbstractButton *>()) {
-    EXPECT_GE(button->width(), button->sizeHint().width())
-        << language << button->text().toStdString();
+    EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
   }
   for (const auto *label : window.findChildren<QLabel *>()) {
     const int needed =
         label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
-    EXPECT_TRUE(!label->isVisible() || label->height() >= needed)
-        << language << label->text().toStdString();
+    EXPECT_TRUE(!label->isVisible() || label->height() >= needed) << label->text().toStdString();
   }
 }
 
@@ -34,18 +32,17 @@ TEST(Languages, HaveRoomForTheirWordsInTheirDirection) {
     QLocale::setDefault(locale);
     loadTranslations();
     const auto undo = qScopeGuard([] { qDeleteAll(qApp->findChildren<QTranslator *>()); });
+    SCOPED_TRACE(file.toStdString());
     TestMachine machine(twoEspMachine());
-    const std::string language = file.toStdString();
     const MainInterface &interface = machine.interface;
-    EXPECT_NE(interface.quitButton()->text(), "Quit") << language;
-    EXPECT_EQ(interface.popover()->width(), usualWidth) << language;
+    EXPECT_NE(interface.quitButton()->text(), "Quit");
+    EXPECT_EQ(interface.popover()->width(), usualWidth);
     EXPECT_EQ(interface.quitButton()->x() < interface.infoButton()->x(),
-              locale.textDirection() == Qt::RightToLeft)
-        << language;
-    expectRoomForWords(*interface.popover(), language);
+              locale.textDirection() == Qt::RightToLeft);
+    expectRoomForWords(*interface.popover());
     interface.infoButton()->click();
     machine.settle();
-    expectRoomForWords(*interface.infoWindow(), language);
+    expectRoomForWords(*interface.infoWindow());
   }
   QLocale::setDefault(QLocale(QLocale::English));
   QApplication::setLayoutDirection(Qt::LeftToRight);

@@ -1,21 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QLabel>
+#include <stdexcept>
 
 #include "Interface/EmptyView.h"
 #include "Interface/Notice.h"
 #include "support/Files.h"
 #include "support/TestMachine.h"
-
-TEST(PartitionList, SortsByCodeUnitsNotByNumber) {
-  const TestMachine machine(R"({ "disks": [
-    { "unit": 1, "partitions": [ { "slice": 1, "media": "EFI System Partition" } ] },
-    { "unit": 10, "partitions": [ { "slice": 1, "media": "EFI System Partition" } ] },
-    { "unit": 0, "partitions": [ { "slice": 2, "media": "EFI System Partition" },
-                                 { "slice": 10, "media": "EFI System Partition" } ] } ] })");
-  EXPECT_EQ(machine.listed(), QStringList({"disk0s10", "disk0s2", "disk10s1", "disk1s1"}));
-}
 
 TEST(PartitionList, SaysWhyItIsNotCompleteUntilItIs) {
   TestMachine machine(twoEspMachine());
@@ -31,6 +22,8 @@ TEST(PartitionList, SaysWhyItIsNotCompleteUntilItIs) {
   EXPECT_TRUE(notice->isVisible());
   EXPECT_TRUE(notice->text().contains("disk1s1")) << notice->text().toStdString();
   EXPECT_EQ(machine.mountButton(0)->title(), "mount disk0s1") << "the rows stay as they were";
+  EXPECT_EQ(machine.listed(), QStringList("disk0s1")) << "those before it are known";
+  EXPECT_THROW(machine.delegate.refreshLists(), std::invalid_argument);
 
   QFile::remove(icon);
   machine.platform.rename("disk0s1", "Other");

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QFileInfo>
-
 #include "DiskArbitrator/DiskArbitrator.h"
+#include "DiskArbitrator/daStatus.h"
 #include "Foundation/NotificationCenter.h"
 #include "support/TestMachine.h"
 
@@ -35,21 +34,16 @@ TEST_F(Mounting, SaysYesWithoutAskingWhenThereIsNothingToDo) {
   EXPECT_TRUE(notes.isEmpty());
 }
 
-TEST_F(Mounting, MountsWhereTheServiceLikesOrAtAFolderThatItMakes) {
-  EXPECT_TRUE(DiskArbitrator::mountPartition("disk1s1", QString("")));
-  EXPECT_EQ(DiskArbitrator::findMountPoint("disk1s1"), machine.folder("EFI"));
-
+TEST_F(Mounting, MountsWhereTheServiceLikesOrAtAFolderThatItMakesAndIsNotOccupied) {
   const QString deep = machine.folder("new/inner");
   EXPECT_TRUE(DiskArbitrator::mountPartition("disk0s1", deep));
-  EXPECT_TRUE(QFileInfo(deep).isDir());
   EXPECT_EQ(DiskArbitrator::findBSDName(deep), "disk0s1");
-}
-
-TEST_F(Mounting, AnOccupiedFolderIsNotMountedOver) {
   EXPECT_FALSE(DiskArbitrator::mountPartition("disk1s1", machine.folder("Data//.")));
   EXPECT_TRUE(DiskArbitrator::mountPartition("disk1s2", machine.folder("Data/")));
   EXPECT_FALSE(DiskArbitrator::isMountPointValid("disk1s1"));
   EXPECT_TRUE(notes.isEmpty());
+  EXPECT_TRUE(DiskArbitrator::mountPartition("disk1s1", QString("")));
+  EXPECT_EQ(DiskArbitrator::findMountPoint("disk1s1"), machine.folder("EFI"));
 }
 
 TEST_F(Mounting, ARefusalIsAnnouncedOnce) {
@@ -63,4 +57,12 @@ TEST_F(Mounting, ARefusalIsAnnouncedOnce) {
   EXPECT_EQ(notes, QStringList({"mount failed for disk1s1, status Operation canceled",
                                 "umount failed for disk1s2, reason: busy",
                                 "mount failed for (null), status not ready"}));
+}
+
+TEST(daStatus, HasWordsForEveryNumber) {
+  EXPECT_STREQ(daStatus(kDAReturnError), "error");
+  EXPECT_STREQ(daStatus(kDAReturnUnsupported), "unsupported");
+  for (const DissenterStatus outside : {0xF8DA0000U, 0xF8DA000DU, kDAReturnSuccess, 0x1C00DU}) {
+    EXPECT_STREQ(daStatus(outside), "unknown error") << outside;
+  }
 }

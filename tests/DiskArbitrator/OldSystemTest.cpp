@@ -12,10 +12,6 @@ namespace {
 
 using DA = DiskArbitrator;
 
-QByteArray oldMachine() {
-  return twoEspMachine().replace("{ \"disks\"", R"({ "productVersion": "10.8.5", "disks")");
-}
-
 class OldSystem : public testing::Test {
  protected:
   void makeFolder(const QString &name) { EXPECT_TRUE(QDir().mkpath(machine.folder(name))); }
@@ -26,23 +22,21 @@ class OldSystem : public testing::Test {
         .toLocalFile();
   }
 
-  TestPlatform machine{oldMachine()};
+  TestPlatform machine{
+      twoEspMachine().replace("{ \"disks\"", R"({ "productVersion": "10.8.5", "disks")")};
 };
 
 }  // namespace
 
 TEST(DiskFree, ReadsTheLineThatBeginsWithTheDevice) {
-  const struct {
-    QString output;
-    std::optional<QString> mountPoint;
-  } cases[] = {
+  const std::pair<QString, std::optional<QString>> kCases[] = {
       {"head\n/dev/disk0s1 9 9 9 37% /Volumes/EFI 1\n", "/Volumes/EFI 1"},
       {"/dev/disk0s1 9 37% 5 6 12% /\n", "5 6 12"},  // the second piece, whatever it is
       {"/dev/disk0s10 9 1% /other\n/dev/disk0s1 9 2% /own\n", "/other"},
       {"/dev/disk0s1 9 9\n/dev/disk0s1 9 9 2% /later\n", std::nullopt},
       {"map /dev/disk0s1 9 2% /inner\n", std::nullopt},
   };
-  for (const auto &[output, mountPoint] : cases) {
+  for (const auto &[output, mountPoint] : kCases) {
     EXPECT_EQ(mountPointInDiskFree(output, "/dev/disk0s1"), mountPoint) << output.toStdString();
   }
 }

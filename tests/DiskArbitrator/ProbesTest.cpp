@@ -24,24 +24,17 @@ QByteArray probedMachine(const QByteArray &more = {}) {
 
 TEST(FileSystemPersonality, TellsTheWidthOfAMountedFATAndTheKindOfOthers) {
   const TestPlatform machine(probedMachine());
-  const struct {
-    QString reference;
-    QString answer;
-    bool isMounted;
-  } cases[] = {{"disk0s1", "Fat32", true},  {"/dev/disk0s2", "Fat16", true},
-               {"disk0s3", "Fat12", true},  {"disk0s4", "Unknown", true},
-               {"disk0s6", "msdos", false}, {"disk0s7", "ext4", false},
-               {"disk0s9", "N/A", false},   {"disk99", "N/A", false}};
-  for (const auto &[reference, answer, isMounted] : cases) {
+  const std::tuple<QString, QString, bool> kCases[] = {
+      {"disk0s1", "Fat32", true},   {"/dev/disk0s2", "Fat16", true}, {"disk0s3", "Fat12", true},
+      {"disk0s4", "Unknown", true}, {"disk0s6", "msdos", false},     {"disk0s7", "ext4", false},
+      {"disk0s9", "N/A", false},    {"disk99", "N/A", false}};
+  for (const auto &[reference, answer, isMounted] : kCases) {
     EXPECT_EQ(DA::findFileSystemPersonality(reference), answer) << reference.toStdString();
     EXPECT_EQ(DA::isMountPointValid(reference), isMounted) << reference.toStdString();
   }
-}
-
-TEST(FileSystemPersonality, OfAnESPOnAnOldSystemIsNotLookedInto) {
-  const TestPlatform machine(probedMachine(R"("productVersion": "10.8",)"));
+  const TestPlatform old(probedMachine(R"("productVersion": "10.8",)"));
   EXPECT_EQ(DA::findFileSystemPersonality("/dev/disk0s1"), "Fat32");
-  EXPECT_EQ(DA::findMountPointLegacy("disk0s1"), "N/A");
+  EXPECT_EQ(DA::findMountPointLegacy("disk0s1"), "N/A") << "it is not looked into";
 }
 
 TEST(SectorSize, IsThePhysicalOneOfTheWholeDiskWhereItIsTold) {

@@ -66,26 +66,11 @@ TEST_F(ButtonsTest, ScreenReadersPressReachesOnlyTheTitleItWasMeantFor) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ButtonsTest, ActionMayReplaceItself) {
-  button->setAction([&](RowButton *sender) {
-    EXPECT_TRUE(sender->isActing());
-    sender->setAction(nullptr);
-    ++clicks;
-  });
-  button->click();
-  button->click();
-  EXPECT_EQ(clicks, 1);
-  EXPECT_FALSE(button->isActing());
-}
-
 TEST_F(ButtonsTest, CheckBoxTellsAPersonFromTheProgram) {
   QSignalSpy acted(box, &CheckBox::acted);
-  for (const int state : {1, 0, -1}) {
-    box->setState(state);
-    EXPECT_EQ(box->state(), state);
-  }
+  for (const int state : {1, 0, -1}) box->setState(state);
+  EXPECT_EQ(box->state(), -1);
   EXPECT_EQ(acted.size(), 0);
-
   QTest::mouseClick(box, Qt::LeftButton);
   EXPECT_EQ(box->state(), 1) << "mixed is left for on, and only the program goes back to it";
   QTest::keyClick(box, Qt::Key_Space);
@@ -95,7 +80,7 @@ TEST_F(ButtonsTest, CheckBoxTellsAPersonFromTheProgram) {
   EXPECT_EQ(acted.size(), 3);
 }
 
-TEST_F(ButtonsTest, GateSwallowsInputButNotPainting) {
+TEST_F(ButtonsTest, GateSwallowsInputAndLeavesNoHalfPressBehind) {
   QAction shortcut;
   shortcut.setShortcut(QKeySequence("Ctrl+K"));
   window.addAction(&shortcut);
@@ -105,36 +90,24 @@ TEST_F(ButtonsTest, GateSwallowsInputButNotPainting) {
     QTest::keyClick(button, Qt::Key_Space);
     QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
   };
-  {
-    const InputGate outer;
-    { const InputGate inner; }
-    actEverywhere();
-    EXPECT_FALSE(window.grab().isNull());
-  }
-  EXPECT_EQ(clicks + triggered.size(), 0);
-  actEverywhere();
-  EXPECT_EQ(clicks, 2);
-  EXPECT_EQ(triggered.size(), 1);
-}
-
-TEST_F(ButtonsTest, GateLeavesNoHalfPressBehind) {
   QSignalSpy quit(plain, &QPushButton::clicked);
   QTest::mousePress(plain, Qt::LeftButton);
   QTest::keyPress(button, Qt::Key_Space);
   {
-    const InputGate gate;
-    QTest::mouseMove(plain, {4, 4});
+    const InputGate outer;
+    { const InputGate inner; }
     QTest::keyRelease(button, Qt::Key_Space);
-  }
-  EXPECT_FALSE(button->isDown());
-  QTest::mouseMove(plain, {6, 6});
-  QTest::mouseRelease(plain, Qt::LeftButton);
-  {
-    const InputGate gate;
+    actEverywhere();
     QTest::mousePress(button, Qt::LeftButton);
   }
+  EXPECT_FALSE(button->isDown());
   QTest::mouseRelease(button, Qt::LeftButton);
-  EXPECT_EQ(clicks + quit.size(), 0);
+  QTest::mouseMove(plain, {6, 6});
+  QTest::mouseRelease(plain, Qt::LeftButton);
+  EXPECT_EQ(clicks + triggered.size() + quit.size(), 0);
+  actEverywhere();
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(triggered.size(), 1);
 }
 
 }  // namespace

@@ -1,146 +1,156 @@
-#include <QEventLoop>
+// The table of the popover, for hands, keys and screen readers.
+
+#include "Interface/TableView.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
 #include <QPointer>
 #include <QScrollBar>
+#include <QTimer>
 
-#include "Interface/TableFixture.h"
+#include "support/TestMachine.h"
 
 namespace {
 
-class TableViewTest : public TableFixture {};
+/// A hundred disks with an ESP each. That of disk102 is the system's own, so its button is disabled.
+QByteArray hundredDisks() {
+  QByteArrayList disks;
+  for (int unit = 100; unit < 200; ++unit) {
+    disks += R"({ "unit": )" + QByteArray::number(unit) + R"(, "partitions": [ { "slice": 1,
+      "media": "EFI System Partition", "volume": { "kind": "msdos", "name": "EFI" )" +
+             (unit == 102 ? R"(, "mountPoint": "/" } } ] })" : " } } ] }");
+  }
+  return R"({ "disks": [ )" + disks.join(", ") + " ] }";
+}
 
-TEST_F(TableViewTest, OnlyRowsInViewHaveCellsAndTheyAreUsedAgain) {
-  QList<Row> list = manyRows(1000);
-  list[0] = {"disk0s1", true,
-             true};  // a disabled button stays so, and its cell is used for no other
-  reload(list);
-  EXPECT_EQ(cellsAlive(), 0) << "before anybody looks";
-  show(list);
-  EXPECT_EQ(table->visibleCells().size(), 8U);
-  for (int turn = 0; turn < 50; ++turn) {
-    table->scrollRowToVisible(600);
-    EXPECT_EQ(mountButton(600)->title(), "mount disk600s1");
-    for (TableCellView *each : table->visibleCells()) EXPECT_FALSE(each->controls().isEmpty());
-    table->scrollRowToVisible(0);
-    EXPECT_FALSE(mountButton(0)->isEnabled());
+class TableViewTest : public testing::Test {
+ protected:
+  void pull(int unit) {
+    machine.platform.pull(unit);
+    machine.settle();
+  }
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(popover->focusWidget(), key, modifiers);
+  }
+  QString focusedTitle() const {
+    const auto *button = qobject_cast<RowButton *>(popover->focusWidget());
+    return button ? button->title() : QString();
+  }
+  static void deleteWhatIsLeft() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
-  EXPECT_LE(cellsAlive(), 2 * 9 + 1);
+
+  TestMachine machine{hundredDisks()};
+  const QStringList names = machine.listed();
+  const Popover *popover = machine.interface.popover();
+  TableView *table = machine.interface.tableView();
+  QAccessibleInterface *list = QAccessible::queryAccessibleInterface(table);
+};
+
+TEST_F(TableViewTest, OnlyRowsInViewHaveCellsAndTheyAreUsedAgain) {
+  EXPECT_EQ(table->visibleCells().size(), 8U);
+  for (int turn = 0; turn < 5; ++turn) {
+    EXPECT_EQ(machine.mountButton(60)->title(), "mount disk160s1");
+    EXPECT_FALSE(machine.mountButton(2)->isEnabled());
+    deleteWhatIsLeft();
+  }
+  EXPECT_LE(table->findChildren<ESPTableCellView *>().size(), 2 * 9 + 1);
 }
 
 TEST_F(TableViewTest, ReloadKeepsPlaceCellsAndSelectionAndReportsNone) {
-  show(manyRows(100));
-  table->scrollRowToVisible(50);
-  QTest::mouseClick(cell(48), Qt::LeftButton, {}, {100, 20});
-  EXPECT_EQ(selectionChanges, 1);
+  const RowButton *button = machine.mountButton(50);
+  QTest::mouseClick(machine.cell(48), Qt::LeftButton, {}, {100, 20});
   const int place = table->findChild<QScrollBar *>()->value();
-  const RowButton *button = mountButton(50);
-  reload(manyRows(99));
+  pull(199);
   EXPECT_EQ(table->findChild<QScrollBar *>()->value(), place);
-  EXPECT_EQ(mountButton(50), button);
+  EXPECT_EQ(machine.mountButton(50), button);
   EXPECT_EQ(table->selectedRow(), 48);
-  reload(manyRows(10));
-  EXPECT_EQ(table->visibleCells().back()->rowKey(), "disk9s1");
+  machine.platform.setPresence(DiskService::Presence::Absent);
+  machine.settle();
   EXPECT_EQ(table->selectedRow(), -1);
-  EXPECT_EQ(selectionChanges, 1);
+  EXPECT_EQ(machine.delegate.lastSelectedRow(), 48);
+  for (const int index : {-1, 0, 7}) EXPECT_EQ(list->child(index), nullptr) << "it was there";
 }
 
 TEST_F(TableViewTest, PressIsLostWhenItsCellShowsAnotherPartition) {
-  QStringList titles;
-  clicked = [&](RowButton *sender) { titles += sender->title(); };
-  show({{"disk0s1"}, {"disk1s1"}});
-  RowButton *button = mountButton(0);
+  RowButton *button = machine.mountButton(1);
   QTest::mousePress(button, Qt::LeftButton);
-  reload({{"disk9s1"}, {"disk0s1"}});
+  pull(100);
+  pull(101);
+  pull(102);
   QTest::mouseMove(button, {5, 5});
   QTest::mouseRelease(button, Qt::LeftButton);
-  EXPECT_EQ(titles, QStringList());
-
+  button = machine.mountButton(1);
+  EXPECT_EQ(button->title(), "mount disk104s1");
   QTest::mousePress(button, Qt::LeftButton);
-  reload(rows);
+  pull(150);
   QTest::mouseRelease(button, Qt::LeftButton);
-  EXPECT_EQ(titles, QStringList("mount disk9s1"));
+  EXPECT_EQ(button->title(), "umount disk104s1");
 }
 
 TEST_F(TableViewTest, ButtonOutlivesAReloadInItsOwnAction) {
-  show({{"disk0s1"}});
-  QPointer<RowButton> button = mountButton(0);
-  clicked = [&](RowButton *) {
-    reload({{"disk0s1", true, true}});  // its cell can not be used again now
-    reload({{"disk1s1"}});
-    QEventLoop loop;
-    QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
-    loop.exec();
-    EXPECT_FALSE(button.isNull());
-  };
-  QTest::mouseClick(button, Qt::LeftButton);
-  EXPECT_EQ(mountButton(0)->title(), "mount disk1s1");
-  reload(rows);
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  machine.platform.setDelay("disk101s1", std::chrono::milliseconds(20));
+  QPointer<RowButton> button = machine.mountButton(1);
+  QTimer::singleShot(0, table, [&] {
+    pull(101);  // its cell can not be used again now
+    pull(102);
+  });
+  QTimer::singleShot(10, table, [&] { EXPECT_TRUE(button && button->isActing()); });
+  machine.click(button);
+  EXPECT_EQ(machine.mountButton(1)->title(), "mount disk103s1");
+  machine.delegate.refreshLists();
+  deleteWhatIsLeft();
   EXPECT_TRUE(button.isNull());
 }
 
-TEST_F(TableViewTest, FocusFollowsThePartition) {
-  show({{"disk0s1"}, {"disk1s1", true}});
-  cell(1)->openButton()->setFocus();
-  reload({{"disk0s1"}, {"disk0s2"}, {"disk1s1", true}});
-  EXPECT_EQ(focusedTitle(), "open /disk1s1");
-  reload({{"disk0s1"}, {"disk1s1", false}});
-  EXPECT_EQ(focusedTitle(), "mount disk1s1");
-  reload({{"disk0s1"}, {"disk7s1"}});
+TEST_F(TableViewTest, FocusFollowsThePartitionAndLeavesTheRowsInOrder) {
+  for (int row = 3; row < 12; ++row) {
+    machine.platform.mountFromOutside(names[row]);
+    machine.settle();
+    machine.cell(row)->openButton()->setFocus();
+    machine.platform.unmountFromOutside(names[row]);  // the button goes, with its focus
+    machine.settle();
+    for (int each = 0; each < 12; ++each) {
+      const TableCellView *cell = table->cellAtRow(each);
+      EXPECT_TRUE(!cell || cell->rowKey() == names[each]) << row << ' ' << each;
+    }
+    EXPECT_EQ(focusedTitle(), "mount " + names[row]);
+  }
+  pull(101);
+  EXPECT_EQ(focusedTitle(), "mount disk111s1");
+  pull(111);
   EXPECT_TRUE(table->hasFocus());
 }
 
-TEST_F(TableViewTest, AButtonThatGoesWithItsFocusLeavesTheRowsInOrder) {
-  QList<Row> list = manyRows(12);
-  for (int row = 0; row < 12; ++row) {
-    list[row].mounted = true;
-    show(list);
-    table->scrollRowToVisible(row);
-    cell(row)->openButton()->setFocus();
-    list[row].mounted = false;
-    reload(list);
-    for (int each = 0; each < 12; ++each) {
-      EXPECT_TRUE(!cell(each) || cell(each)->rowKey() == list[each].name) << row << ' ' << each;
-    }
-    EXPECT_EQ(focusedTitle(), "mount " + list[row].name);
-  }
-}
-
-TEST_F(TableViewTest, TabWalksThroughEveryRowAndLeaves) {
-  QList<Row> list = manyRows(20);
-  list[0].mounted = true;
-  list[3] = {"disk3s1", true, true};
-  list[5] = {""};
-  show(list);
+TEST_F(TableViewTest, TabWalksThroughEveryRowAndBack) {
   table->setFocus();
-  QStringList met;
-  for (int step = 0; step < 50 && window.focusWidget() != after; ++step) {
+  for (const QString &name : names) {
     press(Qt::Key_Tab);
-    met.append(focusedTitle());
+    EXPECT_EQ(focusedTitle(), name == "disk102s1" ? "open /" : "mount " + name);
   }
-  QStringList expected{"umount disk0s1", "open /disk0s1"};
-  for (int unit = 1; unit < 20; ++unit) {
-    if (unit != 5) expected += QString(unit == 3 ? "open /disk%1s1" : "mount disk%1s1").arg(unit);
-  }
-  EXPECT_EQ(met, expected << QString());
-
+  press(Qt::Key_Tab);
+  EXPECT_TRUE(machine.interface.showAllDisksCheck()->hasFocus());
+  for (qsizetype row = names.size(); row > 0; --row) press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(focusedTitle(), "mount disk100s1");
   press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(focusedTitle(), "mount disk19s1");
-  for (int step = 0; step < 20; ++step) press(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(table->hasFocus());
 }
 
 TEST_F(TableViewTest, KeysMoveTheSelectionAndScroll) {
-  show(manyRows(30));
   table->setFocus();
   const std::vector<std::pair<Qt::Key, qint64>> steps = {
-      {Qt::Key_Down, 0},  {Qt::Key_Down, 1}, {Qt::Key_PageDown, 8}, {Qt::Key_End, 29},
-      {Qt::Key_Down, 29}, {Qt::Key_Up, 28},  {Qt::Key_Home, 0},     {Qt::Key_PageUp, 0}};
+      {Qt::Key_Down, 0},  {Qt::Key_Down, 1}, {Qt::Key_PageDown, 8}, {Qt::Key_End, 99},
+      {Qt::Key_Down, 99}, {Qt::Key_Up, 98},  {Qt::Key_Home, 0},     {Qt::Key_PageUp, 0}};
   for (const auto &[key, row] : steps) {
     press(key);
     EXPECT_EQ(table->selectedRow(), row);
-    EXPECT_TRUE(cell(row) && table->rect().contains(cell(row)->geometry()));
+    TableCellView *cell = table->cellAtRow(row);
+    ASSERT_TRUE(cell && table->rect().contains(cell->geometry()));
+    EXPECT_EQ(list->focusChild(), QAccessible::queryAccessibleInterface(cell));
+    EXPECT_TRUE(list->focusChild()->state().selected);
   }
+  EXPECT_FALSE(list->child(1)->state().selected);
 }
 
 }  // namespace

@@ -1,19 +1,23 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QVariantAnimation>
+#include <ranges>
 
 #include "Interface/Appearance.h"
 #include "Interface/Look.h"
+#include "Interface/MainInterface.h"
 #include "Interface/TextField.h"
 
 namespace {
 
 class TextFieldTest : public testing::Test {
  protected:
-  // Time in the test's hand: moves every fade on, in the order in which they were started.
+  // Time in the test's hand: moves every fade on, the latest first, so that no older one has the last word.
   void pass(int milliseconds) {
-    for (QVariantAnimation *fade : field.findChildren<QVariantAnimation *>()) {
+    const auto fades = field.findChildren<QVariantAnimation *>();
+    for (QVariantAnimation *fade : std::views::reverse(fades)) {
       if (fade->state() == QAbstractAnimation::Running) {
         fade->setCurrentTime(fade->currentTime() + milliseconds);
       }
@@ -48,12 +52,39 @@ TEST_F(TextFieldTest, QuickSuccessionRunsBothAndEndsOpaque) {
   pass(100);
   field.setAnimatedStringValue("second");
   field.setStringValue("");  // as opening the popover does
-  pass(200);
+  pass(100);
+  expect("", 0.2);
+  pass(100);
   EXPECT_EQ(field.stringValue(), "first");
   pass(100);
   EXPECT_EQ(field.stringValue(), "second");
   pass(1000);
   expect("second", 1);
+}
+
+TEST(StatusLineTest, IsALabelAndAnnouncesWhatItSaysWhileItIsSeen) {
+  const MainInterface interface;
+  TextField *status = interface.statusTextField();
+  QAccessibleInterface *label = QAccessible::queryAccessibleInterface(status);
+  QAccessibleInterface *announcement = label->child(0);
+  ASSERT_NE(announcement, nullptr);
+  EXPECT_EQ(announcement->role(), QAccessible::Notification);
+  status->setStringValue("said before it can be seen");
+  interface.popover()->show();
+  EXPECT_TRUE(announcement->state().invisible);
+  status->setStringValue("disk0s1 mouted at /media/a");
+  for (QAccessibleInterface *heard : {label, announcement}) {
+    EXPECT_EQ(heard->text(QAccessible::Name), "disk0s1 mouted at /media/a");
+  }
+  EXPECT_FALSE(announcement->state().invisible);
+  interface.popover()->close();
+  interface.popover()->show();
+  EXPECT_TRUE(announcement->state().invisible) << "it has been said";
+}
+
+void expectReadable(const QColor &one, const QColor &other, qreal ratio = 4.5) {
+  EXPECT_GE(contrastRatio(one, other), ratio)
+      << one.name().toStdString() << " and " << other.name().toStdString();
 }
 
 TEST(LookTest, EverythingReadsOnItsGroundInLightAndDark) {
@@ -66,31 +97,22 @@ TEST(LookTest, EverythingReadsOnItsGroundInLightAndDark) {
                                        {QPalette::Text, QPalette::Base},
                                        {QPalette::HighlightedText, QPalette::Highlight},
                                        {QPalette::ToolTipText, QPalette::ToolTipBase}}) {
-      EXPECT_GE(contrastRatio(palette.color(text), palette.color(ground)), 4.5) << dark << text;
+      expectReadable(palette.color(text), palette.color(ground));
     }
     const Look look(palette, QFont());
     EXPECT_EQ(look.isDark, dark);
-    for (const QColor &text : {look.text, look.dimText}) {
-      EXPECT_GE(contrastRatio(look.selection, text), 4.5) << dark;
-    }
+    for (const QColor &text : {look.text, look.dimText}) expectReadable(look.selection, text);
   }
-  for (const QColor &window : {QColor(0xefefef), QColor(0xffffff), QColor(0x2a2d34),
-                               QColor(Qt::black), QColor(0x707070), QColor(0x909090)}) {
-    QPalette palette(window);
+  for (const QRgb window : {0xefefefU, 0xffffffU, 0x2a2d34U, 0x000000U, 0x707070U, 0x909090U}) {
+    QPalette palette{QColor(window)};
     palette.setColor(QPalette::Base, window);
     const Look look(palette, QFont());
-    for (const auto &[color, ground, ratio] :
-         {std::tuple(look.red, look.ground, 4.5),
-          {look.blue, look.ground, 4.5},
-          {look.accent, look.ground, 4.5},
-          {look.disabledText, look.ground, 4.5},
-          {look.text, look.ground, 4.5},
-          {look.dimText, look.ground, 4.5},
-          // The mark of a box and the ring of what has the keyboard.
-          {look.outline, look.ground, 3.0},
-          {look.accent, look.selection, 3.0}}) {
-      EXPECT_GE(contrastRatio(ground, color), ratio) << window.name().toStdString();
+    for (const QColor &text :
+         {look.red, look.blue, look.accent, look.disabledText, look.text, look.dimText}) {
+      expectReadable(text, look.ground);
     }
+    expectReadable(look.outline, look.ground, 3);    // the mark of a box
+    expectReadable(look.accent, look.selection, 3);  // the ring of what has the keyboard
   }
 }
 

@@ -106,12 +106,6 @@ class DesktopTest(unittest.TestCase):
         program.wait_until_closed()
         self.assert_stays(lambda: not program.window(), "the popover should stay closed")
 
-    def assert_on_screen(self, place):
-        left, top, width, height = place
-        screen_width, screen_height = self.screen.size()
-        self.assertTrue(left >= 0 and top >= 0 and left + width <= screen_width and top + height <= screen_height,
-                        f"{place} should be on the screen")
-
 
 def main(*needed):
     """Runs the tests of the file."""

@@ -22,6 +22,12 @@ from popover import View  # noqa: E402
 ROOM = pathlib.Path("/room")
 _DISPLAYS = ("DISPLAY", "WAYLAND_DISPLAY", "XAUTHORITY", "DESKTOP_SESSION", "XDG_SESSION_TYPE", "SESSION_MANAGER",
              "XDG_CURRENT_DESKTOP", "KDE_FULL_SESSION", "KDE_SESSION_VERSION", "SWAYSOCK")
+_ESP = {"slice": 1, "media": "EFI System Partition"}
+MACHINE = {"disks": [
+    {"unit": 0, "media": "Disk", "scheme": "GUID_partition_scheme",
+     "partitions": [_ESP | {"volume": {"kind": "msdos", "name": "EFI"}}]},
+    {"unit": 1, "media": "Slow", "scheme": "GUID_partition_scheme",
+     "partitions": [_ESP | {"volume": {"kind": "msdos", "name": "SLOW"}, "delay": 3000}]}]}
 QUIET = {"stdin": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
 
 
@@ -53,6 +59,10 @@ def pixels(place=None):
     return screen.colours(place or (0, 0, *screen.size()))
 
 
+def colour_at(x, y):
+    return pixels((x, y, 1, 1))[0]
+
+
 def picture(name):
     screen.take_picture(ROOM / f"{name}.png")
 
@@ -66,8 +76,7 @@ def bounding_box(before, after, width):
 
 
 def luminance(colour):
-    parts = [part / 255 for part in colour]
-    parts = [part / 12.92 if part <= 0.03928 else ((part + 0.055) / 1.055) ** 2.4 for part in parts]
+    parts = [part / 3294.6 if part <= 10 else ((part + 14) / 269) ** 2.4 for part in colour]
     return 0.2126 * parts[0] + 0.7152 * parts[1] + 0.0722 * parts[2]
 
 
@@ -77,11 +86,10 @@ def contrast(one, other):
 
 
 class Keldra:
-    def __init__(self, program, machine, **environment):
-        self.command = [program, str(machine)]
-        self.environment = environment
-        self.process = subprocess.Popen(self.command, env=session_environment() | environment,
-                                        stdout=subprocess.DEVNULL, **QUIET)
+    def __init__(self, program):
+        self.command = [program, ROOM / "machine.json"]
+        self.command[1].write_text(json.dumps(MACHINE))
+        self.process = subprocess.Popen(self.command, env=session_environment(), stdout=subprocess.DEVNULL, **QUIET)
 
     def again(self):
         subprocess.run(self.command, env=session_environment(), check=False, timeout=20, **QUIET)
@@ -92,14 +100,12 @@ class Keldra:
         return program.children() if program else []
 
     def window(self):
-        for node in self.windows():
-            if node.is_showing() and any(child.name == "Quit" for child in node.descendants()):
-                return node
-        return None
+        return next((node for node in self.windows()
+                     if node.is_showing() and any(child.name == "Quit" for child in node.descendants())), None)
 
     def view(self):
         window = self.window()
-        return View(window) if window else None
+        return window and View(window)
 
     @staticmethod
     def _in_pixels(node, window):
@@ -126,12 +132,12 @@ class Keldra:
         return bool(wait_for(lambda: not self.window(), seconds))
 
     def stays(self, is_open, seconds=0.8):
-        deadline = time.monotonic() + seconds
-        while time.monotonic() < deadline:
-            if bool(self.window()) != is_open:
-                return False
-            time.sleep(0.05)
-        return True
+        return not wait_for(lambda: bool(self.window()) != is_open, seconds)
+
+    def close(self):
+        if self.window():
+            screen.press("Escape")
+        self.is_closed()
 
     def end(self):
         self.process.terminate()
@@ -149,14 +155,3 @@ def shell(script):
     """What GNOME's shell answers."""
     return run("gdbus", "call", "--session", "-d", "org.gnome.Shell", "-o", "/org/gnome/Shell",
                "-m", "org.gnome.Shell.Eval", script)
-
-
-def write_machine(delay=0):
-    esp = {"slice": 1, "media": "EFI System Partition"}
-    disks = [{"unit": 0, "media": "Disk", "scheme": "GUID_partition_scheme",
-              "partitions": [esp | {"volume": {"kind": "msdos", "name": "EFI"}}]},
-             {"unit": 1, "media": "Slow", "scheme": "GUID_partition_scheme",
-              "partitions": [esp | {"volume": {"kind": "msdos", "name": "SLOW"}, "delay": 3000}]}]
-    file = ROOM / "machine.json"
-    file.write_text(json.dumps({"disks": disks}))
-    return file

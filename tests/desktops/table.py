@@ -9,10 +9,10 @@ import subprocess
 import sys
 import time
 
-from person import (ROOM, Keldra, bounding_box, contrast, picture, pixels, registered, run, screen,
-                    session_environment, shell, tray, wait_for, write_machine)
+from person import (Keldra, bounding_box, colour_at, contrast, picture, pixels, registered, run, screen,
+                    session_environment, shell, tray, wait_for)
 
-PROGRAM, DESKTOP, SERVER = sys.argv[1:4]
+PROGRAM, DESKTOP = sys.argv[1:3]
 WIDTH, HEIGHT = screen.size()
 NO_TRAY = bool(os.environ.get("EXTENSIONS"))
 X11_TRAYS = ("cinnamon",)
@@ -51,7 +51,7 @@ def start():
 
     Nobody tells where the item is, but its picture changes while the popover is open, and nothing else does there."""
     started = time.monotonic()
-    program = Keldra(PROGRAM, write_machine())
+    program = Keldra(PROGRAM)
     wait_for(registered, 8)
     seconds = time.monotonic() - started
     machine = wait_for(lambda: run("xdotool", "search", "--onlyvisible", "--name", "^Machine", inside=True))
@@ -66,8 +66,7 @@ def start():
     after = [old if left <= index % WIDTH < left + width and top <= index // WIDTH < top + height else new
              for index, (old, new) in enumerate(zip(before, pixels()))]
     item = bounding_box(before, after, WIDTH)
-    screen.press("Escape")
-    program.is_closed()
+    program.close()
     return program, item, seconds
 
 
@@ -89,10 +88,15 @@ class Visit:
         time.sleep(0.6)
         return self.program.place()
 
+    @staticmethod
+    def ground(place):
+        """The popover's colour, where nothing is written."""
+        return colour_at(place[0] + place[2] // 2, place[1] + place[3] - 40)
+
     def picture_of_item(self):
         colours = pixels(self.item)
         left, top, width, height = self.item
-        ground = pixels((max(left - 2, 0), top + height // 2, 1, 1))[0]
+        ground = colour_at(max(left - 2, 0), top + height // 2)
         readable = [colour for colour in colours if contrast(colour, ground) >= 3]
         best = max(contrast(colour, ground) for colour in colours)
         tell("picture", len(readable) > width * height / 6, f"{best:.1f} to 1 on {ground}")
@@ -110,7 +114,7 @@ class Visit:
         hangs = self.middle[1] < HEIGHT / 2
         row = place[1] + 5 if hangs else place[1] + place[3] - 6
         line = pixels((place[0], row, place[2], 1))
-        ground = pixels((place[0] + place[2] // 2, place[1] + place[3] - 40, 1, 1))[0]
+        ground = self.ground(place)
         arrow = [x for x, colour in enumerate(line) if max(abs(a - b) for a, b in zip(colour, ground)) < 12]
         tip = arrow and place[0] + (arrow[0] + arrow[-1]) / 2
         tell("arrow", bool(arrow) and abs(tip - self.middle[0]) <= 2, f"tip {tip}, item {self.middle[0]}")
@@ -128,8 +132,7 @@ class Visit:
         screen.press("Escape")
         time.sleep(0.5)
         closes("wallpaper", lambda: click(*WALLPAPER))
-        self.program.window() and screen.press("Escape")
-        self.program.is_closed()
+        self.program.close()
         time.sleep(1)
         self.click_item(times=2)
         tell("double click", self.program.is_open() and self.program.stays(True, 1.2))
@@ -142,8 +145,7 @@ class Visit:
             tell("held", held and self.program.is_closed() and self.program.stays(False))
 
     def windows(self):
-        self.program.window() and screen.press("Escape")
-        self.program.is_closed()
+        self.program.close()
         other = self.other_window()
         before = run("xdotool", "getactivewindow", inside=True)
         place = self.open()
@@ -158,8 +160,7 @@ class Visit:
         closed = other and (click(OTHER[0] + 150, OTHER[1] + 150), self.program.is_closed())[1]
         tell("closes: window", closed and self.program.stays(False))
         self.open()
-        screen.press("Escape")
-        self.program.is_closed()
+        self.program.close()
         time.sleep(0.3)
         after = run("xdotool", "getactivewindow", inside=True)
         tell("focus returns", before == after and place, f"{before} {after}")
@@ -204,33 +205,28 @@ class Visit:
         time.sleep(0.5)
 
     def theme(self):
-        commands = {
-            "gnome": [["gsettings", "set", "org.gnome.desktop.interface", "color-scheme", value]
-                      for value in ("prefer-dark", "default")],
-            "cinnamon": [["gsettings", "set", "org.cinnamon.desktop.interface", "gtk-theme", value]
-                         for value in ("Adwaita-dark", "Adwaita")],
-            "mate": [["gsettings", "set", "org.mate.interface", "gtk-theme", value]
-                     for value in ("BlackMATE", "Menta")],
-            "xfce": [["xfconf-query", "-c", "xsettings", "-p", "/Net/ThemeName", "-n", "-t", "string", "-s", value]
-                     for value in ("Adwaita-dark", "Adwaita")],
-            "plasma": [["plasma-apply-colorscheme", value] for value in ("BreezeDark", "BreezeLight")],
-        }.get(DESKTOP)
-        if not commands:
+        words, *values = {
+            "gnome": ("gsettings set org.gnome.desktop.interface color-scheme", "prefer-dark", "default"),
+            "cinnamon": ("gsettings set org.cinnamon.desktop.interface gtk-theme", "Adwaita-dark", "Adwaita"),
+            "mate": ("gsettings set org.mate.interface gtk-theme", "BlackMATE", "Menta"),
+            "xfce": ("xfconf-query -c xsettings -p /Net/ThemeName -n -t string -s", "Adwaita-dark", "Adwaita"),
+            "plasma": ("plasma-apply-colorscheme", "BreezeDark", "BreezeLight"),
+        }.get(DESKTOP, ("",))
+        if not values:
             return tell("theme", None, "nothing tells of it")
         seen = []
-        for command in commands:
-            run(*command, inside=True)
+        for value in values:
+            run(*words.split(), value, inside=True)
             time.sleep(2)
             place = self.open()
-            seen.append(max(pixels((place[0] + place[2] // 2, place[1] + place[3] - 40, 1, 1))[0]) if place else -1)
+            seen.append(max(self.ground(place)) if place else -1)
             picture(f"4-theme-{len(seen)}")
             if len(seen) == 1:
                 self.picture_of_item()
         tell("theme", 0 <= seen[0] < 110 and seen[1] > 160, str(seen))
 
     def menu(self):
-        self.program.window() and screen.press("Escape")
-        self.program.is_closed()
+        self.program.close()
         screen.move_pointer(*WALLPAPER)
         screen.wait_for_rest()
         time.sleep(0.5)
@@ -250,7 +246,7 @@ class Visit:
 
 def visit_without_tray():
     started = time.monotonic()
-    program = Keldra(PROGRAM, write_machine())
+    program = Keldra(PROGRAM)
     opened = program.is_open(4)
     tell("no tray", opened and time.monotonic() - started < 2.6, f"{time.monotonic() - started:.1f} s")
     picture("7-no-tray")
@@ -276,5 +272,4 @@ def main():
 
 
 if __name__ == "__main__":
-    (ROOM / "display").write_text(os.environ["DISPLAY"])
     main()
