@@ -8,7 +8,6 @@ namespace {
 class MacConformance final : public ConformanceMachine, MacMachine {
  public:
   MacConformance() {
-    SetUp();
     mac.volumesFolder = _volumes.path();
     mac.plug("disk0s2", {{"DAMediaBSDUnit", 0}, {"DAMediaWritable", true}});
     start();
@@ -25,7 +24,7 @@ class MacConformance final : public ConformanceMachine, MacMachine {
     mac.rename(kEsp, label, isMounted ? mac.volumesFolder + "/" + label : QString());
   }
   void occupy() override {
-    mac.onUnmount[kEsp].status = 1;
+    mac.busyVolumes = {kEsp};
     mac.processes[42] = {mac.mountPoint(kEsp).toStdString(), "less"};
   }
   void pull() override {

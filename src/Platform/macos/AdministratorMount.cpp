@@ -13,9 +13,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool isEsp(const DiskDescription &description) {
-  const QString content = description.value(disk_service::kDADiskDescriptionMediaContentKey).toString();
+  const QString content =
+      description.value(disk_service::kDADiskDescriptionMediaContentKey).toString();
   return content == "C12A7328-F81F-11D2-BA4B-00A0C93EC93B"_L1 ||
-         description.value(disk_service::kDADiskDescriptionMediaNameKey) == u"EFI System Partition"_s;
+         description.value(disk_service::kDADiskDescriptionMediaNameKey) ==
+             u"EFI System Partition"_s;
 }
 
 /// Empty for what is no BSD name: it becomes a part of a command that root runs.
@@ -40,8 +42,8 @@ std::optional<Dissenter> outcomeOf(QProcess &prompt, DissenterStatus refusal) {
 }  // namespace
 
 bool mayAskAdministrator(const DiskDescription &description, DissenterStatus refusal) {
-  const bool isRefusedToThisUser =
-      refusal == disk_service::kDAReturnNotPermitted || refusal == disk_service::kDAReturnNotPrivileged;
+  const bool isRefusedToThisUser = refusal == disk_service::kDAReturnNotPermitted ||
+                                   refusal == disk_service::kDAReturnNotPrivileged;
   return isRefusedToThisUser && getuid() != 0 && isEsp(description);
 }
 

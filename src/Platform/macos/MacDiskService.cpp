@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QUrl>
-#include <QUuid>
 #include <cerrno>
 #include <utility>
 
@@ -11,15 +10,15 @@
 namespace {
 
 void setUuid(DiskDescription &description, const QString &key) {
-  const QVariant value = description.take(key);
-  const auto uuid = DiskUUID::fromText(value.toUuid().toString(QUuid::WithoutBraces));
+  const auto uuid = DiskUUID::fromText(description.take(key).toString());
   if (uuid) description.insert(key, QVariant::fromValue(*uuid));
 }
 
 // The service also knows the name of a volume that is not mounted.
 DiskDescription descriptionFrom(DiskArbitration::Record record) {
   const bool isMounted = record.contains(disk_service::kDADiskDescriptionVolumePathKey);
-  if (!isMounted || record.value(disk_service::kDADiskDescriptionVolumeNameKey).toString().isEmpty()) {
+  if (!isMounted ||
+      record.value(disk_service::kDADiskDescriptionVolumeNameKey).toString().isEmpty()) {
     record.remove(disk_service::kDADiskDescriptionVolumeNameKey);
   }
   setUuid(record, disk_service::kDADiskDescriptionMediaUUIDKey);
@@ -59,7 +58,8 @@ std::optional<DiskDescription> MacDiskService::descriptionOfVolume(
 // system said it.
 DissenterStatus MacDiskService::inWordsOfTheSeam(const QString &bsdName, quint32 status) const {
   if (status == unixErrorStatus(EBUSY)) return disk_service::kDAReturnBusy;
-  const bool isUnknown = status == disk_service::kDAReturnBadArgument && !descriptionOfMedia(bsdName);
+  const bool isUnknown =
+      status == disk_service::kDAReturnBadArgument && !descriptionOfMedia(bsdName);
   return isUnknown ? disk_service::kDAReturnNotFound : status;
 }
 

@@ -4,22 +4,19 @@
 #include <CoreServices/CoreServices.h>
 #include <IOKit/IOKitLib.h>
 
+#include <QRegularExpression>
+
 #include "macos/fake/World.h"
 
 namespace {
 
 using namespace fake;
 
-/// "DAMediaName" of "MediaNameKey".
-Object *keyOf(const std::string &name) {
-  return makeConstant("CFString", "DA" + QString::fromStdString(name).chopped(3));
-}
-
-Object *constant(const std::string &name) {
-  const std::string keys = "kDADiskDescription";
-  if (name.starts_with("kCFBoolean")) return makeConstant("CFBoolean", name == "kCFBooleanTrue");
-  return name.starts_with(keys) ? keyOf(name.substr(keys.size()))
-                                : makeConstant("CFString", QString::fromStdString(name));
+Object *constant(QString name) {
+  if (name.startsWith("kCFBoolean")) return makeConstant("CFBoolean", name == "kCFBooleanTrue");
+  // "DAMediaName" for "kDADiskDescriptionMediaNameKey"
+  static const QRegularExpression kKey("^kDADiskDescription(.*)Key$");
+  return makeConstant("CFString", name.replace(kKey, "DA\\1"));
 }
 
 template <class Reference>

@@ -9,18 +9,15 @@ using namespace fake;
 
 namespace {
 
-using When = Answer::When;
-
 struct Disk : Object {
-  Disk(Session *owner, const QString &bsdName)
-      : Object("DADisk"), session(owner), name(bsdName), bytes(bsdName.toUtf8()) {
+  Disk(Session *owner, const QString &name)
+      : Object("DADisk", name), session(owner), bytes(name.toUtf8()) {
     ++owner->references;
     holds.push_back(owner);
   }
 
   Session *session;
-  QString name;
-  QByteArray bytes;
+  QByteArray bytes;                     // of its name
   std::optional<QVariantMap> snapshot;  // what a callback's disk was when the call was queued
 };
 
@@ -41,21 +38,19 @@ void lendDisk(Session *session, const DiskEntry &entry, Call call) {
   release(disk);
 }
 
-void tell(const std::shared_ptr<Listener> &listener, const DiskEntry &entry) {
-  post(listener->session, [entry, known = std::weak_ptr(listener)] {
-    if (const auto live = known.lock()) live->call(entry);
-  });
+void tell(const Listener &listener, const DiskEntry &entry) {
+  post(listener.session, [entry, call = listener.call] { call(entry); });
 }
 
 /// Calls with the disk, perhaps something else, and the context.
 template <class Callback, class... More>
-std::shared_ptr<Listener> add(DASessionRef reference, const QString &topic, Callback callback,
-                              void *context, More... more) {
+const Listener &add(DASessionRef reference, const QString &topic, Callback callback, void *context,
+                    More... more) {
   Session *const session = sessionOf(reference);
   const auto call = [=](const DiskEntry &entry) {
     lendDisk(session, entry, [=](DADiskRef disk) { callback(disk, more..., context); });
   };
-  return world().listeners.emplace_back(new Listener{session, topic, context, call});
+  return world().listeners.emplace_back(Listener{session, topic, context, call});
 }
 
 void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, void *context) {
@@ -66,50 +61,34 @@ void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, voi
 }
 
 /// Takes a request, to be carried out and answered when the test has said.
-void take(DADiskRef reference, std::map<QString, Answer> &answers,
-          const std::function<DAReturn(const DiskEntry &)> &attempt, DADiskMountCallback callback,
-          void *context) {
+void take(DADiskRef reference, const std::function<DAReturn(const DiskEntry &)> &attempt,
+          DADiskMountCallback callback, void *context) {
   if (QThread::currentThread() == qApp->thread()) {
     report("A request on the main thread: its password prompt would stop the program's windows");
   }
   const Disk *const disk = diskOf(reference);
-  const DiskEntry *const entry = entryOf(disk->name);
+  const DiskEntry *const entry = entryOf(disk->value.toString());
   if (entry == nullptr) return complete(reference, kDAReturnBadArgument, callback, context);
-  const auto [when, status] = answers[entry->name];
-  if (when == When::InsideTheCall) {
-    complete(reference, static_cast<DAReturn>(status), callback, context);
-  } else if (when == When::Later) {
-    // What the service does, it does however the program's run loop runs.
-    post(nullptr, [=, asker = std::weak_ptr(disk->session->self), known = *entry] {
-      const DAReturn result = attempt(known);
-      Session *const session = asker.lock().get();
-      if (session == nullptr) return;
-      post(session, [=] {
-        lendDisk(session, known, [=](DADiskRef it) { complete(it, result, callback, context); });
-      });
-    });
-  }
+  const quint32 refusal = Machine::current().refusals.value(entry->name);
+  if (refusal != 0) return complete(reference, static_cast<DAReturn>(refusal), callback, context);
+  post(disk->session, [=, session = disk->session, known = *entry] {
+    const DAReturn result = attempt(known);
+    lendDisk(session, known, [=](DADiskRef it) { complete(it, result, callback, context); });
+  });
 }
 
 }  // namespace
 
 Session::~Session() {
   if (!modes.isEmpty()) report("A DASession went while it was scheduled");
-  std::erase_if(world().listeners, [this](const auto &each) { return each->session == this; });
+  std::erase_if(world().listeners, [this](const auto &each) { return each.session == this; });
   std::erase_if(world().deliveries, [this](const auto &each) { return each.session == this; });
 }
 
 void fake::announce(const QSet<QString> &topics, const DiskEntry &entry) {
   for (const auto &each : world().listeners) {
-    if (topics.contains(each->topic)) tell(each, entry);
+    if (topics.contains(each.topic)) tell(each, entry);
   }
-}
-
-void Machine::restartDiskService() {
-  for (const auto &each : world().listeners) {
-    if (each->session != nullptr) each->session->isDead = true;
-  }
-  postNotification("com.apple.diskarbitrationd.launched");
 }
 
 DASessionRef DASessionCreate(CFAllocatorRef) {
@@ -148,7 +127,7 @@ const char *DADiskGetBSDName(DADiskRef reference) {
 
 CFDictionaryRef DADiskCopyDescription(DADiskRef reference) {
   const Disk *const disk = diskOf(reference);
-  const DiskEntry *const entry = entryOf(disk->name);
+  const DiskEntry *const entry = entryOf(disk->value.toString());
   const QVariantMap live = entry == nullptr ? QVariantMap() : entry->description;
   const QVariantMap description = disk->snapshot.value_or(live);
   return description.isEmpty() ? nullptr : as<CFDictionaryRef>(objectOf(description));
@@ -160,7 +139,7 @@ DAReturn DADissenterGetStatus(DADissenterRef dissenter) {
 
 void DARegisterDiskAppearedCallback(DASessionRef session, CFDictionaryRef,
                                     DADiskAppearedCallback callback, void *context) {
-  const auto added = add(session, "appeared", callback, context);
+  const Listener &added = add(session, "appeared", callback, context);
   for (const DiskEntry &each : world().disks) tell(added, each);
 }
 
@@ -180,13 +159,12 @@ void DADiskMountWithArguments(DADiskRef disk, CFURLRef url, DADiskMountOptions,
                               DADiskMountCallback callback, void *context, CFStringRef *) {
   const auto attempt = [path = url ? pathOf(url) : QString()](const DiskEntry &entry) -> DAReturn {
     Machine &mac = Machine::current();
-    if (mac.onMount[entry.name].status != 0) return kDAReturnError;
     if (!entry.description.contains("DAVolumeKind")) return kDAReturnUnsupported;
     if (!mac.mountPoint(entry.name).isEmpty()) return kDAReturnBusy;
     mac.mount(entry.name, path.isEmpty() ? mac.volumesFolder + '/' + entry.name : path);
     return kDAReturnSuccess;
   };
-  take(disk, Machine::current().onMount, attempt, callback, context);
+  take(disk, attempt, callback, context);
 }
 
 void DADiskUnmount(DADiskRef disk, DADiskUnmountOptions options, DADiskUnmountCallback callback,
@@ -196,9 +174,9 @@ void DADiskUnmount(DADiskRef disk, DADiskUnmountOptions options, DADiskUnmountCa
     Machine &mac = Machine::current();
     if (mac.mountPoint(entry.name).isEmpty()) return kDAReturnNotMounted;
     const bool isForced = options == kDADiskUnmountOptionForce;
-    if (mac.onUnmount[entry.name].status != 0 && !isForced) return kUnixBusy;
+    if (mac.busyVolumes.contains(entry.name) && !isForced) return kUnixBusy;
     mac.unmount(entry.name);
     return kDAReturnSuccess;
   };
-  take(disk, Machine::current().onUnmount, attempt, callback, context);
+  take(disk, attempt, callback, context);
 }

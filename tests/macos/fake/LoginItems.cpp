@@ -7,16 +7,13 @@
 using namespace fake;
 
 constexpr OSStatus kFileNotFound = -43;
-constexpr char kList[] = "LSSharedFileList";
 constexpr char kItem[] = "LSSharedFileListItem";
 
-LSSharedFileListRef LSSharedFileListCreate(CFAllocatorRef, CFStringRef type, CFTypeRef) {
-  expect(type == kLSSharedFileListSessionLoginItems);
-  return as<LSSharedFileListRef>(new Object(kList));
+LSSharedFileListRef LSSharedFileListCreate(CFAllocatorRef, CFStringRef, CFTypeRef) {
+  return as<LSSharedFileListRef>(new Object("LSSharedFileList"));
 }
 
-CFArrayRef LSSharedFileListCopySnapshot(LSSharedFileListRef list, UInt32 *) {
-  checked(list, kList);
+CFArrayRef LSSharedFileListCopySnapshot(LSSharedFileListRef, UInt32 *) {
   auto *const snapshot = new Object("CFArray");
   for (const QString &location : Machine::current().loginItems) {
     snapshot->holds.push_back(new Object(kItem, location));
@@ -34,16 +31,14 @@ OSStatus LSSharedFileListItemResolve(LSSharedFileListItemRef item,
   return 0;
 }
 
-LSSharedFileListItemRef LSSharedFileListInsertItemURL(LSSharedFileListRef list,
-                                                      LSSharedFileListItemRef, CFStringRef, IconRef,
-                                                      CFURLRef url, CFDictionaryRef, CFArrayRef) {
-  checked(list, kList);
+LSSharedFileListItemRef LSSharedFileListInsertItemURL(LSSharedFileListRef, LSSharedFileListItemRef,
+                                                      CFStringRef, IconRef, CFURLRef url,
+                                                      CFDictionaryRef, CFArrayRef) {
   Machine::current().loginItems.append(pathOf(url));
   return as<LSSharedFileListItemRef>(new Object(kItem, pathOf(url)));
 }
 
-OSStatus LSSharedFileListItemRemove(LSSharedFileListRef list, LSSharedFileListItemRef item) {
-  checked(list, kList);
+OSStatus LSSharedFileListItemRemove(LSSharedFileListRef, LSSharedFileListItemRef item) {
   const QString location = valueOf(item, kItem).toString();
   return Machine::current().loginItems.removeOne(location) ? 0 : kFileNotFound;
 }

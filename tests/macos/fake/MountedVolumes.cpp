@@ -22,7 +22,7 @@ int proc_listpidspath(uint32_t type, uint32_t, const char *path, uint32_t pathfl
          pathflags == (PROC_LISTPIDSPATH_PATH_IS_VOLUME | PROC_LISTPIDSPATH_EXCLUDE_EVTONLY));
   std::vector<int> users;
   for (const auto &[number, process] : Machine::current().processes) {
-    if (process.volume == path) users.push_back(number);
+    if (process.first == path) users.push_back(number);
   }
   const auto size = std::min(users.size() * sizeof(int), static_cast<std::size_t>(buffersize));
   std::memcpy(buffer, users.data(), size);
@@ -31,6 +31,6 @@ int proc_listpidspath(uint32_t type, uint32_t, const char *path, uint32_t pathfl
 
 int proc_name(int number, void *buffer, uint32_t buffersize) {
   if (buffersize < 32) return 0;  // it insists on room for the longest name
-  const std::string &name = Machine::current().processes.at(number).name;
+  const std::string &name = Machine::current().processes.at(number).second;
   return static_cast<int>(name.copy(static_cast<char *>(buffer), buffersize));
 }

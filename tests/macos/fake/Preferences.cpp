@@ -8,14 +8,12 @@ void Machine::postNotification(const QString &name) {
   announce({name}, {});
 }
 
-CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef application) {
-  expect(application == kCFPreferencesCurrentApplication);
+CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef) {
   const QVariant value = Machine::current().preferences.value(textOf(key));
   return value.isValid() ? objectOf(value) : nullptr;
 }
 
-void CFPreferencesSetAppValue(CFStringRef key, CFPropertyListRef value, CFStringRef application) {
-  expect(application == kCFPreferencesCurrentApplication);
+void CFPreferencesSetAppValue(CFStringRef key, CFPropertyListRef value, CFStringRef) {
   Machine::current().preferences[textOf(key)] = checked(value)->value;
 }
 
@@ -39,13 +37,13 @@ void CFNotificationCenterAddObserver(CFNotificationCenterRef center, const void 
   const auto call = [=](const DiskEntry &) {
     callback(center, const_cast<void *>(observer), nullptr, nullptr, nullptr);
   };
-  world().listeners.emplace_back(new Listener{nullptr, textOf(name), observer, call});
+  world().listeners.push_back({nullptr, textOf(name), observer, call});
 }
 
 void CFNotificationCenterRemoveObserver(CFNotificationCenterRef center, const void *observer,
                                         CFNotificationName name, const void *) {
   checked(center, "CFNotificationCenter");
   std::erase_if(world().listeners, [=, topic = textOf(name)](const auto &each) {
-    return each->session == nullptr && each->topic == topic && each->context == observer;
+    return each.session == nullptr && each.topic == topic && each.context == observer;
   });
 }

@@ -15,10 +15,9 @@ using namespace fake;
 
 void fake::serve(Mode mode) {
   const auto isServed = [mode](const Delivery &each) {
-    const Session *const session = each.session;
-    if (session != nullptr && session->isDead) return false;
-    if (session == nullptr || session->modes.contains("kCFRunLoopCommonModes")) return true;
-    return mode == Mode::Default && session->modes.contains("kCFRunLoopDefaultMode");
+    const QSet<QString> modes = each.session ? each.session->modes : QSet<QString>();
+    if (each.session == nullptr || modes.contains("kCFRunLoopCommonModes")) return true;
+    return mode == Mode::Default && modes.contains("kCFRunLoopDefaultMode");
   };
   auto &waiting = world().deliveries;
   const auto next = [&] { return std::find_if(waiting.begin(), waiting.end(), isServed); };
@@ -75,22 +74,17 @@ bool runFor(std::chrono::milliseconds time) {
 }  // namespace
 
 void CFRunLoopRun() {
-  constexpr std::chrono::seconds kPatience(5);
-  const bool isStopped = runFor(kPatience);
-  if (!isStopped) report("A run of the run loop that nothing is left to stop: a Mac would hang");
+  if (!runFor(std::chrono::seconds(5))) report("A run of the run loop that nothing stops");
 }
 
-CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode mode, CFTimeInterval seconds, Boolean) {
-  expect(mode == kCFRunLoopDefaultMode);
-  return runFor(std::chrono::milliseconds(std::lround(1000 * seconds))) ? kCFRunLoopRunStopped
-                                                                        : kCFRunLoopRunTimedOut;
+CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode, CFTimeInterval seconds, Boolean) {
+  runFor(std::chrono::milliseconds(std::lround(1000 * seconds)));
+  return {};
 }
 
 void CFRunLoopStop(CFRunLoopRef loop) {
   checked(loop, "CFRunLoop");
-  if (!world().runs.empty()) {
-    world().runs.back() = true;
-  } else {
-    report("CFRunLoopStop while nothing runs the loop: on a Mac it stops the program's own run");
-  }
+  auto &runs = world().runs;
+  if (runs.empty()) return report("CFRunLoopStop outside of all waits ends the program's own run");
+  runs.back() = true;
 }

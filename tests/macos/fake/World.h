@@ -40,11 +40,11 @@ void report(const std::string &fault);
 /// Fails it unless the function was asked for what the fake knows of it.
 void expect(bool isKnown, const char *function = __builtin_FUNCTION());
 
-/// The object that the function was given; null, after a report, when it is none, is gone or is of
-/// another type than the function takes.
+/// The object that the function was given. Ends the program when it is none, is gone or is of
+/// another type than the function takes, as a Mac would.
 Object *checked(const void *reference, const char *type = nullptr,
                 const char *function = __builtin_FUNCTION());
-/// What it stands for; invalid after a report.
+/// What it stands for.
 QVariant valueOf(const void *reference, const char *type,
                  const char *function = __builtin_FUNCTION());
 QString textOf(const void *string, const char *function = __builtin_FUNCTION());
@@ -65,8 +65,6 @@ struct Session : Object {
   Session() : Object("DASession") {}
   ~Session() override;
   QSet<QString> modes;  // of the run loop, in which it is served
-  bool isDead = false;  // with the service that it was opened with
-  std::shared_ptr<Session> self{this, [](Session *) {}};
 };
 
 struct Delivery {
@@ -87,7 +85,7 @@ struct World {
   std::deque<Delivery> deliveries;
   std::vector<bool> runs;  // for each run of the run loop under way, whether it has been stopped
   std::vector<DiskEntry> disks;
-  std::vector<std::shared_ptr<Listener>> listeners;
+  std::vector<Listener> listeners;
   std::size_t nextMedium = 0;  // of the disks, for the registry's iterator
   int kernelReferences = 0;
   std::uintptr_t watchedEvents = 0;  // the mask of the event monitor, and the block that it calls
