@@ -31,15 +31,17 @@ Disk *diskOf(const void *reference) {
 
 /// The disk of a callback is gone after it.
 template <class Call>
-void lendDisk(Session *session, const DiskEntry &entry, Call call) {
-  auto *const disk = new Disk(session, entry.name);
-  disk->snapshot = entry.description;
+void lendDisk(Session *session, const QString &name, const QVariantMap &description, Call call) {
+  auto *const disk = new Disk(session, name);
+  disk->snapshot = description;
   call(as<DADiskRef>(disk));
   release(disk);
 }
 
-void tell(const Listener &listener, const DiskEntry &entry) {
-  post(listener.session, [entry, call = listener.call] { call(entry); });
+void tell(const Listener &listener, const QString &disk) {
+  post(listener.session, [disk, description = world().disks.value(disk), call = listener.call] {
+    call(disk, description);
+  });
 }
 
 /// Calls with the disk, perhaps something else, and the context.
@@ -47,8 +49,8 @@ template <class Callback, class... More>
 const Listener &add(DASessionRef reference, const QString &topic, Callback callback, void *context,
                     More... more) {
   Session *const session = sessionOf(reference);
-  const auto call = [=](const DiskEntry &entry) {
-    lendDisk(session, entry, [=](DADiskRef disk) { callback(disk, more..., context); });
+  const auto call = [=](const QString &name, const QVariantMap &description) {
+    lendDisk(session, name, description, [=](DADiskRef it) { callback(it, more..., context); });
   };
   return world().listeners.emplace_back(Listener{session, topic, context, call});
 }
@@ -60,20 +62,21 @@ void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, voi
   release(dissenter);
 }
 
-/// Takes a request, to be carried out and answered when the test has said.
-void take(DADiskRef reference, const std::function<DAReturn(const DiskEntry &)> &attempt,
+/// Takes a request, to be carried out and answered when the run loop of its session runs.
+void take(DADiskRef reference, const std::function<DAReturn(const QString &)> &attempt,
           DADiskMountCallback callback, void *context) {
   if (QThread::currentThread() == qApp->thread()) {
     report("A request on the main thread: its password prompt would stop the program's windows");
   }
-  const Disk *const disk = diskOf(reference);
-  const DiskEntry *const entry = entryOf(disk->value.toString());
-  if (entry == nullptr) return complete(reference, kDAReturnBadArgument, callback, context);
-  const quint32 refusal = Machine::current().refusals.value(entry->name);
-  if (refusal != 0) return complete(reference, static_cast<DAReturn>(refusal), callback, context);
-  post(disk->session, [=, session = disk->session, known = *entry] {
-    const DAReturn result = attempt(known);
-    lendDisk(session, known, [=](DADiskRef it) { complete(it, result, callback, context); });
+  const QString name = diskOf(reference)->value.toString();
+  const bool isKnown = world().disks.contains(name);
+  const quint32 refusal = Machine::current().refusals.value(name);
+  const auto status = isKnown ? static_cast<DAReturn>(refusal) : kDAReturnBadArgument;
+  if (status != 0) return complete(reference, status, callback, context);
+  post(diskOf(reference)->session, [=, session = diskOf(reference)->session] {
+    const DAReturn result = attempt(name);
+    const auto answer = [=](DADiskRef disk) { complete(disk, result, callback, context); };
+    lendDisk(session, name, world().disks.value(name), answer);
   });
 }
 
@@ -85,9 +88,9 @@ Session::~Session() {
   std::erase_if(world().deliveries, [this](const auto &each) { return each.session == this; });
 }
 
-void fake::announce(const QSet<QString> &topics, const DiskEntry &entry) {
+void fake::announce(const QStringList &topics, const QString &disk) {
   for (const auto &each : world().listeners) {
-    if (topics.contains(each.topic)) tell(each, entry);
+    if (topics.contains(each.topic)) tell(each, disk);
   }
 }
 
@@ -99,13 +102,13 @@ DASessionRef DASessionCreate(CFAllocatorRef) {
 
 void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
   checked(loop, "CFRunLoop");
-  sessionOf(session)->modes.insert(textOf(mode));
+  sessionOf(session)->modes.append(textOf(mode));
   wake();
 }
 
 void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
   checked(loop, "CFRunLoop");
-  sessionOf(session)->modes.remove(textOf(mode));
+  sessionOf(session)->modes.removeOne(textOf(mode));
 }
 
 DADiskRef DADiskCreateFromBSDName(CFAllocatorRef, DASessionRef session, const char *name) {
@@ -113,9 +116,9 @@ DADiskRef DADiskCreateFromBSDName(CFAllocatorRef, DASessionRef session, const ch
 }
 
 DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, DASessionRef session, CFURLRef url) {
-  for (const DiskEntry &each : world().disks) {
-    const bool isIt = Machine::current().mountPoint(each.name) == pathOf(url);
-    if (isIt) return as<DADiskRef>(new Disk(sessionOf(session), each.name));
+  for (const QString &each : world().disks.keys()) {
+    const bool isIt = Machine::current().mountPoint(each) == pathOf(url);
+    if (isIt) return as<DADiskRef>(new Disk(sessionOf(session), each));
   }
   return nullptr;
 }
@@ -127,8 +130,7 @@ const char *DADiskGetBSDName(DADiskRef reference) {
 
 CFDictionaryRef DADiskCopyDescription(DADiskRef reference) {
   const Disk *const disk = diskOf(reference);
-  const DiskEntry *const entry = entryOf(disk->value.toString());
-  const QVariantMap live = entry == nullptr ? QVariantMap() : entry->description;
+  const QVariantMap live = world().disks.value(disk->value.toString());
   const QVariantMap description = disk->snapshot.value_or(live);
   return description.isEmpty() ? nullptr : as<CFDictionaryRef>(objectOf(description));
 }
@@ -140,7 +142,7 @@ DAReturn DADissenterGetStatus(DADissenterRef dissenter) {
 void DARegisterDiskAppearedCallback(DASessionRef session, CFDictionaryRef,
                                     DADiskAppearedCallback callback, void *context) {
   const Listener &added = add(session, "appeared", callback, context);
-  for (const DiskEntry &each : world().disks) tell(added, each);
+  for (const QString &each : world().disks.keys()) tell(added, each);
 }
 
 void DARegisterDiskDisappearedCallback(DASessionRef session, CFDictionaryRef,
@@ -157,11 +159,11 @@ void DARegisterDiskDescriptionChangedCallback(DASessionRef session, CFDictionary
 
 void DADiskMountWithArguments(DADiskRef disk, CFURLRef url, DADiskMountOptions,
                               DADiskMountCallback callback, void *context, CFStringRef *) {
-  const auto attempt = [path = url ? pathOf(url) : QString()](const DiskEntry &entry) -> DAReturn {
+  const auto attempt = [path = url ? pathOf(url) : QString()](const QString &name) -> DAReturn {
     Machine &mac = Machine::current();
-    if (!entry.description.contains("DAVolumeKind")) return kDAReturnUnsupported;
-    if (!mac.mountPoint(entry.name).isEmpty()) return kDAReturnBusy;
-    mac.mount(entry.name, path.isEmpty() ? mac.volumesFolder + '/' + entry.name : path);
+    if (!world().disks.value(name).contains("DAVolumeKind")) return kDAReturnUnsupported;
+    if (!mac.mountPoint(name).isEmpty()) return kDAReturnBusy;
+    mac.mount(name, path.isEmpty() ? mac.volumesFolder + '/' + name : path);
     return kDAReturnSuccess;
   };
   take(disk, attempt, callback, context);
@@ -169,13 +171,13 @@ void DADiskMountWithArguments(DADiskRef disk, CFURLRef url, DADiskMountOptions,
 
 void DADiskUnmount(DADiskRef disk, DADiskUnmountOptions options, DADiskUnmountCallback callback,
                    void *context) {
-  const auto attempt = [options](const DiskEntry &entry) -> DAReturn {
+  const auto attempt = [options](const QString &name) -> DAReturn {
     constexpr DAReturn kUnixBusy = 0xC010;
     Machine &mac = Machine::current();
-    if (mac.mountPoint(entry.name).isEmpty()) return kDAReturnNotMounted;
+    if (mac.mountPoint(name).isEmpty()) return kDAReturnNotMounted;
     const bool isForced = options == kDADiskUnmountOptionForce;
-    if (mac.busyVolumes.contains(entry.name) && !isForced) return kUnixBusy;
-    mac.unmount(entry.name);
+    if (mac.busyVolumes.contains(name) && !isForced) return kUnixBusy;
+    mac.unmount(name);
     return kDAReturnSuccess;
   };
   take(disk, attempt, callback, context);

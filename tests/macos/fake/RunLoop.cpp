@@ -13,11 +13,12 @@
 
 using namespace fake;
 
+constexpr char kCommonModes[] = "kCFRunLoopCommonModes";
+
 void fake::serve(Mode mode) {
   const auto isServed = [mode](const Delivery &each) {
-    const QSet<QString> modes = each.session ? each.session->modes : QSet<QString>();
-    if (each.session == nullptr || modes.contains("kCFRunLoopCommonModes")) return true;
-    return mode == Mode::Default && modes.contains("kCFRunLoopDefaultMode");
+    const QStringList modes = each.session ? each.session->modes : QStringList{kCommonModes};
+    return modes.contains(kCommonModes) || (mode == Mode::Default && !modes.isEmpty());
   };
   auto &waiting = world().deliveries;
   const auto next = [&] { return std::find_if(waiting.begin(), waiting.end(), isServed); };

@@ -6,7 +6,6 @@
 #include <DiskArbitration/DiskArbitration.h>
 
 #include <QObject>
-#include <QSet>
 #include <QUrl>
 #include <deque>
 #include <functional>
@@ -56,15 +55,10 @@ Reference as(Object *object) {
   return reinterpret_cast<Reference>(object);
 }
 
-struct DiskEntry {
-  QString name;  // the BSD name; the path of a volume without media
-  QVariantMap description;
-};
-
 struct Session : Object {
   Session() : Object("DASession") {}
   ~Session() override;
-  QSet<QString> modes;  // of the run loop, in which it is served
+  QStringList modes;  // of the run loop, in which it is served
 };
 
 struct Delivery {
@@ -77,16 +71,16 @@ struct Listener {
   Session *session;
   QString topic;  // "appeared", "disappeared", the key that is watched, a notification's name
   const void *context;
-  std::function<void(const DiskEntry &)> call;
+  std::function<void(const QString &disk, const QVariantMap &description)> call;
 };
 
 struct World {
   QObject context;  // what Qt's event loop is to do for this machine
   std::deque<Delivery> deliveries;
   std::vector<bool> runs;  // for each run of the run loop under way, whether it has been stopped
-  std::vector<DiskEntry> disks;
+  QMap<QString, QVariantMap> disks;  // descriptions, by BSD name or path of a volume without media
   std::vector<Listener> listeners;
-  std::size_t nextMedium = 0;  // of the disks, for the registry's iterator
+  quint32 nextMedium = 0;  // of the disks, for the registry's iterator
   int kernelReferences = 0;
   std::uintptr_t watchedEvents = 0;  // the mask of the event monitor, and the block that it calls
   QByteArray handler;
@@ -99,11 +93,8 @@ void post(Session *session, std::function<void()> deliver);
 /// Has Qt's event loop look for what can be delivered now.
 void wake();
 
-/// Null for a disk that is not there.
-DiskEntry *entryOf(const QString &name);
-
-/// Queues the calls of who listens to one of the topics.
-void announce(const QSet<QString> &topics, const DiskEntry &entry);
+/// Queues the calls of who listens to one of the topics, with the disk as it is now.
+void announce(const QStringList &topics, const QString &disk = {});
 
 /// The service's library makes them when the first session is opened.
 void setWatchKeys(bool areThere);
