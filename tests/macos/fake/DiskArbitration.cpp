@@ -29,15 +29,6 @@ Disk *diskOf(const void *reference) {
   return static_cast<Disk *>(checked(reference, "DADisk"));
 }
 
-/// The disk of a callback is gone after it.
-template <class Call>
-void lendDisk(Session *session, const QString &name, const QVariantMap &description, Call call) {
-  auto *const disk = new Disk(session, name);
-  disk->snapshot = description;
-  call(as<DADiskRef>(disk));
-  release(disk);
-}
-
 void tell(const Listener &listener, const QString &disk) {
   post(listener.session, [disk, description = world().disks.value(disk), call = listener.call] {
     call(disk, description);
@@ -50,7 +41,10 @@ const Listener &add(DASessionRef reference, const QString &topic, Callback callb
                     More... more) {
   Session *const session = sessionOf(reference);
   const auto call = [=](const QString &name, const QVariantMap &description) {
-    lendDisk(session, name, description, [=](DADiskRef it) { callback(it, more..., context); });
+    auto *const disk = new Disk(session, name);  // gone after the call
+    disk->snapshot = description;
+    callback(as<DADiskRef>(disk), more..., context);
+    release(disk);
   };
   return world().listeners.emplace_back(Listener{session, topic, context, call});
 }
@@ -73,11 +67,7 @@ void take(DADiskRef reference, const std::function<DAReturn(const QString &)> &a
   const quint32 refusal = Machine::current().refusals.value(name);
   const auto status = isKnown ? static_cast<DAReturn>(refusal) : kDAReturnBadArgument;
   if (status != 0) return complete(reference, status, callback, context);
-  post(diskOf(reference)->session, [=, session = diskOf(reference)->session] {
-    const DAReturn result = attempt(name);
-    const auto answer = [=](DADiskRef disk) { complete(disk, result, callback, context); };
-    lendDisk(session, name, world().disks.value(name), answer);
-  });
+  post(diskOf(reference)->session, [=] { complete(reference, attempt(name), callback, context); });
 }
 
 }  // namespace
@@ -85,7 +75,7 @@ void take(DADiskRef reference, const std::function<DAReturn(const QString &)> &a
 Session::~Session() {
   if (!modes.isEmpty()) report("A DASession went while it was scheduled");
   std::erase_if(world().listeners, [this](const auto &each) { return each.session == this; });
-  std::erase_if(world().deliveries, [this](const auto &each) { return each.session == this; });
+  std::erase_if(world().deliveries, [this](const auto &each) { return each.first == this; });
 }
 
 void fake::announce(const QStringList &topics, const QString &disk) {
@@ -100,14 +90,11 @@ DASessionRef DASessionCreate(CFAllocatorRef) {
   return as<DASessionRef>(new Session);
 }
 
-void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
-  checked(loop, "CFRunLoop");
+void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef, CFStringRef mode) {
   sessionOf(session)->modes.append(textOf(mode));
-  wake();
 }
 
-void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
-  checked(loop, "CFRunLoop");
+void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef, CFStringRef mode) {
   sessionOf(session)->modes.removeOne(textOf(mode));
 }
 
@@ -163,7 +150,7 @@ void DADiskMountWithArguments(DADiskRef disk, CFURLRef url, DADiskMountOptions,
     Machine &mac = Machine::current();
     if (!world().disks.value(name).contains("DAVolumeKind")) return kDAReturnUnsupported;
     if (!mac.mountPoint(name).isEmpty()) return kDAReturnBusy;
-    mac.mount(name, path.isEmpty() ? mac.volumesFolder + '/' + name : path);
+    mac.mount(name, path.isEmpty() ? "/Volumes/" + name : path);
     return kDAReturnSuccess;
   };
   take(disk, attempt, callback, context);

@@ -1,7 +1,5 @@
 // The disks of the machine, and what happens to them.
 
-#include <QDir>
-
 #include "macos/fake/World.h"
 
 using namespace fake;
@@ -23,7 +21,6 @@ void Machine::pull(const QString &name) {
 }
 
 void Machine::mount(const QString &name, const QString &path) {
-  QDir().mkdir(path);
   world().disks[name][kPath] = QUrl::fromLocalFile(path);
   announce({kPath}, name);
 }

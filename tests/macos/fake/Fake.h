@@ -70,7 +70,6 @@ class Machine {
   // Read whenever the backend asks.
   QMap<QString, quint32> refusals;  // the service's status, inside every request for the disk
   QStringList busyVolumes;          // by their disks: not unmounted but by force
-  QString volumesFolder = QStringLiteral("/Volumes");  // where the service mounts by itself
   bool hasDiskService = true;
   QVariantMap preferences;    // the program's own
   QStringList loginItems;     // locations; empty: does not resolve

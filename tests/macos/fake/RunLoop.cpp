@@ -16,32 +16,27 @@ using namespace fake;
 constexpr char kCommonModes[] = "kCFRunLoopCommonModes";
 
 void fake::serve(Mode mode) {
-  const auto isServed = [mode](const Delivery &each) {
-    const QStringList modes = each.session ? each.session->modes : QStringList{kCommonModes};
+  const auto isServed = [mode](const auto &each) {
+    const QStringList modes = each.first ? each.first->modes : QStringList{kCommonModes};
     return modes.contains(kCommonModes) || (mode == Mode::Default && !modes.isEmpty());
   };
   auto &waiting = world().deliveries;
   const auto next = [&] { return std::find_if(waiting.begin(), waiting.end(), isServed); };
   for (auto place = next(); place != waiting.end(); place = next()) {
-    const auto deliver = std::move(place->deliver);
+    const auto deliver = std::move(place->second);
     waiting.erase(place);
     deliver();
   }
 }
 
-void fake::wake() {
+void fake::post(Session *session, std::function<void()> deliver) {
+  world().deliveries.emplace_back(session, std::move(deliver));
   QMetaObject::invokeMethod(
       &world().context, [] { serve(); }, Qt::QueuedConnection);
 }
 
-void fake::post(Session *session, std::function<void()> deliver) {
-  world().deliveries.push_back({session, std::move(deliver)});
-  wake();
-}
-
 CFRunLoopRef CFRunLoopGetMain() {
-  static Object *const loop = makeConstant("CFRunLoop");
-  return as<CFRunLoopRef>(loop);
+  return nullptr;
 }
 
 dispatch_queue_global_t dispatch_get_global_queue(intptr_t, uintptr_t) {
@@ -83,8 +78,7 @@ CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode, CFTimeInterval seconds, Boo
   return {};
 }
 
-void CFRunLoopStop(CFRunLoopRef loop) {
-  checked(loop, "CFRunLoop");
+void CFRunLoopStop(CFRunLoopRef) {
   auto &runs = world().runs;
   if (runs.empty()) return report("CFRunLoopStop outside of all waits ends the program's own run");
   runs.back() = true;

@@ -27,8 +27,7 @@ CFURLRef KextManagerCreateURLForBundleIdentifier(CFAllocatorRef, CFStringRef ide
 }
 
 CFBundleRef CFBundleGetMainBundle() {
-  static Object *const bundle = makeConstant("CFBundle");
-  return as<CFBundleRef>(bundle);
+  return nullptr;
 }
 
 CFURLRef CFBundleCopyBundleURL(CFBundleRef) {
@@ -109,27 +108,24 @@ Boolean CFPreferencesAppSynchronize(CFStringRef) {
 }
 
 CFNotificationCenterRef CFNotificationCenterGetDistributedCenter() {
-  static Object *const center = makeConstant("CFNotificationCenter");
-  return as<CFNotificationCenterRef>(center);
+  return nullptr;
 }
 
 CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter() {
-  return CFNotificationCenterGetDistributedCenter();
+  return nullptr;
 }
 
 void CFNotificationCenterAddObserver(CFNotificationCenterRef center, const void *observer,
                                      CFNotificationCallback callback, CFStringRef name,
                                      const void *, CFNotificationSuspensionBehavior) {
-  checked(center, "CFNotificationCenter");
   const auto call = [=](const QString &, const QVariantMap &) {
     callback(center, const_cast<void *>(observer), nullptr, nullptr, nullptr);
   };
   world().listeners.push_back({nullptr, textOf(name), observer, call});
 }
 
-void CFNotificationCenterRemoveObserver(CFNotificationCenterRef center, const void *observer,
+void CFNotificationCenterRemoveObserver(CFNotificationCenterRef, const void *observer,
                                         CFNotificationName name, const void *) {
-  checked(center, "CFNotificationCenter");
   std::erase_if(world().listeners, [=, topic = textOf(name)](const auto &each) {
     return each.session == nullptr && each.topic == topic && each.context == observer;
   });

@@ -61,11 +61,6 @@ struct Session : Object {
   QStringList modes;  // of the run loop, in which it is served
 };
 
-struct Delivery {
-  Session *session;  // null: it does not matter how the run loop runs
-  std::function<void()> deliver;
-};
-
 /// What is called back by the disk service, or by a notification centre, which is no session's.
 struct Listener {
   Session *session;
@@ -76,7 +71,8 @@ struct Listener {
 
 struct World {
   QObject context;  // what Qt's event loop is to do for this machine
-  std::deque<Delivery> deliveries;
+  // For a session; for none when it does not matter how the run loop runs.
+  std::deque<std::pair<Session *, std::function<void()>>> deliveries;
   std::vector<bool> runs;  // for each run of the run loop under way, whether it has been stopped
   QMap<QString, QVariantMap> disks;  // descriptions, by BSD name or path of a volume without media
   std::vector<Listener> listeners;
@@ -90,8 +86,6 @@ struct World {
 World &world();
 
 void post(Session *session, std::function<void()> deliver);
-/// Has Qt's event loop look for what can be delivered now.
-void wake();
 
 /// Queues the calls of who listens to one of the topics, with the disk as it is now.
 void announce(const QStringList &topics, const QString &disk = {});
