@@ -16,10 +16,7 @@ class MacConformance final : public ConformanceMachine, MacMachine {
 
   void mount() override { mac.mount(kEsp, "/Volumes/EFI"); }
   void unmount() override { mac.unmount(kEsp); }
-  void rename(const QString &label) override {
-    const bool isMounted = !mac.mountPoint(kEsp).isEmpty();
-    mac.rename(kEsp, label, isMounted ? "/Volumes/" + label : QString());
-  }
+  void rename(const QString &label) override { mac.rename(kEsp, label); }
   void occupy() override {
     mac.busyVolumes = {kEsp};
     mac.processes[42] = {mac.mountPoint(kEsp).toStdString(), "less"};

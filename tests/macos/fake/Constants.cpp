@@ -21,23 +21,19 @@ Object *constant(QString name) {
 
 template <class Reference>
 Reference constantOf(const char *name) {
-  constexpr bool isNull = std::is_integral_v<Reference> ||
-                          std::is_same_v<Reference, CFAllocatorRef> ||
-                          std::is_same_v<Reference, CFArrayRef>;
-  if constexpr (!isNull) return as<Reference>(constant(name));
+  if constexpr (!std::is_integral_v<Reference>) return as<Reference>(constant(name));
   return {};
-}
-
-CFArrayRef arrayOf(CFStringRef text) {
-  Object *const array = makeConstant("CFArray");
-  array->holds.push_back(checked(text));
-  return as<CFArrayRef>(array);
 }
 
 }  // namespace
 
 void fake::setWatchKeys(bool areThere) {
-  const auto key = [=](CFStringRef text) { return areThere ? arrayOf(text) : nullptr; };
+  const auto key = [=](CFStringRef text) -> CFArrayRef {
+    if (!areThere) return nullptr;
+    Object *const array = makeConstant("CFArray");
+    array->holds = {checked(text)};
+    return as<CFArrayRef>(array);
+  };
   kDADiskDescriptionWatchVolumePath = key(kDADiskDescriptionVolumePathKey);
   kDADiskDescriptionWatchVolumeName = key(kDADiskDescriptionVolumeNameKey);
 }

@@ -59,9 +59,8 @@ void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, voi
 /// Takes a request, to be carried out and answered when the run loop of its session runs.
 void take(DADiskRef reference, const std::function<DAReturn(const QString &)> &attempt,
           DADiskMountCallback callback, void *context) {
-  if (QThread::currentThread() == qApp->thread()) {
-    report("A request on the main thread: its password prompt would stop the program's windows");
-  }
+  // Its password prompt would stop the program's windows.
+  expect(QThread::currentThread() != qApp->thread());
   const QString name = diskOf(reference)->value.toString();
   const bool isKnown = world().disks.contains(name);
   const quint32 refusal = Machine::current().refusals.value(name);

@@ -30,10 +30,11 @@ void Machine::unmount(const QString &name) {
   announce({kPath}, name);
 }
 
-void Machine::rename(const QString &name, const QString &volumeName, const QString &path) {
+void Machine::rename(const QString &name, const QString &volumeName) {
+  const bool isMounted = !mountPoint(name).isEmpty();
   world().disks[name][kName] = volumeName;
-  if (!path.isEmpty()) world().disks[name][kPath] = QUrl::fromLocalFile(path);
-  announce({kName, path.isEmpty() ? "" : kPath}, name);
+  if (isMounted) world().disks[name][kPath] = QUrl::fromLocalFile("/Volumes/" + volumeName);
+  announce({kName, isMounted ? kPath : ""}, name);
 }
 
 QString Machine::mountPoint(const QString &name) const {

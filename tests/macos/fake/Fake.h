@@ -29,9 +29,6 @@ namespace fake {
 
 struct World;
 
-/// The mount point of the volume that it uses, and its name: empty when this user may not know.
-using Process = std::pair<std::string, std::string>;
-
 enum class Event { LeftMouseDown = 1, RightMouseDown = 3, KeyDown = 10, KeyUp = 11 };
 
 /// The modes of Qt's event loop: the second is that of an application-modal window, which serves
@@ -56,8 +53,8 @@ class Machine {
   // What somebody else does.
   void mount(const QString &name, const QString &path);
   void unmount(const QString &name);
-  /// A mounted volume may get another path by it.
-  void rename(const QString &name, const QString &volumeName, const QString &path = {});
+  /// A mounted volume gets another path by it.
+  void rename(const QString &name, const QString &volumeName);
 
   /// Empty while it is not mounted.
   QString mountPoint(const QString &name) const;
@@ -76,7 +73,8 @@ class Machine {
   QVariantMap driverBundles;  // path by identifier
   std::string executable;
   std::map<std::string, quint32> fileSystemSubtypes;  // by mount point
-  std::map<int, Process> processes;                   // by their numbers
+  // By number: the mount point of what it uses, and its name, empty when this user may not know.
+  std::map<int, std::pair<std::string, std::string>> processes;
 
   World &world() { return *_world; }
 

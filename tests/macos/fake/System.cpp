@@ -132,27 +132,23 @@ void CFNotificationCenterRemoveObserver(CFNotificationCenterRef, const void *obs
 }
 
 int statfs(const char *path, struct statfs *result) {
-  const auto &subtypes = Machine::current().fileSystemSubtypes;
-  if (!subtypes.contains(path)) return -1;
-  result->f_fssubtype = subtypes.at(path);
+  result->f_fssubtype = Machine::current().fileSystemSubtypes[path];
   return 0;
 }
 
 int proc_listpidspath(uint32_t type, uint32_t, const char *path, uint32_t pathflags, void *buffer,
-                      int buffersize) {
+                      int) {
   expect(type == PROC_ALL_PIDS &&
          pathflags == (PROC_LISTPIDSPATH_PATH_IS_VOLUME | PROC_LISTPIDSPATH_EXCLUDE_EVTONLY));
   std::vector<int> users;
   for (const auto &[number, process] : Machine::current().processes) {
     if (process.first == path) users.push_back(number);
   }
-  const auto size = std::min(users.size() * sizeof(int), static_cast<std::size_t>(buffersize));
-  std::memcpy(buffer, users.data(), size);
-  return static_cast<int>(size);
+  std::memcpy(buffer, users.data(), users.size() * sizeof(int));
+  return static_cast<int>(users.size() * sizeof(int));
 }
 
 int proc_name(int number, void *buffer, uint32_t buffersize) {
-  if (buffersize < 32) return 0;  // it insists on room for the longest name
   const std::string &name = Machine::current().processes.at(number).second;
   return static_cast<int>(name.copy(static_cast<char *>(buffer), buffersize));
 }

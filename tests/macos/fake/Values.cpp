@@ -15,10 +15,6 @@ const std::map<int, const char *> kTypes = {{QMetaType::QString, "CFString"},
                                             {QMetaType::QUuid, "CFUUID"},
                                             {QMetaType::QVariantMap, "CFDictionary"}};
 
-CFTypeID typeId(std::string_view type) {
-  return std::hash<std::string_view>()(type);
-}
-
 /// As many bytes as there are, and the NUL behind them.
 Boolean copyWithNul(const QByteArray &text, void *buffer, CFIndex size) {
   if (size <= text.size()) return false;
@@ -48,9 +44,9 @@ QString fake::pathOf(const void *url, const char *function) {
   return valueOf(url, "CFURL", function).toUrl().toLocalFile();
 }
 
-#define TYPE_ID(Type)          \
-  CFTypeID Type##GetTypeID() { \
-    return typeId(#Type);      \
+#define TYPE_ID(Type)                            \
+  CFTypeID Type##GetTypeID() {                   \
+    return std::hash<std::string_view>()(#Type); \
   }
 TYPE_ID(CFString)
 TYPE_ID(CFNumber)
@@ -59,7 +55,7 @@ TYPE_ID(CFURL)
 TYPE_ID(CFUUID)
 
 CFTypeID CFGetTypeID(CFTypeRef reference) {
-  return typeId(checked(reference)->type);
+  return std::hash<std::string_view>()(checked(reference)->type);
 }
 
 CFStringRef CFStringCreateWithBytes(CFAllocatorRef, const unsigned char *bytes, CFIndex count,
