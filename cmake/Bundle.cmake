@@ -3,6 +3,16 @@ set(KELDRA_BUNDLE_ICON ${PROJECT_SOURCE_DIR}/packaging/macos/Keldra.icns)
 target_sources(keldra PRIVATE ${KELDRA_BUNDLE_ICON})
 set_source_files_properties(${KELDRA_BUNDLE_ICON} TARGET_DIRECTORY keldra
   PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
+# The system offers a person the languages that the bundle names, and speaks one of them in its own windows.
+set(KELDRA_LANGUAGES "<string>en</string>")
+file(GLOB translations CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/translations/keldra_*.ts)
+foreach(translation ${translations})
+  string(REGEX REPLACE ".*/keldra_(.*)\\.ts" "\\1" language ${translation})
+  # By its name on this system: Chinese goes by its script.
+  string(REPLACE "_" "-" language ${language})
+  string(REPLACE "zh-CN" "zh-Hans" language ${language})
+  string(APPEND KELDRA_LANGUAGES "<string>${language}</string>")
+endforeach()
 set_target_properties(keldra PROPERTIES
   OUTPUT_NAME Keldra
   MACOSX_BUNDLE ON

@@ -74,7 +74,7 @@ void DiskArbitrator::umountPartitionModeLegacy(const QString &partition) {
 
 bool DiskArbitrator::chosenFolderIsEmpty(const QString &path) {
   const auto entries = Platform::current().volumeFiles().entries(path);
-  return entries && std::ranges::none_of(*entries, [](const FolderEntry &entry) {
+  return entries && std::none_of(entries->begin(), entries->end(), [](const FolderEntry &entry) {
            // The file manager has been here: somebody uses it.
            const bool isTrace = entry.name == ".DS_Store"_L1 && !entry.isFolder;
            return isTrace || !entry.name.startsWith(u'.');

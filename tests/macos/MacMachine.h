@@ -7,23 +7,19 @@
 #include <QCoreApplication>
 #include <QUuid>
 
-#include "Foundation/NotificationCenter.h"
 #include "Platform/macos/MacPlatform.h"
 #include "macos/fake/Fake.h"
+#include "support/VolumeNews.h"
 
 class MacMachine : public testing::Test {
  protected:
   static constexpr char kEsp[] = "disk0s1";
+  static constexpr char kServiceStart[] = "com.apple.diskarbitrationd.launched";
 
-  void SetUp() override {
+  MacMachine() {
     mac.plug("disk0", {{"DAMediaContent", "GUID_partition_scheme"},
                        {"DAMediaBSDUnit", 0},
-                       {"DAMediaWritable", true},
-                       // Of types that they should not be of.
-                       {"DAMediaName", 7},
-                       {"DAVolumeKind", QVariantMap()},
-                       {"DAMediaIcon", "no dictionary"},
-                       {"DAVolumeUUID", "no UUID"}});
+                       {"DAMediaWritable", true}});
     mac.plug(kEsp, {{"DAMediaName", "EFI System Partition"},
                     {"DAMediaBSDUnit", 0},
                     {"DAMediaWritable", true},
@@ -34,25 +30,17 @@ class MacMachine : public testing::Test {
 
   void start(const QString &root = KELDRA_SYSTEM_FILES) {
     platform = makeMacPlatform(root);
-    for (const auto &[name, sign] : {std::pair(kNSWorkspaceDidMountNotification, "+"),
-                                     std::pair(kNSWorkspaceDidUnmountNotification, "-"),
-                                     std::pair(kNSWorkspaceDidRenameVolumeNotification, "~")}) {
-      platform->workspaceNotificationCenter().addObserver(
-          &_observer, name, [this, sign = sign](const Notification &note) {
-            news += sign + note.userInfo.value(kNSDevicePathKey).toString();
-          });
-    }
+    noteVolumeNews(platform->workspaceNotificationCenter(), _observer, news);
   }
 
-  /// What was told since the last call: "+PATH", "-PATH" and "~PATH" for a mount, an unmount and a
-  /// rename, "+" for anything else.
+  /// What was told since the last call, as `noteVolumeNews` notes it.
   QStringList told() {
     settle();
     return std::exchange(news, {});
   }
 
-  static void settle(fake::Mode mode = fake::Mode::Default) {
-    fake::serve(mode);
+  static void settle() {
+    fake::serve();
     QCoreApplication::processEvents();
   }
 

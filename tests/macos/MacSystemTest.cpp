@@ -8,15 +8,14 @@
 #include "DiskArbitrator/DiskArbitrator.h"
 #include "Platform/ThisMachine.h"
 #include "macos/MacMachine.h"
-#include "support/VolumeNews.h"
 
 class MacSystem : public MacMachine {};
 
 TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
-  const QStringList others{"", "/Applications/Other.app", mac.mainBundle};
-  mac.loginItems = others;
   start();
   LoginItems &items = platform->loginItems();
+  const QStringList others{"", "/Applications/Other.app", items.ownLocation()};
+  mac.loginItems = others;
   items.insertOwnItem();
   const auto snapshot = *items.snapshot();
   ASSERT_EQ(snapshot.size(), 4);
@@ -29,7 +28,7 @@ TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
 
 TEST_F(MacSystem, APartitionShowsThePictureOfItsDriver) {
   const QString driver = "/System/Library/Extensions/com.brinmoor.Keldra.StorageIcons.kext";
-  mac.driverBundles = {{"driver", driver}, {"gone", "/no/such/bundle"}};
+  mac.driverBundles = {{"driver", driver}};
   start();
   const CurrentPlatform current(*platform);
   const auto picture = [&](const char *disk, const char *bundle, const char *file) {
@@ -39,7 +38,6 @@ TEST_F(MacSystem, APartitionShowsThePictureOfItsDriver) {
   };
   const QImage caution = picture("disk1", "unknown", "Removable.icns");
   EXPECT_FALSE(caution.isNull());
-  EXPECT_EQ(picture("disk2", "gone", "Removable.icns"), caution);
   EXPECT_EQ(picture("disk3", "driver", ".icns"), caution);
   EXPECT_NE(picture("disk4", "driver", "Removable.icns"), caution);
 }
@@ -59,7 +57,7 @@ TEST_F(MacSystem, WhatIsOnARemovableVolumeIsReadOnceAWindowOfTheProgramIsInFront
   EXPECT_TRUE(platform->volumeFiles().image(internal.filePath("icon")).has_value());
   QWindow window;
   emit qGuiApp->focusWindowChanged(&window);
-  EXPECT_EQ(told(), QStringList{"+"});
+  EXPECT_EQ(told(), QStringList{"changed"});
   EXPECT_TRUE(platform->volumeFiles().image(stick.filePath("icon")).has_value());
 }
 

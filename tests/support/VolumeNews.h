@@ -12,9 +12,9 @@ inline void noteVolumeNews(NotificationCenter &workspace, QObject &observer, QSt
   for (const auto &[name, sign] : {std::pair(kNSWorkspaceDidMountNotification, "+"),
                                    {kNSWorkspaceDidUnmountNotification, "-"},
                                    {kNSWorkspaceDidRenameVolumeNotification, "~"}}) {
-    workspace.addObserver(&observer, name, [&events, sign = QString(sign)](const auto &note) {
+    workspace.addObserver(&observer, name, [&events, mark = QString(sign)](const auto &note) {
       const QVariant path = note.userInfo.value(kNSDevicePathKey);
-      events << (path.isValid() ? sign + path.toString() : QStringLiteral("changed"));
+      events << (path.isValid() ? mark + path.toString() : QStringLiteral("changed"));
     });
   }
 }

@@ -77,7 +77,8 @@ Stream streamOf(Source &source) {
 bool isModest(const opj_image_t &picture) {
   const std::span components(picture.comps, picture.numcomps);
   return !components.empty() && components.size() <= 4 &&
-         std::ranges::all_of(components, [](const auto &each) { return each.prec <= 16; });
+         std::all_of(components.begin(), components.end(),
+                     [](const auto &each) { return each.prec <= 16; });
 }
 
 Picture decode(QByteArrayView codestream) {

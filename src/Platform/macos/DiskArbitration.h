@@ -12,8 +12,8 @@
 
 class DiskArbitration {
  public:
-  /// What the service publishes under its own keys: texts, numbers, booleans, QUuids, QUrls of local
-  /// files, and a QVariantMap for the icon.
+  /// What the service publishes under its own keys: texts, which UUIDs are too, numbers, booleans,
+  /// QUrls of local files, and a QVariantMap for the icon.
   using Record = QVariantHash;
 
   /// Called with the service's status when it refused.

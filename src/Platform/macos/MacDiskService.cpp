@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QUrl>
-#include <QUuid>
 #include <cerrno>
 #include <utility>
 
@@ -11,8 +10,7 @@
 namespace {
 
 void setUuid(DiskDescription &description, const QString &key) {
-  const QVariant value = description.take(key);
-  const auto uuid = DiskUUID::fromText(value.toUuid().toString(QUuid::WithoutBraces));
+  const auto uuid = DiskUUID::fromText(description.take(key).toString());
   if (uuid) description.insert(key, QVariant::fromValue(*uuid));
 }
 

@@ -17,11 +17,8 @@ Owned<io_iterator_t> allMedia() {
 }
 
 std::optional<QString> bsdNameOf(const Owned<io_object_t> &medium) {
-  CFMutableDictionaryRef table = nullptr;
-  if (IORegistryEntryCreateCFProperties(medium.get(), &table, kCFAllocatorDefault, 0) !=
-      KERN_SUCCESS) {
-    return std::nullopt;
-  }
+  CFMutableDictionaryRef table = nullptr;  // which it stays for a medium that has gone
+  IORegistryEntryCreateCFProperties(medium.get(), &table, kCFAllocatorDefault, 0);
   const Owned<CFMutableDictionaryRef> properties(table);
   return textOf(referenceIn(properties.get(), QString::fromUtf8(kIOBSDNameKey)));
 }
@@ -37,7 +34,6 @@ bool liesOn(const QString &bsdName, const QString &wholeDisk) {
 QStringList MacMediaRegistry::mediaNames() const {
   const Owned<io_iterator_t> media = allMedia();
   QStringList names;
-  if (!media) return names;
   while (const Owned<io_object_t> medium{IOIteratorNext(media.get())}) {
     if (const auto name = bsdNameOf(medium)) names += *name;
   }

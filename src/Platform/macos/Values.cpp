@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QUrl>
-#include <QUuid>
 #include <array>
 
 namespace {
@@ -16,18 +15,6 @@ bool isOfType(CFTypeRef value, CFTypeID type) {
 
 const unsigned char *bytesOf(const QByteArray &bytes) {
   return reinterpret_cast<const unsigned char *>(bytes.constData());
-}
-
-qint64 numberIn(CFTypeRef value) {
-  qint64 number = 0;
-  CFNumberGetValue(static_cast<CFNumberRef>(value), kCFNumberSInt64Type, &number);
-  return number;
-}
-
-QUuid uuidIn(CFTypeRef value) {
-  const Owned<CFStringRef> text(
-      CFUUIDCreateString(kCFAllocatorDefault, static_cast<CFUUIDRef>(value)));
-  return QUuid::fromString(textOf(text.get()).value_or(QString()));
 }
 
 }  // namespace
@@ -57,22 +44,23 @@ std::optional<QString> textOf(CFTypeRef value) {
 std::optional<QString> pathOf(CFTypeRef value) {
   if (!isOfType(value, CFURLGetTypeID())) return std::nullopt;
   std::array<unsigned char, kLongestPath> path{};
-  if (!CFURLGetFileSystemRepresentation(static_cast<CFURLRef>(value), 1, path.data(),
-                                        kLongestPath)) {
-    return std::nullopt;
-  }
+  const auto url = static_cast<CFURLRef>(value);
+  if (!CFURLGetFileSystemRepresentation(url, 1, path.data(), kLongestPath)) return std::nullopt;
   return QFile::decodeName(reinterpret_cast<const char *>(path.data()));
 }
 
 QVariant valueOf(CFTypeRef value) {
   if (const auto text = textOf(value)) return *text;
   if (const auto path = pathOf(value)) return QUrl::fromLocalFile(*path);
-  if (isOfType(value, CFNumberGetTypeID())) return numberIn(value);
-  if (isOfType(value, CFBooleanGetTypeID())) {
-    return CFBooleanGetValue(static_cast<CFBooleanRef>(value)) != 0;
+  if (value == kCFBooleanTrue || value == kCFBooleanFalse) return value == kCFBooleanTrue;
+  if (isOfType(value, CFUUIDGetTypeID())) {
+    const auto uuid = static_cast<CFUUIDRef>(value);
+    return valueOf(Owned<CFStringRef>(CFUUIDCreateString(kCFAllocatorDefault, uuid)).get());
   }
-  if (isOfType(value, CFUUIDGetTypeID())) return uuidIn(value);
-  return {};
+  if (!isOfType(value, CFNumberGetTypeID())) return {};
+  qint64 number = 0;
+  CFNumberGetValue(static_cast<CFNumberRef>(value), kCFNumberSInt64Type, &number);
+  return number;
 }
 
 QVariant valueIn(CFTypeRef dictionary, const QString &key) {

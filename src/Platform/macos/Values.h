@@ -18,8 +18,8 @@ std::optional<QString> textOf(CFTypeRef value);
 /// no such URL.
 std::optional<QString> pathOf(CFTypeRef value);
 
-/// A QString, qint64 or bool, a QUrl of a local file, or a QUuid; invalid for a null reference and
-/// for any other type.
+/// A QString, qint64 or bool, a QUrl of a local file, or the text of a UUID; invalid for a null
+/// reference and for any other type.
 QVariant valueOf(CFTypeRef value);
 
 /// What a dictionary has under a key, by `valueOf`. Invalid for what is no dictionary.

@@ -4,43 +4,36 @@
 #include <CoreServices/CoreServices.h>
 #include <IOKit/IOKitLib.h>
 
+#include <QRegularExpression>
+
 #include "macos/fake/World.h"
 
 namespace {
 
 using namespace fake;
 
-/// "DAMediaName" of "MediaNameKey".
-Object *keyOf(const std::string &name) {
-  return makeConstant("CFString", "DA" + QString::fromStdString(name).chopped(3));
-}
-
-Object *constant(const std::string &name) {
-  const std::string keys = "kDADiskDescription";
-  if (name.starts_with("kCFBoolean")) return makeConstant("CFBoolean", name == "kCFBooleanTrue");
-  return name.starts_with(keys) ? keyOf(name.substr(keys.size()))
-                                : makeConstant("CFString", QString::fromStdString(name));
+Object *constant(QString name) {
+  if (name.startsWith("kCFBoolean")) return makeConstant("CFBoolean", name == "kCFBooleanTrue");
+  // "DAMediaName" for "kDADiskDescriptionMediaNameKey"
+  static const QRegularExpression kKey("^kDADiskDescription(.*)Key$");
+  return makeConstant("CFString", name.replace(kKey, "DA\\1"));
 }
 
 template <class Reference>
 Reference constantOf(const char *name) {
-  constexpr bool isNull = std::is_integral_v<Reference> ||
-                          std::is_same_v<Reference, CFAllocatorRef> ||
-                          std::is_same_v<Reference, CFArrayRef>;
-  if constexpr (!isNull) return as<Reference>(constant(name));
+  if constexpr (!std::is_integral_v<Reference>) return as<Reference>(constant(name));
   return {};
-}
-
-CFArrayRef arrayOf(CFStringRef text) {
-  Object *const array = makeConstant("CFArray");
-  array->holds.push_back(checked(text));
-  return as<CFArrayRef>(array);
 }
 
 }  // namespace
 
 void fake::setWatchKeys(bool areThere) {
-  const auto key = [=](CFStringRef text) { return areThere ? arrayOf(text) : nullptr; };
+  const auto key = [=](CFStringRef text) -> CFArrayRef {
+    if (!areThere) return nullptr;
+    Object *const array = makeConstant("CFArray");
+    array->holds = {checked(text)};
+    return as<CFArrayRef>(array);
+  };
   kDADiskDescriptionWatchVolumePath = key(kDADiskDescriptionVolumePathKey);
   kDADiskDescriptionWatchVolumeName = key(kDADiskDescriptionVolumeNameKey);
 }

@@ -9,18 +9,15 @@ using namespace fake;
 
 namespace {
 
-using When = Answer::When;
-
 struct Disk : Object {
-  Disk(Session *owner, const QString &bsdName)
-      : Object("DADisk"), session(owner), name(bsdName), bytes(bsdName.toUtf8()) {
+  Disk(Session *owner, const QString &name)
+      : Object("DADisk", name), session(owner), bytes(name.toUtf8()) {
     ++owner->references;
     holds.push_back(owner);
   }
 
   Session *session;
-  QString name;
-  QByteArray bytes;
+  QByteArray bytes;                     // of its name
   std::optional<QVariantMap> snapshot;  // what a callback's disk was when the call was queued
 };
 
@@ -32,30 +29,24 @@ Disk *diskOf(const void *reference) {
   return static_cast<Disk *>(checked(reference, "DADisk"));
 }
 
-/// The disk of a callback is gone after it.
-template <class Call>
-void lendDisk(Session *session, const DiskEntry &entry, Call call) {
-  auto *const disk = new Disk(session, entry.name);
-  disk->snapshot = entry.description;
-  call(as<DADiskRef>(disk));
-  release(disk);
-}
-
-void tell(const std::shared_ptr<Listener> &listener, const DiskEntry &entry) {
-  post(listener->session, [entry, known = std::weak_ptr(listener)] {
-    if (const auto live = known.lock()) live->call(entry);
+void tell(const Listener &listener, const QString &disk) {
+  post(listener.session, [disk, description = world().disks.value(disk), call = listener.call] {
+    call(disk, description);
   });
 }
 
 /// Calls with the disk, perhaps something else, and the context.
 template <class Callback, class... More>
-std::shared_ptr<Listener> add(DASessionRef reference, const QString &topic, Callback callback,
-                              void *context, More... more) {
+const Listener &add(DASessionRef reference, const QString &topic, Callback callback, void *context,
+                    More... more) {
   Session *const session = sessionOf(reference);
-  const auto call = [=](const DiskEntry &entry) {
-    lendDisk(session, entry, [=](DADiskRef disk) { callback(disk, more..., context); });
+  const auto call = [=](const QString &name, const QVariantMap &description) {
+    auto *const disk = new Disk(session, name);  // gone after the call
+    disk->snapshot = description;
+    callback(as<DADiskRef>(disk), more..., context);
+    release(disk);
   };
-  return world().listeners.emplace_back(new Listener{session, topic, context, call});
+  return world().listeners.emplace_back(Listener{session, topic, context, call});
 }
 
 void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, void *context) {
@@ -65,51 +56,31 @@ void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, voi
   release(dissenter);
 }
 
-/// Takes a request, to be carried out and answered when the test has said.
-void take(DADiskRef reference, std::map<QString, Answer> &answers,
-          const std::function<DAReturn(const DiskEntry &)> &attempt, DADiskMountCallback callback,
-          void *context) {
-  if (QThread::currentThread() == qApp->thread()) {
-    report("A request on the main thread: its password prompt would stop the program's windows");
-  }
-  const Disk *const disk = diskOf(reference);
-  const DiskEntry *const entry = entryOf(disk->name);
-  if (entry == nullptr) return complete(reference, kDAReturnBadArgument, callback, context);
-  const auto [when, status] = answers[entry->name];
-  if (when == When::InsideTheCall) {
-    complete(reference, static_cast<DAReturn>(status), callback, context);
-  } else if (when == When::Later) {
-    // What the service does, it does however the program's run loop runs.
-    post(nullptr, [=, asker = std::weak_ptr(disk->session->self), known = *entry] {
-      const DAReturn result = attempt(known);
-      Session *const session = asker.lock().get();
-      if (session == nullptr) return;
-      post(session, [=] {
-        lendDisk(session, known, [=](DADiskRef it) { complete(it, result, callback, context); });
-      });
-    });
-  }
+/// Takes a request, to be carried out and answered when the run loop of its session runs.
+void take(DADiskRef reference, const std::function<DAReturn(const QString &)> &attempt,
+          DADiskMountCallback callback, void *context) {
+  // Its password prompt would stop the program's windows.
+  expect(QThread::currentThread() != qApp->thread());
+  const QString name = diskOf(reference)->value.toString();
+  const bool isKnown = world().disks.contains(name);
+  const quint32 refusal = Machine::current().refusals.value(name);
+  const auto status = isKnown ? static_cast<DAReturn>(refusal) : kDAReturnBadArgument;
+  if (status != 0) return complete(reference, status, callback, context);
+  post(diskOf(reference)->session, [=] { complete(reference, attempt(name), callback, context); });
 }
 
 }  // namespace
 
 Session::~Session() {
   if (!modes.isEmpty()) report("A DASession went while it was scheduled");
-  std::erase_if(world().listeners, [this](const auto &each) { return each->session == this; });
-  std::erase_if(world().deliveries, [this](const auto &each) { return each.session == this; });
+  std::erase_if(world().listeners, [this](const auto &each) { return each.session == this; });
+  std::erase_if(world().deliveries, [this](const auto &each) { return each.first == this; });
 }
 
-void fake::announce(const QSet<QString> &topics, const DiskEntry &entry) {
+void fake::announce(const QStringList &topics, const QString &disk) {
   for (const auto &each : world().listeners) {
-    if (topics.contains(each->topic)) tell(each, entry);
+    if (topics.contains(each.topic)) tell(each, disk);
   }
-}
-
-void Machine::restartDiskService() {
-  for (const auto &each : world().listeners) {
-    if (each->session != nullptr) each->session->isDead = true;
-  }
-  postNotification("com.apple.diskarbitrationd.launched");
 }
 
 DASessionRef DASessionCreate(CFAllocatorRef) {
@@ -118,15 +89,12 @@ DASessionRef DASessionCreate(CFAllocatorRef) {
   return as<DASessionRef>(new Session);
 }
 
-void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
-  checked(loop, "CFRunLoop");
-  sessionOf(session)->modes.insert(textOf(mode));
-  wake();
+void DASessionScheduleWithRunLoop(DASessionRef session, CFRunLoopRef, CFStringRef mode) {
+  sessionOf(session)->modes.append(textOf(mode));
 }
 
-void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef loop, CFStringRef mode) {
-  checked(loop, "CFRunLoop");
-  sessionOf(session)->modes.remove(textOf(mode));
+void DASessionUnscheduleFromRunLoop(DASessionRef session, CFRunLoopRef, CFStringRef mode) {
+  sessionOf(session)->modes.removeOne(textOf(mode));
 }
 
 DADiskRef DADiskCreateFromBSDName(CFAllocatorRef, DASessionRef session, const char *name) {
@@ -134,9 +102,9 @@ DADiskRef DADiskCreateFromBSDName(CFAllocatorRef, DASessionRef session, const ch
 }
 
 DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, DASessionRef session, CFURLRef url) {
-  for (const DiskEntry &each : world().disks) {
-    const bool isIt = Machine::current().mountPoint(each.name) == pathOf(url);
-    if (isIt) return as<DADiskRef>(new Disk(sessionOf(session), each.name));
+  for (const QString &each : world().disks.keys()) {
+    const bool isIt = Machine::current().mountPoint(each) == pathOf(url);
+    if (isIt) return as<DADiskRef>(new Disk(sessionOf(session), each));
   }
   return nullptr;
 }
@@ -148,8 +116,7 @@ const char *DADiskGetBSDName(DADiskRef reference) {
 
 CFDictionaryRef DADiskCopyDescription(DADiskRef reference) {
   const Disk *const disk = diskOf(reference);
-  const DiskEntry *const entry = entryOf(disk->name);
-  const QVariantMap live = entry == nullptr ? QVariantMap() : entry->description;
+  const QVariantMap live = world().disks.value(disk->value.toString());
   const QVariantMap description = disk->snapshot.value_or(live);
   return description.isEmpty() ? nullptr : as<CFDictionaryRef>(objectOf(description));
 }
@@ -160,8 +127,8 @@ DAReturn DADissenterGetStatus(DADissenterRef dissenter) {
 
 void DARegisterDiskAppearedCallback(DASessionRef session, CFDictionaryRef,
                                     DADiskAppearedCallback callback, void *context) {
-  const auto added = add(session, "appeared", callback, context);
-  for (const DiskEntry &each : world().disks) tell(added, each);
+  const Listener &added = add(session, "appeared", callback, context);
+  for (const QString &each : world().disks.keys()) tell(added, each);
 }
 
 void DARegisterDiskDisappearedCallback(DASessionRef session, CFDictionaryRef,
@@ -178,27 +145,26 @@ void DARegisterDiskDescriptionChangedCallback(DASessionRef session, CFDictionary
 
 void DADiskMountWithArguments(DADiskRef disk, CFURLRef url, DADiskMountOptions,
                               DADiskMountCallback callback, void *context, CFStringRef *) {
-  const auto attempt = [path = url ? pathOf(url) : QString()](const DiskEntry &entry) -> DAReturn {
+  const auto attempt = [path = url ? pathOf(url) : QString()](const QString &name) -> DAReturn {
     Machine &mac = Machine::current();
-    if (mac.onMount[entry.name].status != 0) return kDAReturnError;
-    if (!entry.description.contains("DAVolumeKind")) return kDAReturnUnsupported;
-    if (!mac.mountPoint(entry.name).isEmpty()) return kDAReturnBusy;
-    mac.mount(entry.name, path.isEmpty() ? mac.volumesFolder + '/' + entry.name : path);
+    if (!world().disks.value(name).contains("DAVolumeKind")) return kDAReturnUnsupported;
+    if (!mac.mountPoint(name).isEmpty()) return kDAReturnBusy;
+    mac.mount(name, path.isEmpty() ? "/Volumes/" + name : path);
     return kDAReturnSuccess;
   };
-  take(disk, Machine::current().onMount, attempt, callback, context);
+  take(disk, attempt, callback, context);
 }
 
 void DADiskUnmount(DADiskRef disk, DADiskUnmountOptions options, DADiskUnmountCallback callback,
                    void *context) {
-  const auto attempt = [options](const DiskEntry &entry) -> DAReturn {
+  const auto attempt = [options](const QString &name) -> DAReturn {
     constexpr DAReturn kUnixBusy = 0xC010;
     Machine &mac = Machine::current();
-    if (mac.mountPoint(entry.name).isEmpty()) return kDAReturnNotMounted;
+    if (mac.mountPoint(name).isEmpty()) return kDAReturnNotMounted;
     const bool isForced = options == kDADiskUnmountOptionForce;
-    if (mac.onUnmount[entry.name].status != 0 && !isForced) return kUnixBusy;
-    mac.unmount(entry.name);
+    if (mac.busyVolumes.contains(name) && !isForced) return kUnixBusy;
+    mac.unmount(name);
     return kDAReturnSuccess;
   };
-  take(disk, Machine::current().onUnmount, attempt, callback, context);
+  take(disk, attempt, callback, context);
 }

@@ -1,56 +1,42 @@
 // The disks of the machine, and what happens to them.
 
-#include <QDir>
-
 #include "macos/fake/World.h"
 
 using namespace fake;
 
-namespace {
-
-const QString kPath = QStringLiteral("DAVolumePath");
-const QString kName = QStringLiteral("DAVolumeName");
-
-}  // namespace
-
-DiskEntry *fake::entryOf(const QString &name) {
-  for (DiskEntry &each : world().disks) {
-    if (each.name == name) return &each;
-  }
-  return nullptr;
-}
+constexpr char kPath[] = "DAVolumePath";
+constexpr char kName[] = "DAVolumeName";
 
 void Machine::plug(const QString &name, QVariantMap description) {
   const bool hasMedia = !name.startsWith('/');
   description.insert(hasMedia ? "DAMediaBSDName" : kPath,
                      hasMedia ? QVariant(name) : QUrl::fromLocalFile(name));
-  world().disks.push_back({name, description});
-  announce({"appeared"}, world().disks.back());
+  world().disks.insert(name, description);
+  announce({"appeared"}, name);
 }
 
 void Machine::pull(const QString &name) {
-  announce({"disappeared"}, *entryOf(name));
-  std::erase_if(world().disks, [&name](const DiskEntry &each) { return each.name == name; });
+  announce({"disappeared"}, name);
+  world().disks.remove(name);
 }
 
 void Machine::mount(const QString &name, const QString &path) {
-  QDir().mkdir(path);
-  entryOf(name)->description[kPath] = QUrl::fromLocalFile(path);
-  announce({kPath}, *entryOf(name));
+  world().disks[name][kPath] = QUrl::fromLocalFile(path);
+  announce({kPath}, name);
 }
 
 void Machine::unmount(const QString &name) {
-  entryOf(name)->description.remove(kPath);
-  announce({kPath}, *entryOf(name));
+  world().disks[name].remove(kPath);
+  announce({kPath}, name);
 }
 
-void Machine::rename(const QString &name, const QString &volumeName, const QString &path) {
-  DiskEntry &entry = *entryOf(name);
-  entry.description[kName] = volumeName;
-  if (!path.isEmpty()) entry.description[kPath] = QUrl::fromLocalFile(path);
-  announce({kName, path.isEmpty() ? QString() : kPath}, entry);
+void Machine::rename(const QString &name, const QString &volumeName) {
+  const bool isMounted = !mountPoint(name).isEmpty();
+  world().disks[name][kName] = volumeName;
+  if (isMounted) world().disks[name][kPath] = QUrl::fromLocalFile("/Volumes/" + volumeName);
+  announce({kName, isMounted ? kPath : ""}, name);
 }
 
 QString Machine::mountPoint(const QString &name) const {
-  return entryOf(name)->description.value(kPath).toUrl().toLocalFile();
+  return _world->disks.value(name).value(kPath).toUrl().toLocalFile();
 }

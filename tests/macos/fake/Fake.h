@@ -5,7 +5,7 @@
 //
 //   fake::Machine mac;
 //   mac.plug("disk0s1", {{"DAMediaName", "EFI System Partition"}, {"DAVolumeKind", "msdos"}});
-//   mac.onMount["disk0s1"] = {fake::Answer::When::InsideTheCall, 0xF8DA0009};
+//   mac.refusals["disk0s1"] = 0xF8DA0009;
 //   ... the backend mounts ...
 //   fake::serve();
 //
@@ -28,19 +28,6 @@
 namespace fake {
 
 struct World;
-
-/// When, and with which status, the disk service answers a request; 0 is success. Whatever keeps an
-/// unmount from succeeding later is told as 0xC010, and does not hold against a forced one.
-struct Answer {
-  enum class When { Later, InsideTheCall, Never };
-  When when = When::Later;
-  quint32 status = 0;
-};
-
-struct Process {
-  std::string volume;  // the mount point of the one that it uses
-  std::string name;    // empty: this user may not know
-};
 
 enum class Event { LeftMouseDown = 1, RightMouseDown = 3, KeyDown = 10, KeyUp = 11 };
 
@@ -66,31 +53,28 @@ class Machine {
   // What somebody else does.
   void mount(const QString &name, const QString &path);
   void unmount(const QString &name);
-  /// A mounted volume may get another path by it.
-  void rename(const QString &name, const QString &volumeName, const QString &path = {});
+  /// A mounted volume gets another path by it.
+  void rename(const QString &name, const QString &volumeName);
 
   /// Empty while it is not mounted.
   QString mountPoint(const QString &name) const;
 
   /// To whoever observes the name, in either notification centre.
   void postNotification(const QString &name);
-  /// The old service's sessions are dead, and the new one has said that it runs.
-  void restartDiskService();
   /// In another program. Its handlers are called at once.
   void sendEvent(Event event);
 
   // Read whenever the backend asks.
-  std::map<QString, Answer> onMount;  // how the service answers requests for a disk, by its name
-  std::map<QString, Answer> onUnmount;
-  QString volumesFolder = QStringLiteral("/Volumes");  // where the service mounts by itself
+  QMap<QString, quint32> refusals;  // the service's status, inside every request for the disk
+  QStringList busyVolumes;          // by their disks: not unmounted but by force
   bool hasDiskService = true;
   QVariantMap preferences;    // the program's own
   QStringList loginItems;     // locations; empty: does not resolve
   QVariantMap driverBundles;  // path by identifier
-  QString mainBundle = QStringLiteral("/Applications/Keldra.app");
   std::string executable;
   std::map<std::string, quint32> fileSystemSubtypes;  // by mount point
-  std::map<int, Process> processes;                   // by their numbers
+  // By number: the mount point of what it uses, and its name, empty when this user may not know.
+  std::map<int, std::pair<std::string, std::string>> processes;
 
   World &world() { return *_world; }
 

@@ -14,7 +14,6 @@ CFMutableDictionaryRef IOServiceMatching(const char *name) {
 
 kern_return_t IOServiceGetMatchingServices(mach_port_t, CFDictionaryRef matching,
                                            io_iterator_t *existing) {
-  expect(valueOf(matching, "CFDictionary").toMap().contains(kIOMediaClass));
   CFRelease(matching);  // also when the call fails
   world().nextMedium = 0;
   ++world().kernelReferences;
@@ -23,18 +22,17 @@ kern_return_t IOServiceGetMatchingServices(mach_port_t, CFDictionaryRef matching
 }
 
 io_object_t IOIteratorNext(io_iterator_t) {
-  std::size_t &next = world().nextMedium;
-  const auto &disks = world().disks;
-  while (next < disks.size() && disks[next].name.startsWith('/')) ++next;
-  if (next == disks.size()) return 0;
+  const auto count = static_cast<io_object_t>(world().disks.size());
+  if (world().nextMedium == count) return 0;
   ++world().kernelReferences;
-  return static_cast<io_object_t>(++next + 1);
+  return ++world().nextMedium + 1;
 }
 
 kern_return_t IORegistryEntryCreateCFProperties(io_registry_entry_t number,
                                                 CFMutableDictionaryRef *properties, CFAllocatorRef,
                                                 IOOptionBits) {
-  const QString name = world().disks.at(number - 2).name;
+  const QString name = world().disks.keys().at(number - 2);
+  if (name.startsWith('/')) return -1;  // no medium
   *properties = as<CFMutableDictionaryRef>(objectOf(QVariantMap{{kIOBSDNameKey, name}}));
   return KERN_SUCCESS;
 }

@@ -6,7 +6,6 @@
 #include <DiskArbitration/DiskArbitration.h>
 
 #include <QObject>
-#include <QSet>
 #include <QUrl>
 #include <deque>
 #include <functional>
@@ -40,11 +39,11 @@ void report(const std::string &fault);
 /// Fails it unless the function was asked for what the fake knows of it.
 void expect(bool isKnown, const char *function = __builtin_FUNCTION());
 
-/// The object that the function was given; null, after a report, when it is none, is gone or is of
-/// another type than the function takes.
+/// The object that the function was given. Ends the program when it is none, is gone or is of
+/// another type than the function takes, as a Mac would.
 Object *checked(const void *reference, const char *type = nullptr,
                 const char *function = __builtin_FUNCTION());
-/// What it stands for; invalid after a report.
+/// What it stands for.
 QVariant valueOf(const void *reference, const char *type,
                  const char *function = __builtin_FUNCTION());
 QString textOf(const void *string, const char *function = __builtin_FUNCTION());
@@ -56,22 +55,10 @@ Reference as(Object *object) {
   return reinterpret_cast<Reference>(object);
 }
 
-struct DiskEntry {
-  QString name;  // the BSD name; the path of a volume without media
-  QVariantMap description;
-};
-
 struct Session : Object {
   Session() : Object("DASession") {}
   ~Session() override;
-  QSet<QString> modes;  // of the run loop, in which it is served
-  bool isDead = false;  // with the service that it was opened with
-  std::shared_ptr<Session> self{this, [](Session *) {}};
-};
-
-struct Delivery {
-  Session *session;  // null: it does not matter how the run loop runs
-  std::function<void()> deliver;
+  QStringList modes;  // of the run loop, in which it is served
 };
 
 /// What is called back by the disk service, or by a notification centre, which is no session's.
@@ -79,16 +66,17 @@ struct Listener {
   Session *session;
   QString topic;  // "appeared", "disappeared", the key that is watched, a notification's name
   const void *context;
-  std::function<void(const DiskEntry &)> call;
+  std::function<void(const QString &disk, const QVariantMap &description)> call;
 };
 
 struct World {
   QObject context;  // what Qt's event loop is to do for this machine
-  std::deque<Delivery> deliveries;
+  // For a session; for none when it does not matter how the run loop runs.
+  std::deque<std::pair<Session *, std::function<void()>>> deliveries;
   std::vector<bool> runs;  // for each run of the run loop under way, whether it has been stopped
-  std::vector<DiskEntry> disks;
-  std::vector<std::shared_ptr<Listener>> listeners;
-  std::size_t nextMedium = 0;  // of the disks, for the registry's iterator
+  QMap<QString, QVariantMap> disks;  // descriptions, by BSD name or path of a volume without media
+  std::vector<Listener> listeners;
+  quint32 nextMedium = 0;  // of the disks, for the registry's iterator
   int kernelReferences = 0;
   std::uintptr_t watchedEvents = 0;  // the mask of the event monitor, and the block that it calls
   QByteArray handler;
@@ -98,14 +86,9 @@ struct World {
 World &world();
 
 void post(Session *session, std::function<void()> deliver);
-/// Has Qt's event loop look for what can be delivered now.
-void wake();
 
-/// Null for a disk that is not there.
-DiskEntry *entryOf(const QString &name);
-
-/// Queues the calls of who listens to one of the topics.
-void announce(const QSet<QString> &topics, const DiskEntry &entry);
+/// Queues the calls of who listens to one of the topics, with the disk as it is now.
+void announce(const QStringList &topics, const QString &disk = {});
 
 /// The service's library makes them when the first session is opened.
 void setWatchKeys(bool areThere);
