@@ -106,8 +106,8 @@ TEST_F(ButtonsTest, GateSwallowsInputButNotPainting) {
     QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
   };
   {
-    const InputGate outer;
-    { const InputGate inner; }
+    const InputGate outer(&window);
+    { const InputGate inner(&window); }
     actEverywhere();
     EXPECT_FALSE(window.grab().isNull());
   }
@@ -117,12 +117,25 @@ TEST_F(ButtonsTest, GateSwallowsInputButNotPainting) {
   EXPECT_EQ(triggered.size(), 1);
 }
 
+TEST_F(ButtonsTest, GateLeavesTheWayOutToThePointerAndTheKeyboard) {
+  InputGate::setWayOut(plain);
+  QSignalSpy quit(plain, &QPushButton::clicked);
+  const InputGate gate(&window);
+  QTest::mouseClick(plain, Qt::LeftButton);
+  button->setFocus();
+  for (int presses = 0; presses < 3 && !plain->hasFocus(); ++presses)
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+  QTest::keyClick(plain, Qt::Key_Space);
+  EXPECT_EQ(quit.size(), 2);
+  EXPECT_TRUE(plain->hasFocus());
+}
+
 TEST_F(ButtonsTest, GateLeavesNoHalfPressBehind) {
   QSignalSpy quit(plain, &QPushButton::clicked);
   QTest::mousePress(plain, Qt::LeftButton);
   QTest::keyPress(button, Qt::Key_Space);
   {
-    const InputGate gate;
+    const InputGate gate(&window);
     QTest::mouseMove(plain, {4, 4});
     QTest::keyRelease(button, Qt::Key_Space);
   }
@@ -130,7 +143,7 @@ TEST_F(ButtonsTest, GateLeavesNoHalfPressBehind) {
   QTest::mouseMove(plain, {6, 6});
   QTest::mouseRelease(plain, Qt::LeftButton);
   {
-    const InputGate gate;
+    const InputGate gate(&window);
     QTest::mousePress(button, Qt::LeftButton);
   }
   QTest::mouseRelease(button, Qt::LeftButton);
