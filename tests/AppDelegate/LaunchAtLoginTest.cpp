@@ -24,6 +24,17 @@ TEST_F(LaunchAtLogin, IsTurnedOnByTheFirstStart) {
   EXPECT_TRUE(stored());
 }
 
+TEST_F(LaunchAtLogin, StaysAsItIsWhereTheChoiceCannotBeRead) {
+  machine.platform.userDefaults().setCanBeRead(false);
+  for (const bool isOn : {true, false}) {
+    set(isOn ? CheckBox::kOn : CheckBox::kOff);
+    machine.interface.runAtLoadCheck()->setState(CheckBox::kMixed);
+    machine.delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(machine.delegate.isLaunchAtStartup(), isOn);
+    EXPECT_EQ(machine.interface.runAtLoadCheck()->state() == CheckBox::kOn, isOn);
+  }
+}
+
 TEST_F(LaunchAtLogin, ABoxThatIsClickedAddsAndRemovesTheItem) {
   QTest::mouseClick(machine.interface.runAtLoadCheck(), Qt::LeftButton, {}, {8, 8});
   EXPECT_FALSE(machine.delegate.isLaunchAtStartup());
