@@ -18,6 +18,10 @@ bool booleanValue(const QVariant &value) {
 }  // namespace
 
 void AppDelegate::restoreRunAtLoad() {
+  // What the person chose is not known then, and nothing is changed.
+  if (!_platform.userDefaults().canBeRead()) {
+    return _runAtLoadCheck->setState(isLaunchAtStartup() ? CheckBox::kOn : CheckBox::kOff);
+  }
   // On at the first start of all: that is deliberate.
   const QVariant stored = _platform.userDefaults().object(kRunAtload);
   _runAtLoadCheck->setState(!stored.isValid() || booleanValue(stored) ? CheckBox::kOn

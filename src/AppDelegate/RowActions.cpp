@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 class AppDelegate::RowAction {
  public:
   RowAction(AppDelegate &delegate, const QString &partition)
-      : _delegate(delegate), _queueHold(delegate._mainQueue) {
+      : _delegate(delegate), _queueHold(delegate._mainQueue), _inputGate(delegate._popover) {
     _delegate._busyPartition = partition;
     _delegate._popover->setHeldOpen(true);
     _delegate.showBusyButtons();

@@ -2,9 +2,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace {
+
+constexpr const char *kWayOut = "isWayOut";
 
 int livingGates = 0;
 
@@ -26,6 +29,12 @@ bool isInput(const QEvent *event) {
   }
 }
 
+bool movesFocus(const QEvent *event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent *>(event)->key();
+  return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
 }  // namespace
 
 void letGo(QAbstractButton *button) {
@@ -37,7 +46,7 @@ void letGo(QAbstractButton *button) {
   button->setDown(false);
 }
 
-InputGate::InputGate() {
+InputGate::InputGate(const QWidget *window) : _window(window) {
   ++livingGates;
   qApp->installEventFilter(this);
 }
@@ -59,13 +68,19 @@ bool InputGate::isClosed() {
   return livingGates > 0;
 }
 
+void InputGate::setWayOut(QAbstractButton *button) {
+  button->setProperty(kWayOut, true);
+}
+
 bool InputGate::eventFilter(QObject *watched, QEvent *event) {
   // The program waits for the answer to a dialog, and nothing else.
   if (QApplication::activeModalWidget() != nullptr) return false;
   // A shortcut's receiver is an action or a shortcut object. Windows below the widgets keep their
   // account of what is pressed where, so only what has reached a widget is swallowed.
-  const bool swallowed =
-      event->type() == QEvent::Shortcut || (watched->isWidgetType() && isInput(event));
+  const auto *widget = qobject_cast<QWidget *>(watched);
+  const bool isShut = widget != nullptr && widget->window() == _window && isInput(event) &&
+                      !movesFocus(event) && !widget->property(kWayOut).toBool();
+  const bool swallowed = event->type() == QEvent::Shortcut || isShut;
   if (swallowed) event->accept();
   return swallowed;
 }

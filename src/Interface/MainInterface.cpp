@@ -7,6 +7,7 @@
 
 #include "Interface/EmptyView.h"
 #include "Interface/InfoWindow.h"
+#include "Interface/InputGate.h"
 #include "Interface/Look.h"
 #include "Interface/Notice.h"
 #include "Interface/Style.h"
@@ -72,6 +73,7 @@ void MainInterface::makeParts() {
   _infoButton = makeFlatButton(tr("Info"), _content);
   _webSiteButton = makeFlatButton(tr("Web site"), _content);
   _quitButton = makeFlatButton(tr("Quit"), _content);
+  InputGate::setWayOut(_quitButton);
 }
 
 // A program that waits in the tray has no need of fonts and pictures, and whoever never opens it

@@ -37,6 +37,8 @@ class UserDefaults {
  public:
   virtual ~UserDefaults() = default;
 
+  /// Whether it can be told what is stored.
+  virtual bool canBeRead() const { return true; }
   /// Invalid when nothing is stored under the key.
   virtual QVariant object(const QString &key) const = 0;
   virtual void setBool(const QString &key, bool value) = 0;

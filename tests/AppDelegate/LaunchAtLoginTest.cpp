@@ -18,6 +18,17 @@ class LaunchAtLogin : public testing::Test {
 
 }  // namespace
 
+TEST_F(LaunchAtLogin, StaysAsItIsWhereTheChoiceCannotBeRead) {
+  machine.platform.userDefaults().setCanBeRead(false);
+  for (const bool isOn : {true, false}) {
+    set(isOn ? CheckBox::kOn : CheckBox::kOff);
+    machine.interface.runAtLoadCheck()->setState(CheckBox::kMixed);
+    machine.delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(machine.delegate.isLaunchAtStartup(), isOn);
+    EXPECT_EQ(machine.interface.runAtLoadCheck()->state() == CheckBox::kOn, isOn);
+  }
+}
+
 TEST_F(LaunchAtLogin, IsTurnedOnByTheFirstStartAndThenByItsBox) {
   EXPECT_EQ(machine.interface.runAtLoadCheck()->state(), CheckBox::kOn);
   EXPECT_TRUE(machine.delegate.isLaunchAtStartup() && stored());

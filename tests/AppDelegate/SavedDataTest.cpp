@@ -112,7 +112,8 @@ TEST_F(SavedDataTest, IsAskedAboutWhileARowActionLastsTooLong) {
   int ends = 0;
   QObject::connect(&machine.delegate, &AppDelegate::endsInRowAction, [&] { ++ends; });
   Dialogs dialogs({"OK", "Escape"});
-  QTimer::singleShot(0, qApp, [&] { machine.delegate.closeApp(); });
+  QTimer::singleShot(0, qApp,
+                     [&] { QTest::mouseClick(machine.interface.quitButton(), Qt::LeftButton); });
   machine.click(machine.mountButton(0));
   machine.settle();
   EXPECT_EQ(dialogs.texts.size(), 2) << "once";

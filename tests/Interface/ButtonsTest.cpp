@@ -94,8 +94,8 @@ TEST_F(ButtonsTest, GateSwallowsInputAndLeavesNoHalfPressBehind) {
   QTest::mousePress(plain, Qt::LeftButton);
   QTest::keyPress(button, Qt::Key_Space);
   {
-    const InputGate outer;
-    { const InputGate inner; }
+    const InputGate outer(&window);
+    { const InputGate inner(&window); }
     QTest::keyRelease(button, Qt::Key_Space);
     actEverywhere();
     QTest::mousePress(button, Qt::LeftButton);
@@ -108,6 +108,19 @@ TEST_F(ButtonsTest, GateSwallowsInputAndLeavesNoHalfPressBehind) {
   actEverywhere();
   EXPECT_EQ(clicks, 2);
   EXPECT_EQ(triggered.size(), 1);
+}
+
+TEST_F(ButtonsTest, GateLeavesTheWayOutToThePointerAndTheKeyboard) {
+  InputGate::setWayOut(plain);
+  QSignalSpy quit(plain, &QPushButton::clicked);
+  const InputGate gate(&window);
+  QTest::mouseClick(plain, Qt::LeftButton);
+  button->setFocus();
+  for (int presses = 0; presses < 3 && !plain->hasFocus(); ++presses)
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+  QTest::keyClick(plain, Qt::Key_Space);
+  EXPECT_EQ(quit.size(), 2);
+  EXPECT_TRUE(plain->hasFocus());
 }
 
 }  // namespace

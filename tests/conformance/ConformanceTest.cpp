@@ -260,7 +260,7 @@ TEST_F(Conformance, ATapDuringAWaitDoesNotReachTheButtonAfterwards) {
     QTest::touchEvent(&button, screen.get(), false).release(0, place, &button).commit(false);
   };
   {
-    const InputGate gate;
+    const InputGate gate(&button);
     RunLoop &loop = machine->platform().runLoop();
     bool isOver = false;
     later([&] { tap(), isOver = true, loop.stop(); });

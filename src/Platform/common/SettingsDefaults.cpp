@@ -26,6 +26,10 @@ std::optional<KeyFile> readSettings(const QString &fileName) {
 
 }  // namespace
 
+bool SettingsDefaults::canBeRead() const {
+  return readSettings(_fileName).has_value();
+}
+
 QVariant SettingsDefaults::object(const QString &key) const {
   if (_set.contains(key)) return QString::fromUtf8(_set.value(key));
   const auto settings = readSettings(_fileName);

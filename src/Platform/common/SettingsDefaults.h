@@ -13,6 +13,7 @@ class SettingsDefaults final : public UserDefaults {
   /// larger than any of ours, counts as empty and is left alone.
   explicit SettingsDefaults(QString fileName) : _fileName(std::move(fileName)) {}
 
+  bool canBeRead() const override;
   QVariant object(const QString &key) const override;
   void setBool(const QString &key, bool value) override;
   void synchronize() override;

@@ -28,13 +28,16 @@ class SimulatedLoginItems final : public LoginItems {
 
 class SimulatedDefaults final : public UserDefaults {
  public:
+  bool canBeRead() const override { return _canBeRead; }
   QVariant object(const QString &key) const override { return _objects.value(key); }
   void setBool(const QString &key, bool value) override { set(key, value); }
   void synchronize() override {}
 
   /// What somebody, or an older program, has stored.
   void set(const QString &key, const QVariant &value) { _objects.insert(key, value); }
+  void setCanBeRead(bool canBeRead) { _canBeRead = canBeRead; }
 
  private:
   QVariantMap _objects;
+  bool _canBeRead = true;
 };
