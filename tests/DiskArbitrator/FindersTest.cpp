@@ -90,8 +90,4 @@ TEST(FindersOnOldSystems, TheVersionsSecondNumberDecides) {
     const TestPlatform machine(R"({ "productVersion": ")" + QByteArray(version) + R"(" })");
     EXPECT_EQ(DA::findOSXMinorVersion(), minor) << version;
   }
-  const TestPlatform old(R"({ "productVersion": "10.8", "disks": [ { "unit": 0, "partitions": [
-      { "slice": 1, "media": "EFI System Partition" }, { "slice": 2, "media": "Data" } ] } ] })");
-  EXPECT_EQ(DA::findMountPointName("disk0s1"), "EFI");
-  EXPECT_EQ(DA::findMountPointName("disk0s2"), "N/A");
 }

@@ -61,6 +61,7 @@ TEST_F(OldSystem, MountsAnESPOnTheFirstFolderThatTheRuleNames) {
 }
 
 TEST_F(OldSystem, TakesAnUnmountedESPForMountedAndLeavesTheRestToTheService) {
+  EXPECT_EQ(DA::findMountPointName("disk1s1"), "EFI");
   EXPECT_EQ(DA::findMountPoint("disk1s1"), "N/A");
   EXPECT_TRUE(DA::isMountPointValid("disk1s1"));
   EXPECT_EQ(DA::findMountPoint("disk2s1"), std::nullopt);

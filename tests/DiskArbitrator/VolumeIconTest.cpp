@@ -9,17 +9,11 @@ namespace {
 
 using DA = DiskArbitrator;
 
-QImage shipped(const QString &name) {
-  return Platform::current().systemFiles().image("/System/Library/" + name).value_or(QImage());
+QImage shipped(const QString &path) {
+  return Platform::current().systemFiles().image("/System/Library/" + path).value_or(QImage());
 }
 
-QImage driverIcon(const QString &name) {
-  return shipped("Extensions/com.brinmoor.Keldra.StorageIcons.kext/Contents/Resources/" + name);
-}
-
-QImage cautionIcon() {
-  return shipped("CoreServices/CoreTypes.bundle/Contents/Resources/AlertCautionIcon.icns");
-}
+const QString kDriver = "Extensions/com.brinmoor.Keldra.StorageIcons.kext/Contents/Resources/";
 
 }  // namespace
 
@@ -30,12 +24,13 @@ TEST(VolumeIcon, IsTheVolumesOwnWhileItIsMounted) {
     writeFile(file, icns({{"ic08", pngOf(256, color)}}));
     EXPECT_EQ(DA::findVolumeIcon("disk1s2").pixelColor(0, 0), color) << "written anew";
   }
-  EXPECT_EQ(DA::findVolumeIcon("disk1s1"), driverIcon("Internal.icns")) << "not that of its disk";
+  EXPECT_EQ(DA::findVolumeIcon("disk1s1"), shipped(kDriver + "Internal.icns"))
+      << "not that of its disk";
   writeFile(file, "no picture");
   EXPECT_TRUE(DA::findVolumeIcon("disk1s2").isNull()) << "ends the search";
   ASSERT_TRUE(QFile::remove(file) && QFile::link(machine.folder("elsewhere"), file));
   writeFile(machine.folder("elsewhere"), icns({{"ic08", pngOf(256, Qt::magenta)}}));
-  EXPECT_EQ(DA::findVolumeIcon("disk1s2"), driverIcon("Internal.icns"));
+  EXPECT_EQ(DA::findVolumeIcon("disk1s2"), shipped(kDriver + "Internal.icns"));
 }
 
 TEST(VolumeIcon, ComesFromTheDriverThatTheDescriptionNames) {
@@ -45,9 +40,11 @@ TEST(VolumeIcon, ComesFromTheDriverThatTheDescriptionNames) {
     { "unit": 5, "icon": { "bundle": "com.brinmoor.Keldra.StorageIcons", "file": "None.icns" } },
     { "unit": 6, "icon": {} },
     { "unit": 7, "icon": { "bundle": "../CoreServices", "file": "Internal.icns" } } ] })json");
-  EXPECT_EQ(DA::findVolumeIcon("disk1s1"), driverIcon("Removable.icns"));
+  EXPECT_EQ(DA::findVolumeIcon("disk1s1"), shipped(kDriver + "Removable.icns"));
+  const QImage caution =
+      shipped("CoreServices/CoreTypes.bundle/Contents/Resources/AlertCautionIcon.icns");
   for (const char *name : {"disk4", "disk5", "disk6", "disk7", "disk99"}) {
-    EXPECT_EQ(DA::findVolumeIcon(name), cautionIcon()) << name;
+    EXPECT_EQ(DA::findVolumeIcon(name), caution) << name;
   }
-  EXPECT_EQ(cautionIcon().width(), 256);
+  EXPECT_EQ(caution.width(), 256);
 }

@@ -23,18 +23,11 @@ from program import Program  # noqa: E402
 PROGRAM = sys.argv[1]
 
 
-def partition(name, **more):
-    return {"slice": 1, "media": "EFI System Partition", "volume": {"kind": "msdos", "name": name}, **more}
-
-
-def machine(*partitions):
-    return {"disks": [{"unit": unit, "media": f"Disk {unit}", "scheme": "GUID_partition_scheme", "partitions": [esp]}
-                      for unit, esp in enumerate(partitions)]}
-
-
-# disk0s1 obliges at once, disk1s1 after a while, and disk2s1 refuses after a while.
-MACHINE = machine(partition("EFI"), partition("SLOW", delay=1200),
-                  partition("LOCKED", delay=1200, refuse={"mount": "not privileged"}))
+# disk0s1 obliges at once, disk1s1 after a while, disk2s1 refuses after a while, and disk3s1 never answers.
+ANSWERS = {}, {"delay": 1200}, {"delay": 1200, "refuse": {"mount": "not privileged"}}, {"delay": 60_000}
+ESP = {"slice": 1, "media": "EFI System Partition", "volume": {"kind": "msdos", "name": "EFI"}}
+MACHINE = {"disks": [{"unit": unit, "media": "Disk", "scheme": "GUID_partition_scheme", "partitions": [ESP | answers]}
+                     for unit, answers in enumerate(ANSWERS)]}
 
 
 class DesktopTest(unittest.TestCase):
