@@ -80,6 +80,7 @@ CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode, CFTimeInterval seconds, Boo
 
 void CFRunLoopStop(CFRunLoopRef) {
   auto &runs = world().runs;
+  if (QThread::currentThread()->loopLevel() > 0) return;  // that of a dialog has taken it
   if (runs.empty()) return report("CFRunLoopStop outside of all waits ends the program's own run");
   runs.back() = true;
 }
