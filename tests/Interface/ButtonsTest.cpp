@@ -113,7 +113,11 @@ TEST_F(ButtonsTest, GateSwallowsInputAndLeavesNoHalfPressBehind) {
 TEST_F(ButtonsTest, GateLeavesTheWayOutToThePointerAndTheKeyboard) {
   InputGate::setWayOut(plain);
   QSignalSpy quit(plain, &QPushButton::clicked);
+  QPushButton ofMenu;
+  QSignalSpy quitFromMenu(&ofMenu, &QPushButton::clicked);
   const InputGate gate(&window);
+  QTest::mouseClick(&ofMenu, Qt::LeftButton);
+  EXPECT_EQ(quitFromMenu.size(), 1);
   QTest::mouseClick(plain, Qt::LeftButton);
   button->setFocus();
   for (int presses = 0; presses < 3 && !plain->hasFocus(); ++presses)

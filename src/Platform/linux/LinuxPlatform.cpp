@@ -66,7 +66,8 @@ class LinuxPlatform final : public MachinePlatform {
  public:
   explicit LinuxPlatform(std::optional<QString> productVersion)
       : _systemFiles(std::move(productVersion)),
-        _loginItems(XdgLoginItems::ofThisUser()),
+        _loginItems(XdgLoginItems::ofThisUser(
+            [this](const QString &path) { return _volumeFiles.look(path); })),
         _userDefaults(settingsFile()),
         _disks(_systemBus, sharedUnitNumbers(), u"/proc/self/mountinfo"_s, _workspace),
         _rawDevices(_disks),

@@ -20,7 +20,7 @@ const QByteArray kHidden = "Hidden";
 const QByteArray kEnabled = "X-GNOME-Autostart-enabled";
 
 /// Without lines for what is no plain file of a sensible size.
-KeyFile readEntry(const QString &fileName) {
+KeyFile readKeyFile(const QString &fileName) {
   const auto content = readPlainFile(QFile::encodeName(fileName), kLargestEntry);
   const auto *bytes = std::get_if<QByteArray>(&content);
   return KeyFile(bytes == nullptr ? QByteArray() : *bytes);
@@ -55,25 +55,27 @@ bool isSwitchedOff(const KeyFile &entry) {
   return entry.value(kGroup, kHidden) == "true" || entry.value(kGroup, kEnabled) == "false";
 }
 
-/// Also of an entry that is switched off.
-std::optional<QString> programOf(const KeyFile &entry) {
-  const QString exec = QString::fromUtf8(entry.value(kGroup, "Exec").value_or(QByteArray()));
-  const QString word = firstWord(exec).replace("%%"_L1, "%"_L1);
-  const QString program = word.startsWith(u'/') ? word : QStandardPaths::findExecutable(word);
-  const QString canonical = word.isEmpty() ? QString() : QFileInfo(program).canonicalFilePath();
-  if (canonical.isEmpty()) return std::nullopt;
-  return canonical;
+/// A program that was killed while it wrote the entry may have left that beside it.
+void clearLeftover(const QString &fileName) {
+  if (QFile::exists(fileName + ".new"_L1)) PlainFileWriter{fileName};
 }
 
 }  // namespace
 
-XdgLoginItems::XdgLoginItems(QString folder, QString program)
-    : _folder(std::move(folder)), _program(QFileInfo(program).canonicalFilePath()) {}
+XdgLoginItems::XdgLoginItems(QString folder, const QString &program, Look look)
+    : _folder(std::move(folder)),
+      _program(QFileInfo(program).canonicalFilePath()),
+      _look(std::move(look)) {}
 
-XdgLoginItems XdgLoginItems::ofThisUser() {
+LookAtPath XdgLoginItems::lookAtOnce(const QString &path) {
+  return {LookAtPath::Access::Open, QFileInfo(path).canonicalFilePath()};
+}
+
+XdgLoginItems XdgLoginItems::ofThisUser(Look look) {
   const QString configuration =
       QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  return {configuration + "/autostart"_L1, QCoreApplication::applicationFilePath()};
+  return {configuration + "/autostart"_L1, QCoreApplication::applicationFilePath(),
+          std::move(look)};
 }
 
 QString XdgLoginItems::ownLocation() const {
@@ -81,22 +83,49 @@ QString XdgLoginItems::ownLocation() const {
 }
 
 QStringList XdgLoginItems::entryNames() const {
-  return QDir(_folder).entryList({u"*.desktop"_s}, QDir::Files | QDir::Readable, QDir::Name);
+  constexpr auto kUnseen = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
+  QStringList names = QDir(_folder).entryList({u"*.desktop"_s}, kUnseen, QDir::Name);
+  names.removeIf([this](const QString &name) {
+    const QFileInfo file(QDir(_folder), name);
+    return !file.isSymLink() && file.isDir();
+  });
+  return names;
+}
+
+QString XdgLoginItems::realPath(const QString &path) const {
+  const LookAtPath look = _look(path);
+  if (look.access == LookAtPath::Access::Unknown) _isAnsweredLate = true;
+  return look.realPath;
+}
+
+KeyFile XdgLoginItems::readEntry(const QString &name) const {
+  const QString fileName = QDir(_folder).filePath(name);
+  return readKeyFile(QFileInfo(fileName).isSymLink() ? realPath(fileName) : fileName);
+}
+
+std::optional<QString> XdgLoginItems::programOf(const KeyFile &entry) const {
+  const QString exec = QString::fromUtf8(entry.value(kGroup, "Exec").value_or(QByteArray()));
+  const QString word = firstWord(exec).replace("%%"_L1, "%"_L1);
+  QString program = word.startsWith(u'/') ? word : QStandardPaths::findExecutable(word);
+  if (!program.isEmpty() && program != _program) program = realPath(program);
+  if (program.isEmpty()) return std::nullopt;
+  return program;
 }
 
 std::optional<QVector<LoginItems::Item>> XdgLoginItems::snapshot() const {
   QVector<Item> items;
   for (const QString &name : entryNames()) {
+    const QString fileName = QDir(_folder).filePath(name);
     const bool isDone = _leftAlone.contains(name);
-    items.append(
-        {name, isDone ? std::nullopt : programOf(readEntry(QDir(_folder).filePath(name)))});
+    items.append({name, isDone ? std::nullopt : programOf(readEntry(name))});
+    if (items.last().location == _program) clearLeftover(fileName);
   }
   return items;
 }
 
 bool XdgLoginItems::switchOn(const QString &name) {
-  KeyFile entry = readEntry(QDir(_folder).filePath(name));
-  if (!isSwitchedOff(entry) || programOf(entry) != _program) return false;
+  KeyFile entry = readEntry(name);
+  if (programOf(entry) != _program || !isSwitchedOff(entry)) return false;
   entry.remove(kGroup, kHidden);
   entry.remove(kGroup, kEnabled);
   if (!PlainFileWriter(QDir(_folder).filePath(name)).write(entry.bytes())) _leftAlone.remove(name);
@@ -106,27 +135,26 @@ bool XdgLoginItems::switchOn(const QString &name) {
 void XdgLoginItems::insertOwnItem() {
   const bool fitsInALine = !_program.contains(u'\n') && !_program.contains(u'\r');
   if (_program.isEmpty() || !fitsInALine) return;
-  for (const QString &name : entryNames()) {
+  const QStringList names = entryNames();
+  _isAnsweredLate = false;
+  for (const QString &name : names) {
     if (switchOn(name)) return;
   }
-  const QDir folder(_folder);
-  QString name = folder.filePath(u"keldra.desktop"_s);
-  for (int number = 1; QFile::exists(name); ++number) {
-    name = folder.filePath(u"keldra-%1.desktop"_s.arg(number));
-  }
+  if (_isAnsweredLate) return;  // a second item of ours would be worse than none
+  QString name = u"keldra.desktop"_s;
+  for (int number = 1; names.contains(name); ++number) name = u"keldra-%1.desktop"_s.arg(number);
   const QString entry =
       u"[Desktop Entry]\nType=Application\nName=Keldra\n"
       u"Comment=EFI System Partitions one click away\nExec=%1\nTryExec=%2\n"
       u"Icon=com.brinmoor.Keldra\nX-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(_program),
                                                                           escaped(_program));
-  PlainFileWriter(name).write(entry.toUtf8());
+  PlainFileWriter(QDir(_folder).filePath(name)).write(entry.toUtf8());
 }
 
 void XdgLoginItems::remove(const Item &item) {
-  const QString name = QDir(_folder).filePath(item.identifier);
-  if (isSwitchedOff(readEntry(name))) {
+  if (isSwitchedOff(readEntry(item.identifier))) {
     _leftAlone.insert(item.identifier);
   } else {
-    QFile::remove(name);
+    QFile::remove(QDir(_folder).filePath(item.identifier));
   }
 }

@@ -8,6 +8,7 @@
 
 #include "Foundation/NotificationCenter.h"
 #include "Platform/linux/LinuxDiskService.h"
+#include "Platform/linux/LinuxPlatform.h"
 #include "Platform/linux/LinuxVolumeFiles.h"
 #include "support/Files.h"
 #include "support/IconBytes.h"
@@ -71,6 +72,16 @@ TEST_F(SilentVolume, IsWaitedForOnceAndItsLateAnswerIsKeptForTheRefreshThatItCau
   EXPECT_EQ(late.access, Nothing) << "it answers again";
   QTest::qWait(50);
   EXPECT_EQ(events.count("changed"), 1) << "the late answer was kept";
+}
+
+TEST_F(SilentVolume, MayHoldAProgramThatStartsAtLogin) {
+  const QString name = qEnvironmentVariable("XDG_CONFIG_HOME") + "/autostart/other.desktop";
+  writeFile(name, "[Desktop Entry]\nExec=" + folder.filePath("program").toUtf8() + "\n");
+  QFile::link(folder.filePath("own.desktop"), name + ".desktop");
+  const auto platform = makeLinuxPlatform();
+  EXPECT_LT(timeOf([&] { platform->loginItems().snapshot(); }), 250);
+  QFile::remove(name);
+  QFile::remove(name + ".desktop");
 }
 
 TEST_F(SilentVolume, KeepsNothingFromEndingAndLeavesNoProcess) {

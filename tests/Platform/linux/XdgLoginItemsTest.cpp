@@ -59,7 +59,8 @@ TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
   const QString other = makeProgram("other");
   writeEntry(kOwn, "Exec=" + other + "\n");
   writeEntry("keldra-1.desktop", "Exec=" + root.filePath("moved") + "\n");
-  writeEntry("second.desktop", "Exec=\"" + program + "\" --twice\n");
+  writeEntry("second.txt", "Exec=\"" + program + "\" --twice\n");
+  QFile::link("second.txt", folder + "/second.desktop");
   writeEntry("third.txt", "Exec=" + program + "\n");
   writeEntry("unfinished.desktop", "Exec=\"" + program.chopped(1) + "\\");
   writeEntry("other-group.desktop", "[Desktop Action new]\nExec=" + program + "\n");
@@ -76,12 +77,20 @@ TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
   EXPECT_EQ(all(items), expected);
 }
 
+TEST_F(XdgLoginItemsTest, AreNotAddedWhileOneOfThemMayBeOurs) {
+  writeEntry("late.desktop", "Exec=/another/way/to/it\n");
+  XdgLoginItems(folder, program, [](const QString &) { return LookAtPath(); }).insertOwnItem();
+  EXPECT_EQ(all(items).size(), 1);
+}
+
 TEST_F(XdgLoginItemsTest, ThatAreSwitchedOffStayUntilTheyAreSwitchedOnByThatKeyAlone) {
   for (const QByteArray key : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"}) {
     const QByteArray rest = "Exec=" + program.toUtf8() + "\nName[de]=\xff mine\n";
     writeFile(folder + "/mine.desktop", "[Desktop Entry]\n" + key + rest);
+    writeFile(folder + "/mine.desktop.new", "of a program that was killed");
     XdgLoginItems anew(folder, program);
     EXPECT_EQ(all(anew)["mine.desktop"], program);
+    EXPECT_FALSE(QFile::exists(folder + "/mine.desktop.new"));
     anew.remove(anew.snapshot()->first());
     EXPECT_EQ(entry("mine.desktop"), "[Desktop Entry]\n" + key + rest);
     EXPECT_EQ(all(anew)["mine.desktop"], std::nullopt) << "it may be switched on";
