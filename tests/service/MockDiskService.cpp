@@ -17,13 +17,6 @@ QByteArray fileName(const QString &name) {
   return name.toUtf8() + '\0';
 }
 
-QDBusMessage signal(const QString &path, const QString &name, const QVariantList &arguments) {
-  const QString interface = name == "PropertiesChanged" ? "Properties" : "ObjectManager";
-  auto message = QDBusMessage::createSignal(path, "org.freedesktop.DBus." + interface, name);
-  message.setArguments(arguments);
-  return message;
-}
-
 QVariantMap block(const QString &kernelName, uint minorNumber, const QString &drive) {
   return {{"Device", fileName("/dev/" + kernelName)},
           {"PreferredDevice", fileName("/dev/preferred/" + kernelName)},
@@ -42,16 +35,12 @@ QVariant link(const QString &path) {
   return QVariant::fromValue(QDBusObjectPath(path));
 }
 
-QDBusMessage interfacesAdded(const QVariantList &arguments) {
-  return signal(kServiceRoot, "InterfacesAdded", arguments);
-}
-
-QDBusMessage interfacesRemoved(const QVariantList &arguments) {
-  return signal(kServiceRoot, "InterfacesRemoved", arguments);
-}
-
-QDBusMessage propertiesChanged(const QString &path, const QVariantList &arguments) {
-  return signal(path, "PropertiesChanged", arguments);
+QDBusMessage serviceSignal(const QString &path, const QString &name,
+                           const QVariantList &arguments) {
+  const QString interface = name == "PropertiesChanged" ? "Properties" : "ObjectManager";
+  auto message = QDBusMessage::createSignal(path, "org.freedesktop.DBus." + interface, name);
+  message.setArguments(arguments);
+  return message;
 }
 
 MockDiskService::MockDiskService(QString bus) : _bus(std::move(bus)) {
@@ -108,19 +97,21 @@ QString MockDiskService::addPartition(const QString &disk, uint number, uint min
 
 void MockDiskService::add(const QString &path, const InterfaceMap &interfaces) {
   tree[path].insert(interfaces);
-  say(interfacesAdded({link(path), QVariant::fromValue(interfaces)}));
+  say(serviceSignal(kServiceRoot, "InterfacesAdded",
+                    {link(path), QVariant::fromValue(interfaces)}));
 }
 
 void MockDiskService::remove(const QString &path, const QStringList &interfaces) {
   for (const QString &interface : interfaces) tree[path].remove(interface);
   if (tree[path].isEmpty()) tree.remove(path);
-  say(interfacesRemoved({link(path), interfaces}));
+  say(serviceSignal(kServiceRoot, "InterfacesRemoved", {link(path), interfaces}));
 }
 
 void MockDiskService::change(const QString &path, const QString &interface, const QString &property,
                              const QVariant &value) {
   tree[path][interface][property] = value;
-  say(propertiesChanged(path, {interface, QVariantMap{{property, value}}, QStringList()}));
+  say(serviceSignal(path, "PropertiesChanged",
+                    {interface, QVariantMap{{property, value}}, QStringList()}));
 }
 
 QDBusMessage MockDiskService::take(const QString &method) {
