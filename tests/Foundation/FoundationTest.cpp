@@ -1,30 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <memory>
+#include <optional>
 
 #include "Foundation/MainQueue.h"
 #include "Foundation/NotificationCenter.h"
 #include "Foundation/Paths.h"
 #include "Foundation/Text.h"
 
-TEST(Text, ReadsTheNumberThatATextBeginsWith) {
-  const std::pair<QString, int> rows[] = {{" \t12abc", 12}, {"-7.5", -7},
-                                          {"+3", 3},        {"x1", 0},
-                                          {"", 0},          {"99999999999999999999", 2147483647}};
-  for (const auto &[text, number] : rows) EXPECT_EQ(leadingInteger(text), number);
-}
-
-TEST(Text, TakesTheLastComponentOfAPath) {
-  const std::pair<QString, QString> rows[] = {
-      {"/Volumes/Data//", "Data"}, {"///", "/"}, {"N/A", "N/A"}, {"EFI", "EFI"}, {"", ""}};
-  for (const auto &[path, component] : rows) EXPECT_EQ(lastPathComponent(path), component);
-}
-
-TEST(Text, AbsentTextsAreNeverTheSame) {
-  EXPECT_FALSE(areEqualTexts(std::nullopt, std::nullopt));
-  EXPECT_FALSE(areEqualTexts(QString(), std::nullopt));
-  EXPECT_TRUE(areEqualTexts(QString("a"), QString("a")));
+TEST(Text, HasABeginningAndAnEnd) {
+  EXPECT_EQ(leadingInteger("99999999999999999999"), 2147483647);
+  EXPECT_EQ(leadingInteger(" -7.5"), -7);
+  EXPECT_EQ(lastPathComponent("/Volumes/Data//"), "Data");
+  EXPECT_FALSE(areEqualTexts(std::nullopt, std::nullopt)) << "absent texts are never the same";
 }
 
 TEST(Paths, KeepTheirBytes) {
@@ -43,37 +31,26 @@ TEST(Paths, KeepTheirBytes) {
 TEST(MainQueue, RunsJobsInOrderAfterTheirCallerAndNeverWhileHeld) {
   MainQueue queue;
   QString order;
-  {
-    const MainQueue::Hold outer(queue);
-    queue.async([&] {
-      order += "1";
-      queue.async([&] { order += "3"; });
-    });
-    queue.async([&] { order += "2"; });
-    { const MainQueue::Hold inner(queue); }
-    QCoreApplication::processEvents();
-    EXPECT_EQ(order, "");
-  }
+  std::optional<MainQueue::Hold> hold(queue);
+  queue.async([&] {
+    order += "1";
+    queue.async([&] { order += "3"; });
+  });
+  queue.async([&] { order += "2"; });
+  QCoreApplication::processEvents();
+  hold.reset();
   EXPECT_EQ(order, "");
   for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
   EXPECT_EQ(order, "123");
 }
 
-TEST(NotificationCenter, DeliversAtOnceByNameAndForgetsTheDead) {
+TEST(NotificationCenter, ForgetsTheDead) {
   NotificationCenter center;
-  QString heard;
-  auto first = std::make_unique<QObject>();
-  QObject second;
-  center.addObserver(first.get(), "a", [&](const Notification &) { heard += "1"; });
-  center.addObserver(&second, "a", [&](const Notification &) {
-    heard += "2";
-    center.addObserver(&second, "b", [&](const Notification &) { heard += "b"; });
-  });
+  int heard = 0;
+  {
+    const QObject dead;
+    center.addObserver(&dead, "a", [&](const Notification &) { ++heard; });
+  }
   center.post({"a"});
-  EXPECT_EQ(heard, "12");
-  first.reset();
-  center.post({"a"});
-  EXPECT_EQ(heard, "122");
-  center.post({"b"});
-  EXPECT_EQ(heard, "122bb");
+  EXPECT_EQ(heard, 0);
 }

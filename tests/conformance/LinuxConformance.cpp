@@ -21,7 +21,7 @@ class LinuxConformance final : public ConformanceMachine, DiskTest {
   QString disk() const override { return _name.isEmpty() ? _name = nameOf(_device) : _name; }
 
   void mount() override {
-    DiskLab::run("mount", {_device + "p1", DiskLab::makeFolder("conformance")});
+    DiskLab::run("mount", {"--mkdir", _device + "p1", DiskLab::file("tmp/conformance")});
   }
   void unmount() override { DiskLab::run("umount", {_device + "p1"}); }
   void rename(const QString &label) override {

@@ -16,20 +16,10 @@ QByteArray run(const QString &program, const QStringList &arguments, const QByte
 
 /// Makes a disk with this table (a script for sfdisk, or none). Gives its device, "/dev/loop3".
 QString createDisk(const QString &name, int megabytes, const QByteArray &table = {});
-void format(const QString &device, const QString &kind, const QString &label = {});
 /// As a hand would take it away, mounted or not.
 void pull(const QString &disk);
-/// In good order.
-void remove(const QString &disk);
 
-/// The file behind a disk of this name.
-QString imageFile(const QString &name);
-
-/// A new folder to mount on.
-QString makeFolder(const QString &name);
-
-void startService();
-void killService();
-bool isServiceRunning();
+/// A file of the laboratory's, such as "sda.img" behind the disk of that name.
+QString file(const QString &name);
 
 }  // namespace DiskLab

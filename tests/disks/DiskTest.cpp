@@ -4,12 +4,13 @@
 #include <QProcess>
 #include <QUrl>
 
-#include "Platform/linux/LinuxPlatform.h"
+#include "DiskArbitrator/DiskArbitrator.h"
+#include "Platform/ThisMachine.h"
 #include "support/VolumeNews.h"
 
 void DiskTest::SetUp() {
   if (!DiskLab::isHere()) GTEST_SKIP() << "not in a disk laboratory";
-  platform = makeLinuxPlatform(productVersion());
+  platform = makePlatform();
   noteVolumeNews(platform->workspaceNotificationCenter(), _observer, events);
   ASSERT_TRUE(waitFor(
       [&] { return platform->diskService().presence() == DiskService::Presence::Answering; }));
@@ -18,14 +19,11 @@ void DiskTest::SetUp() {
 void DiskTest::TearDown() {
   platform.reset();
   if (!DiskLab::isHere()) return;
-  if (!DiskLab::isServiceRunning()) DiskLab::startService();
+  const bool isServiceRunning = QFile::exists(DiskLab::file("udisksd.pid"));
+  if (!isServiceRunning) DiskLab::run("disk-service", {"start", "udisksd"});
   for (const QString &disk : _disks) {
-    for (int slice = 1; QFile::exists(QStringLiteral("%1p%2").arg(disk).arg(slice)); ++slice) {
-      QProcess::execute(
-          "sh",
-          {"-c",
-           QStringLiteral("while umount --lazy %1p%2; do :; done 2>&-").arg(disk).arg(slice)});
-    }
+    const QString unmountAll = "for part in $0p*; do while umount -l $part; do :; done; done 2>&-";
+    QProcess::execute("sh", {"-c", unmountAll, disk});
     DiskLab::pull(disk);
   }
 }
@@ -46,7 +44,7 @@ void DiskTest::pullDisk(const QString &disk) {
 }
 
 void DiskTest::format(const QString &device, const QString &label) {
-  DiskLab::format(device, "ext4", label);
+  DiskLab::run("loop-disk", {"format", device, "ext4", label});
   EXPECT_TRUE(
       waitFor([&] { return value(nameOf(device), kDADiskDescriptionVolumeKindKey) == "ext4"; }));
 }
@@ -73,27 +71,12 @@ QString DiskTest::mountPointOf(const QString &name) const {
   return value(name, kDADiskDescriptionVolumePathKey).toUrl().toLocalFile();
 }
 
-DissenterStatus DiskTest::answerTo(const std::function<void(DiskService::Completion)> &request) {
-  int answers = 0;
-  DissenterStatus status = kDAReturnSuccess;
-  request([&](const std::optional<Dissenter> &dissenter) {
-    ++answers;
-    if (dissenter) status = dissenter->status;
-  });
-  EXPECT_TRUE(waitFor([&] { return answers > 0; })) << "no answer";
-  QCoreApplication::processEvents();
-  EXPECT_EQ(answers, 1);
-  return status;
+bool DiskTest::mount(const QString &name) {
+  const CurrentPlatform current(*platform);
+  return DiskArbitrator::mountPartition(name, std::nullopt);
 }
 
-DissenterStatus DiskTest::mount(const QString &name) {
-  return answerTo([&](const DiskService::Completion &completion) {
-    platform->diskService().mount(name, std::nullopt, completion);
-  });
-}
-
-DissenterStatus DiskTest::unmount(const QString &name, DiskService::UnmountOption option) {
-  return answerTo([&](const DiskService::Completion &completion) {
-    platform->diskService().unmount(name, option, completion);
-  });
+bool DiskTest::unmount(const QString &name, bool byForce) {
+  const CurrentPlatform current(*platform);
+  return DiskArbitrator::umountPartition(name, byForce);
 }

@@ -8,7 +8,6 @@
 #include <QTest>
 #include <functional>
 #include <memory>
-#include <optional>
 
 #include "Foundation/NotificationCenter.h"
 #include "Platform/Platform.h"
@@ -40,23 +39,16 @@ class DiskTest : public testing::Test {
   /// Empty when not mounted.
   QString mountPointOf(const QString &name) const;
 
-  // Waits for the answer. Success is kDAReturnSuccess.
-  DissenterStatus mount(const QString &name);
-  DissenterStatus unmount(const QString &name,
-                          DiskService::UnmountOption option = DiskService::UnmountOption::Default);
+  // As a click does, which waits for the answer.
+  bool mount(const QString &name);
+  bool unmount(const QString &name, bool byForce = false);
 
   /// As support/VolumeNews.h notes them.
   QStringList events;
 
   std::unique_ptr<Platform> platform;
 
- protected:
-  /// Of the machine that the program finds itself on; absent for the one that ships.
-  virtual std::optional<QString> productVersion() const { return {}; }
-
  private:
-  DissenterStatus answerTo(const std::function<void(DiskService::Completion)> &request);
-
   QObject _observer;
   QStringList _disks;
 };

@@ -1,30 +1,23 @@
 #pragma once
 
 // How much of a load runs, and from which seed. KELDRA_LOAD=1 asks for the whole of it; without, it
-// is a share that fits among the other tests. KELDRA_LOAD_SEED repeats a run whose seed was printed.
+// is a share that fits among the other tests. KELDRA_LOAD_SEED repeats a run that has failed, which tells its seed.
 
 #include <QString>
 #include <QtGlobal>
-#include <iostream>
 #include <random>
 
-inline bool isWholeLoad() {
-  return qEnvironmentVariableIntValue("KELDRA_LOAD") == 1;
-}
+inline const bool kIsWholeLoad = qEnvironmentVariableIntValue("KELDRA_LOAD") == 1;
 
 inline int loadCount(int whole, int share) {
-  return isWholeLoad() ? whole : share;
+  return kIsWholeLoad ? whole : share;
 }
 
 /// Only the whole load looks for news; among the other tests a failure must repeat by itself.
 inline quint64 loadSeed() {
   const QString seed = qEnvironmentVariable("KELDRA_LOAD_SEED");
   if (!seed.isEmpty()) return seed.toULongLong();
-  return isWholeLoad() ? std::random_device()() : 1;
-}
-
-inline void printLine(const QString &line) {
-  std::cout << line.toStdString() << std::endl;
+  return kIsWholeLoad ? std::random_device()() : 1;
 }
 
 /// The same seed gives the same numbers on every system.

@@ -1,6 +1,7 @@
 // What media are called, and what is said of them, after what the service says.
 
 #include "Foundation/Paths.h"
+#include "Platform/linux/LinuxRawDevices.h"
 #include "service/ServiceTest.h"
 
 namespace {
@@ -37,6 +38,9 @@ TEST_F(Media, OfPartitionsAreNamedByTypeThenNameThenPurpose) {
         QVariantMap{{"Type", row.type}, {"Name", QString(row.label)}});
     service.tree[path].remove(kFilesystemInterface);
   }
+  service.tree[parent][kPartitionTableInterface]["Type"] = "dos";
+  service.tree[data][kBlockInterface].insert(
+      {{"IdType", "vfat"}, {"IdVersion", "FAT16"}, {"IdUUID", "12AB-34CD"}});
   look();
   number = 8;
   for (const auto &row : kRows) {
@@ -47,6 +51,14 @@ TEST_F(Media, OfPartitionsAreNamedByTypeThenNameThenPurpose) {
   EXPECT_EQ(value("disk1s9", kDADiskDescriptionMediaContentKey),
             "C12A7328-F81F-11D2-BA4B-00A0C93EC93B");
   EXPECT_EQ(value("disk1s10", kDADiskDescriptionMediaContentKey), "0xEF");
+  EXPECT_EQ(value("disk1", kDADiskDescriptionMediaContentKey), "FDisk_partition_scheme");
+  EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeKindKey), "msdos");
+  EXPECT_EQ(LinuxRawDevices(*disks).fileSystemSubtype(mountPoint), 1U) << "its width";
+  EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeUUIDKey), QVariant()) << "a serial number";
+  EXPECT_EQ(value("disk0s1", kDADiskDescriptionMediaEjectableKey), true);
+  service.change(kServiceRoot + "/drives/sda", kDriveInterface, "ConnectionBus", "sdio");
+  settle();
+  EXPECT_EQ(value("disk0s1", kDADiskDescriptionDeviceProtocolKey), "Secure Digital");
   EXPECT_EQ(names().mid(3, 3), (QStringList{"disk1", "disk1s9", "disk1s10"})) << "by number";
 }
 
@@ -78,7 +90,12 @@ TEST_F(Media, OfDisksAreNamedAndPicturedByDriveFileOrMapping) {
       QByteArray("/dev/md/vg-root\0", 16);
   service.tree[devices + "loop0"][kLoopInterface]["BackingFile"] =
       QByteArray("/images/b\xff.img\0rest", 19);
+  // These hold nothing.
+  service.tree[service.addDisk("loop1", 32)][kLoopInterface]["BackingFile"] = QByteArray("\0", 1);
+  service.addDisk("zram0", 33);
+  service.tree[service.addDisk("sr1", 34)][kBlockInterface]["Size"] = 0ULL;
   look();
+  EXPECT_EQ(names().size(), 3 + std::ssize(kRows));
   int unit = 0;
   for (const auto &row : kRows) {
     const QString name = "disk" + QString::number(++unit);
@@ -87,21 +104,4 @@ TEST_F(Media, OfDisksAreNamedAndPicturedByDriveFileOrMapping) {
     EXPECT_EQ(value(name, kDADiskDescriptionMediaIconKey).toMap().value(kMediaIconFileKey),
               row.picture);
   }
-}
-
-TEST_F(Media, OfADiskTellOfItsDriveAsItIsNow) {
-  look();
-  EXPECT_EQ(value("disk0s1", kDADiskDescriptionMediaEjectableKey), true);
-  service.change(kServiceRoot + "/drives/sda", kDriveInterface, "ConnectionBus", "sdio");
-  settle();
-  EXPECT_EQ(value("disk0s1", kDADiskDescriptionDeviceProtocolKey), "Secure Digital");
-}
-
-TEST_F(Media, ThatHoldNothingAreLeftOut) {
-  const QString loop = service.addDisk("loop0", 32);
-  service.tree[loop][kLoopInterface]["BackingFile"] = QByteArray("\0", 1);
-  service.addDisk("zram0", 33);
-  service.tree[service.addDisk("sr0", 34)][kBlockInterface]["Size"] = 0ULL;
-  look();
-  EXPECT_EQ(names(), (QStringList{"disk0", "disk0s1", "disk0s2"}));
 }

@@ -11,17 +11,10 @@
 
 namespace {
 
-using ManagedObjects = QMap<QDBusObjectPath, InterfaceMap>;
+using ObjectTree = QMap<QDBusObjectPath, InterfaceMap>;
 
 QByteArray fileName(const QString &name) {
   return name.toUtf8() + '\0';
-}
-
-QDBusMessage signal(const QString &path, const QString &name, const QVariantList &arguments) {
-  const QString interface = name == "PropertiesChanged" ? "Properties" : "ObjectManager";
-  auto message = QDBusMessage::createSignal(path, "org.freedesktop.DBus." + interface, name);
-  message.setArguments(arguments);
-  return message;
 }
 
 QVariantMap block(const QString &kernelName, uint minorNumber, const QString &drive) {
@@ -42,21 +35,17 @@ QVariant link(const QString &path) {
   return QVariant::fromValue(QDBusObjectPath(path));
 }
 
-QDBusMessage interfacesAdded(const QVariantList &arguments) {
-  return signal(kServiceRoot, "InterfacesAdded", arguments);
-}
-
-QDBusMessage interfacesRemoved(const QVariantList &arguments) {
-  return signal(kServiceRoot, "InterfacesRemoved", arguments);
-}
-
-QDBusMessage propertiesChanged(const QString &path, const QVariantList &arguments) {
-  return signal(path, "PropertiesChanged", arguments);
+QDBusMessage serviceSignal(const QString &path, const QString &name,
+                           const QVariantList &arguments) {
+  const QString interface = name == "PropertiesChanged" ? "Properties" : "ObjectManager";
+  auto message = QDBusMessage::createSignal(path, "org.freedesktop.DBus." + interface, name);
+  message.setArguments(arguments);
+  return message;
 }
 
 MockDiskService::MockDiskService(QString bus) : _bus(std::move(bus)) {
   qDBusRegisterMetaType<InterfaceMap>();
-  qDBusRegisterMetaType<ManagedObjects>();
+  qDBusRegisterMetaType<ObjectTree>();
   qDBusRegisterMetaType<QByteArrayList>();
 }
 
@@ -108,19 +97,21 @@ QString MockDiskService::addPartition(const QString &disk, uint number, uint min
 
 void MockDiskService::add(const QString &path, const InterfaceMap &interfaces) {
   tree[path].insert(interfaces);
-  say(interfacesAdded({link(path), QVariant::fromValue(interfaces)}));
+  say(serviceSignal(kServiceRoot, "InterfacesAdded",
+                    {link(path), QVariant::fromValue(interfaces)}));
 }
 
 void MockDiskService::remove(const QString &path, const QStringList &interfaces) {
   for (const QString &interface : interfaces) tree[path].remove(interface);
   if (tree[path].isEmpty()) tree.remove(path);
-  say(interfacesRemoved({link(path), interfaces}));
+  say(serviceSignal(kServiceRoot, "InterfacesRemoved", {link(path), interfaces}));
 }
 
 void MockDiskService::change(const QString &path, const QString &interface, const QString &property,
                              const QVariant &value) {
   tree[path][interface][property] = value;
-  say(propertiesChanged(path, {interface, QVariantMap{{property, value}}, QStringList()}));
+  say(serviceSignal(path, "PropertiesChanged",
+                    {interface, QVariantMap{{property, value}}, QStringList()}));
 }
 
 QDBusMessage MockDiskService::take(const QString &method) {
@@ -141,7 +132,7 @@ void MockDiskService::refuse(const QDBusMessage &call, const QString &error, con
 }
 
 void MockDiskService::answerWithTree(const QDBusMessage &call) {
-  ManagedObjects objects;
+  ObjectTree objects;
   for (auto object = tree.begin(); object != tree.end(); ++object) {
     objects.insert(QDBusObjectPath(object.key()), object.value());
   }

@@ -20,10 +20,8 @@ inline const QString kServiceRoot = QStringLiteral("/org/freedesktop/UDisks2");
 
 QVariant link(const QString &path);
 
-// The signals of such a service, with arguments that may be wrong.
-QDBusMessage interfacesAdded(const QVariantList &arguments);
-QDBusMessage interfacesRemoved(const QVariantList &arguments);
-QDBusMessage propertiesChanged(const QString &path, const QVariantList &arguments);
+/// One of the signals of such a service, with arguments that may be wrong.
+QDBusMessage serviceSignal(const QString &path, const QString &name, const QVariantList &arguments);
 
 class MockDiskService final : public QDBusVirtualObject {
  public:

@@ -2,6 +2,7 @@
 
 #include <QDBusArgument>
 
+#include "Platform/linux/Refusals.h"
 #include "service/ServiceTest.h"
 #include "support/MuteVolume.h"
 
@@ -15,10 +16,10 @@ const struct {
   QString error;
   QString message;
   DissenterStatus status;
+  bool isThere = true;
 } kRefusals[] = {
     {kBusy, "", kDAReturnBusy},
     {"org.freedesktop.UDisks2.Error.NotAuthorizedCanObtain", "", kDAReturnNotPrivileged},
-    {"org.freedesktop.UDisks2.Error.NotAuthorizedDismissed", "", unixErrorStatus(ECANCELED)},
     {"org.freedesktop.UDisks2.Error.Failed", "Error creating mount point: No space left on device",
      unixErrorStatus(ENOSPC)},
     {"org.freedesktop.UDisks2.Error.Failed",
@@ -26,6 +27,7 @@ const struct {
     {"org.freedesktop.DBus.Error.NoReply", "", kDAReturnNotReady},
     {kUnknownMethod, "No such interface", kDAReturnUnsupported},
     {kUnknownMethod, "Object does not exist at path \"/x\"", kDAReturnNotFound},
+    {kUnknownMethod, "No such interface", kDAReturnNotFound, false},
     {"com.example.DeviceBusy", "No space left on device", kDAReturnError},
 };
 
@@ -38,29 +40,10 @@ class RequestsOfTheService : public ServiceTest {
 
 }  // namespace
 
-TEST_F(RequestsOfTheService, AreRefusedWithTheStatusOfTheError) {
-  for (const auto &row : kRefusals) {
-    const Answers unmounted = unmount("disk0s2");
-    settle();
-    service.refuse(service.take("Unmount"), row.error, row.message);
-    settle();
-    EXPECT_EQ(*unmounted, Statuses{row.status}) << (row.error + ": " + row.message).toStdString();
+TEST(RefusalOfTheService, HasTheStatusOfItsError) {
+  for (const auto &[error, message, status, isThere] : kRefusals) {
+    EXPECT_EQ(refusalStatus(error, message, isThere), status) << (error + message).toStdString();
   }
-}
-
-// The service's words for an object that is gone are those for one that cannot do it.
-TEST_F(RequestsOfTheService, ForWhatTheNextServiceDoesNotKnowAreNotFound) {
-  service.die();
-  service.tree.remove(esp);
-  service.holdsTree = true;
-  service.appear();
-  ASSERT_TRUE(waitFor([&] { return !service.calls.isEmpty(); }));
-  const Answers mounted = mount("disk0s1");
-  settle();
-  service.answerWithTree(service.take("GetManagedObjects"));
-  service.refuse(service.take("Mount"), kUnknownMethod, "No such interface");
-  settle();
-  EXPECT_EQ(*mounted, Statuses{kDAReturnNotFound});
 }
 
 TEST_F(RequestsOfTheService, WaitForAPersonsPasswordLongerThanTheBusWaitsByItself) {
@@ -100,10 +83,15 @@ TEST_F(RequestsOfTheService, ByForceDoNotWaitForADiskThatDoesNotAnswer) {
 
 TEST_F(RequestsOfTheService, ForADiskThatVanishesAreOverWithItThoughItComesBack) {
   const Answers mounted = mount("disk0s1");
+  settle();
+  const InterfaceMap interfaces = service.tree[esp];
+  service.remove(esp, {kFilesystemInterface});
+  settle();
+  EXPECT_EQ(*mounted, Statuses{}) << "it is looked at anew";
+  service.add(esp, interfaces);
   const Answers unmountedEsp = unmount("disk0s1");
   const Answers unmounted = unmount("disk0s2");
   settle();
-  const InterfaceMap interfaces = service.tree[esp];
   service.remove(esp);
   service.add(esp, interfaces);
   service.remove(data);
@@ -116,12 +104,4 @@ TEST_F(RequestsOfTheService, ForADiskThatVanishesAreOverWithItThoughItComesBack)
   while (!service.calls.isEmpty()) service.answer(service.calls.takeFirst());
   settle();
   EXPECT_EQ(mounted->size() + unmountedEsp->size() + unmounted->size(), 3) << "late answers";
-}
-
-TEST_F(RequestsOfTheService, ForAFileSystemThatIsLookedAtAnewWaitOn) {
-  const Answers mounted = mount("disk0s1");
-  settle();
-  service.remove(esp, {kFilesystemInterface});
-  settle();
-  EXPECT_EQ(*mounted, Statuses{});
 }

@@ -9,52 +9,44 @@ class Signals : public ServiceTest {
   void SetUp() override { start(); }
 };
 
-QDBusMessage ownerChanged(const QVariantList &arguments) {
-  auto message = QDBusMessage::createSignal("/org/freedesktop/DBus", "org.freedesktop.DBus",
-                                            "NameOwnerChanged");
-  message.setArguments(arguments);
-  return message;
-}
-
-// Signals to everybody are filtered by the bus, those to one alone are not.
-QDBusMessage toOneAlone(const QString &address, const QDBusMessage &signal) {
-  auto message = QDBusMessage::createTargetedSignal(address, signal.path(), signal.interface(),
-                                                    signal.member());
-  message.setArguments(signal.arguments());
-  return message;
-}
-
 }  // namespace
 
 TEST_F(Signals, ThatAreMalformedOrOfNothingChangeNothing) {
   const auto right = everything();
   const QVariantMap label{{"IdLabel", "Other"}};
-  for (const QDBusMessage &message :
-       {interfacesAdded({link(disk), label}), interfacesAdded({disk, label}),
-        interfacesRemoved({link(disk), kBlockInterface}),
-        interfacesRemoved({link("/nowhere"), QStringList{kBlockInterface}}),
-        propertiesChanged(data, {kBlockInterface, label}),
-        propertiesChanged(data, {"com.example.Other", label, QStringList()}),
-        propertiesChanged("/nowhere", {kBlockInterface, label, QStringList()})}) {
-    service.say(message);
+  const std::tuple<QString, QString, QVariantList> kinds[] = {
+      {kServiceRoot, "InterfacesAdded", {link(disk), label}},
+      {kServiceRoot, "InterfacesRemoved", {link(disk), kBlockInterface}},
+      {kServiceRoot, "InterfacesRemoved", {link("/nowhere"), QStringList{kBlockInterface}}},
+      {data, "PropertiesChanged", {kBlockInterface, label}},
+      {data, "PropertiesChanged", {"com.example.Other", label, QStringList()}},
+      {"/nowhere", "PropertiesChanged", {kBlockInterface, label, QStringList()}}};
+  for (const auto &[path, name, arguments] : kinds) {
+    service.say(serviceSignal(path, name, arguments));
     settle();
-    EXPECT_EQ(everything(), right) << qPrintable(QDebug::toString(message));
+    EXPECT_EQ(everything(), right) << name.toStdString();
   }
 }
 
+// To the program alone, because the bus lets nobody else's signals to everybody through to it.
 TEST_F(Signals, OfOthersAreNotHeeded) {
   const auto right = everything();
   const Answers waiting = mount("disk0s1");
   auto other = QDBusConnection::connectToBus(bus.address(), "other");
-  for (const QDBusMessage &signal :
-       {interfacesRemoved({link(disk), QStringList{kBlockInterface}}),
-        ownerChanged({kDiskServiceName, service.address(), other.baseService()})}) {
-    other.send(signal);
-    other.send(toOneAlone(systemBus.connection().baseService(), signal));
-  }
+  const QString kBus = "org.freedesktop.DBus";
+  const auto send = [&](const QString &path, const QString &interface, const QString &name,
+                        const QVariantList &arguments) {
+    auto message = QDBusMessage::createTargetedSignal(systemBus.connection().baseService(), path,
+                                                      interface, name);
+    message.setArguments(arguments);
+    other.send(message);
+  };
+  send(kServiceRoot, "org.freedesktop.DBus.ObjectManager", "InterfacesRemoved",
+       {link(disk), QStringList{kBlockInterface}});
+  send("/org/freedesktop/DBus", kBus, "NameOwnerChanged",
+       {kDiskServiceName, service.address(), other.baseService()});
   // What the other one has sent is at the bus when this is answered.
-  other.call(
-      QDBusMessage::createMethodCall("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetId"));
+  other.call(QDBusMessage::createMethodCall(kBus, "/", kBus, "GetId"));
   settle();
   EXPECT_EQ(everything(), right);
   EXPECT_EQ(*waiting, QList<DissenterStatus>{});

@@ -1,5 +1,3 @@
-#include "Platform/linux/LinuxPlatform.h"
-
 #include <pwd.h>
 #include <unistd.h>
 
@@ -64,9 +62,8 @@ QString mountFolderOfUser() {
 
 class LinuxPlatform final : public MachinePlatform {
  public:
-  explicit LinuxPlatform(std::optional<QString> productVersion)
-      : _systemFiles(std::move(productVersion)),
-        _loginItems(XdgLoginItems::ofThisUser(
+  LinuxPlatform()
+      : _loginItems(XdgLoginItems::ofThisUser(
             [this](const QString &path) { return _volumeFiles.look(path); })),
         _userDefaults(settingsFile()),
         _disks(_systemBus, sharedUnitNumbers(), u"/proc/self/mountinfo"_s, _workspace),
@@ -101,10 +98,6 @@ void prepareProcess(char **) {
   if (const auto status = runAsVolumeHelper()) std::exit(*status);
 }
 
-std::unique_ptr<Platform> makeLinuxPlatform(std::optional<QString> productVersion) {
-  return std::make_unique<LinuxPlatform>(std::move(productVersion));
-}
-
 std::unique_ptr<Platform> makePlatform() {
-  return makeLinuxPlatform();
+  return std::make_unique<LinuxPlatform>();
 }

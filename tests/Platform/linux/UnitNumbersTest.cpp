@@ -96,10 +96,3 @@ TEST_F(UnitNumbersTest, StartAnewWithTheMachineAndWithAFileThatMakesNoSense) {
     EXPECT_EQ(program().unitsOf({sda}), QList{0}) << text;
   }
 }
-
-TEST_F(UnitNumbersTest, AreThisProgramsOwnWhereTheyCannotBeShared) {
-  writeFile(QFileInfo(file()).path(), "a file where the folder should be");
-  auto units = program();
-  EXPECT_EQ(units.unitsOf({attach("sda", 1, 1), attach("sdb", 2, 2)}), (QList{0, 1}));
-  EXPECT_EQ(units.unitsOf({{"sdb", makedev(8, 2)}}), QList{1});
-}

@@ -63,7 +63,6 @@ TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
   QFile::link("second.txt", folder + "/second.desktop");
   writeEntry("third.txt", "Exec=" + program + "\n");
   writeEntry("unfinished.desktop", "Exec=\"" + program.chopped(1) + "\\");
-  writeEntry("other-group.desktop", "[Desktop Action new]\nExec=" + program + "\n");
   QDir(folder).mkdir("folder.desktop");
   const QByteArray before = entry(kOwn);
   items.insertOwnItem();
@@ -71,7 +70,6 @@ TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
   const QMap<QString, std::optional<QString>> expected = {{kOwn, other},
                                                           {"keldra-1.desktop", std::nullopt},
                                                           {"keldra-2.desktop", program},
-                                                          {"other-group.desktop", std::nullopt},
                                                           {"second.desktop", program},
                                                           {"unfinished.desktop", std::nullopt}};
   EXPECT_EQ(all(items), expected);
