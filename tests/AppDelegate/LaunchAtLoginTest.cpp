@@ -22,7 +22,7 @@ TEST_F(LaunchAtLogin, StaysAsItIsWhereTheChoiceCannotBeRead) {
   machine.platform.userDefaults().setCanBeRead(false);
   for (const bool isOn : {true, false}) {
     set(isOn ? CheckBox::kOn : CheckBox::kOff);
-    machine.interface.runAtLoadCheck()->setState(CheckBox::kMixed);
+    machine.platform.userDefaults().set("RunAtload", !isOn);
     machine.delegate.applicationDidFinishLaunching();
     EXPECT_EQ(machine.delegate.isLaunchAtStartup(), isOn);
     EXPECT_EQ(machine.interface.runAtLoadCheck()->state() == CheckBox::kOn, isOn);
