@@ -7,8 +7,8 @@
 #include <QTest>
 
 #include "Foundation/NotificationCenter.h"
+#include "Platform/ThisMachine.h"
 #include "Platform/linux/LinuxDiskService.h"
-#include "Platform/linux/LinuxPlatform.h"
 #include "Platform/linux/LinuxVolumeFiles.h"
 #include "support/Files.h"
 #include "support/IconBytes.h"
@@ -79,7 +79,7 @@ TEST_F(SilentVolume, MayHoldAProgramThatStartsAtLogin) {
   const QString name = qEnvironmentVariable("XDG_CONFIG_HOME") + "/autostart/other.desktop";
   writeFile(name, "[Desktop Entry]\nExec=" + folder.filePath("program").toUtf8() + "\n");
   QFile::link(folder.filePath("own.desktop"), name + ".desktop");
-  const auto platform = makeLinuxPlatform();
+  const auto platform = makePlatform();
   EXPECT_LT(timeOf([&] { platform->loginItems().snapshot(); }), 250);
   QFile::remove(name);
   QFile::remove(name + ".desktop");
