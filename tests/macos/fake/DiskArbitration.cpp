@@ -37,8 +37,8 @@ void tell(const Listener &listener, const QString &disk) {
 
 /// Calls with the disk, perhaps something else, and the context.
 template <class Callback, class... More>
-const Listener &add(DASessionRef reference, const QString &topic, Callback callback, void *context,
-                    More... more) {
+void add(DASessionRef reference, const QString &topic, Callback callback, void *context,
+         More... more) {
   Session *const session = sessionOf(reference);
   const auto call = [=](const QString &name, const QVariantMap &description) {
     auto *const disk = new Disk(session, name);  // gone after the call
@@ -46,7 +46,7 @@ const Listener &add(DASessionRef reference, const QString &topic, Callback callb
     callback(as<DADiskRef>(disk), more..., context);
     release(disk);
   };
-  return world().listeners.emplace_back(Listener{session, topic, context, call});
+  world().listeners.emplace_back(Listener{session, topic, context, call});
 }
 
 void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, void *context) {
@@ -127,7 +127,8 @@ DAReturn DADissenterGetStatus(DADissenterRef dissenter) {
 
 void DARegisterDiskAppearedCallback(DASessionRef session, CFDictionaryRef,
                                     DADiskAppearedCallback callback, void *context) {
-  const Listener &added = add(session, "appeared", callback, context);
+  add(session, "appeared", callback, context);
+  const Listener added = world().listeners.back();
   for (const QString &each : world().disks.keys()) tell(added, each);
 }
 
