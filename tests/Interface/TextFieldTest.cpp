@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QVariantAnimation>
-#include <ranges>
+#include <algorithm>
 
 #include "Interface/Appearance.h"
 #include "Interface/Look.h"
@@ -16,8 +16,9 @@ class TextFieldTest : public testing::Test {
  protected:
   // Time in the test's hand: moves every fade on, the latest first, so that no older one has the last word.
   void pass(int milliseconds) {
-    const auto fades = field.findChildren<QVariantAnimation *>();
-    for (QVariantAnimation *fade : std::views::reverse(fades)) {
+    auto fades = field.findChildren<QVariantAnimation *>();
+    std::reverse(fades.begin(), fades.end());
+    for (QVariantAnimation *fade : fades) {
       if (fade->state() == QAbstractAnimation::Running) {
         fade->setCurrentTime(fade->currentTime() + milliseconds);
       }
