@@ -23,7 +23,9 @@ LoopDisks::LoopDisks(int partitions) {
   for (int i = 0; i < kDisks; ++i) {
     create(i, partitions / kDisks + (i < partitions % kDisks ? 1 : 0));
   }
-  outputOf(u"loop-disk"_s, {u"format"_s, mountableDevice(), u"ext4"_s, u"BENCH"_s});
+  for (const QString &device : {mountableDevice(), otherMountableDevice()}) {
+    outputOf(u"loop-disk"_s, {u"format"_s, device, u"ext4"_s, u"BENCH"_s});
+  }
 }
 
 LoopDisks::~LoopDisks() {

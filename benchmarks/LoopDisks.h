@@ -1,7 +1,7 @@
 #pragma once
 
 // Eight disks in a disk laboratory, with so many partitions among them. The first partition of each
-// is an ESP, and that of the first disk has an ext4 file system. They are taken away in the end.
+// is an ESP, and those of the first two disks have an ext4 file system. They are taken away in the end.
 // Making and removing them blocks, and throws std::runtime_error when it fails.
 
 #include <QStringList>
@@ -17,6 +17,9 @@ class LoopDisks {
 
   /// The partition that can be mounted, "/dev/loop0p1".
   QString mountableDevice() const { return _disks.first() + QStringLiteral("p1"); }
+  QString otherMountableDevice() const { return _disks.at(1) + QStringLiteral("p1"); }
+  /// A partition without a file system.
+  QString emptyDevice() const { return _disks.at(2) + QStringLiteral("p1"); }
 
  private:
   void create(int number, int partitions);

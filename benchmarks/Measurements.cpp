@@ -4,13 +4,17 @@
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
+#include <QTest>
 #include <cerrno>
+#include <ctime>
 #include <system_error>
 
 #include "Commands.h"
 #include "MountSignal.h"
 #include "Program.h"
 #include "Report.h"
+#include "support/EventGap.h"
+#include "support/MuteVolume.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +45,22 @@ double peerTime(const QString &action, const QString &device, const PaintedTitle
   const double time = millisecondsOf(u"udisksctl"_s, {action, u"-b"_s, device});
   waitForRow(title);
   return time;
+}
+
+/// What a person sees and does while nothing else may hold the program up: clicks, and lists of everything.
+double gapOf(Program &program, const QString &name) {
+  const EventGap gap;
+  for (int run = 0; run < kRuns; ++run) {
+    clickTime(program, name, u"umount"_s);
+    clickTime(program, name, u"mount"_s);
+  }
+  return gap.longest();
+}
+
+double processorSeconds() {
+  timespec time{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
 }
 
 void check(int result, const char *what) {
@@ -97,4 +117,29 @@ void measureEvents(Program &program, const QString &device, int partitions, Repo
     waitForRow(unmounted);
     waitForSignal();
   }
+}
+
+void measureGaps(Program &program, const QString &device, const QString &other, int partitions,
+                 Report &report) {
+  const QString name = program.nameOf(device);
+  program.scrollTo(name);
+  report.add(kGap, partitions, gapOf(program, name));
+  const QTemporaryDir folder;
+  const QByteArray path = folder.path().toLocal8Bit();
+  check(mount(other.toLocal8Bit().constData(), path.constData(), "ext4", 0, nullptr), "mount");
+  {
+    const MuteVolume silence(folder.path());
+    report.add(kGapBesideSilence, partitions, gapOf(program, name));
+  }
+  check(umount2(path.constData(), 0), "umount");
+}
+
+void measureRefusal(Program &program, const QString &device, int partitions, Report &report) {
+  constexpr int kSeconds = 5;
+  const QString name = program.nameOf(device);
+  program.scrollTo(name);
+  program.click(name);
+  const double before = processorSeconds();
+  QTest::qWait(kSeconds * 1000);
+  report.add(kAfterRefusal, partitions, (processorSeconds() - before) / kSeconds * 100);
 }

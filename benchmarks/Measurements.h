@@ -16,6 +16,9 @@ inline const QString kMount = QStringLiteral("udisksctl mount");
 inline const QString kEventToRow = QStringLiteral("mount table to changed row");
 inline const QString kEventToSignal = QStringLiteral("mount table to PropertiesChanged");
 inline const QString kRowAfterSignal = QStringLiteral("changed row after PropertiesChanged");
+inline const QString kGap = QStringLiteral("longest gap between events served");
+inline const QString kGapBesideSilence = QStringLiteral("the same, another volume not answering");
+inline const QString kAfterRefusal = QStringLiteral("processor in 5 s after a refusal, %");
 
 /// How often each is measured. Ours and the peers' runs take turns.
 constexpr int kRuns = 15;
@@ -27,3 +30,9 @@ constexpr int kRuns = 15;
 void measureRefresh(Program &program, int partitions, Report &report);
 void measureClicks(Program &program, const QString &device, int partitions, Report &report);
 void measureEvents(Program &program, const QString &device, int partitions, Report &report);
+/// While the device is mounted and unmounted by clicks; then again while `other`, a second such partition, is mounted
+/// and its volume does not answer.
+void measureGaps(Program &program, const QString &device, const QString &other, int partitions,
+                 Report &report);
+/// `device` has nothing that could be mounted.
+void measureRefusal(Program &program, const QString &device, int partitions, Report &report);

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QFile>
-#include <QProcess>
 #include <QThread>
 #include <stdexcept>
 
@@ -28,19 +27,10 @@ double residentMegabytes(qint64 process) {
 
 void measureOne(Tray &tray, const QString &program, const QString &time, const QString &memory,
                 int partitions, Report &report) {
-  tray.forget();
-  QProcess process;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
-  process.setProcessEnvironment(environment);
-  const Instant start = now();
-  process.start(QCoreApplication::applicationDirPath() + u'/' + program, QStringList());
-  waitUntil([&] { return tray.registered().has_value(); }, u"the item of "_s + program);
-  report.add(time, partitions, millisecondsBetween(start, *tray.registered()));
+  const TrayProgram one(tray, program);
+  report.add(time, partitions, one.millisecondsToItem());
   QThread::msleep(kSettlingMilliseconds);
-  report.add(memory, partitions, residentMegabytes(process.processId()));
-  process.terminate();
-  process.waitForFinished();
+  report.add(memory, partitions, residentMegabytes(one.process()));
 }
 
 }  // namespace
@@ -57,6 +47,22 @@ Tray::Tray() {
 
 void Tray::RegisterStatusNotifierItem(const QString & /*item*/) {
   if (!_registered) _registered = now();
+}
+
+TrayProgram::TrayProgram(Tray &tray, const QString &program) {
+  tray.forget();
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+  _process.setProcessEnvironment(environment);
+  const Instant start = now();
+  _process.start(QCoreApplication::applicationDirPath() + u'/' + program, QStringList());
+  waitUntil([&] { return tray.registered().has_value(); }, u"the item of "_s + program);
+  _millisecondsToItem = millisecondsBetween(start, *tray.registered());
+}
+
+TrayProgram::~TrayProgram() {
+  _process.terminate();
+  _process.waitForFinished();
 }
 
 void measureStartUp(int partitions, Report &report) {

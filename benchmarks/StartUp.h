@@ -4,6 +4,7 @@
 // The tray is one of our own, on the session bus.
 
 #include <QObject>
+#include <QProcess>
 #include <optional>
 
 #include "Time.h"
@@ -41,6 +42,23 @@ class Tray : public QObject {
 
  private:
   std::optional<Instant> _registered;
+};
+
+/// A program of this build on the X server, with its item in the tray; is ended with this object.
+class TrayProgram {
+ public:
+  /// Returns once the item is registered. Throws std::runtime_error if that takes too long.
+  TrayProgram(Tray &tray, const QString &program);
+  ~TrayProgram();
+  TrayProgram(const TrayProgram &) = delete;
+  TrayProgram &operator=(const TrayProgram &) = delete;
+
+  qint64 process() const { return _process.processId(); }
+  double millisecondsToItem() const { return _millisecondsToItem; }
+
+ private:
+  QProcess _process;
+  double _millisecondsToItem = 0;
 };
 
 /// Adds the times and the memory of the program and of the smallest one, in turns, for so many

@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "Aims.h"
+#include "Idle.h"
 #include "LoopDisks.h"
 #include "Measurements.h"
 #include "Platform/ThisMachine.h"
@@ -18,6 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kMostPartitions = 1000;
+
 void measure(Platform &platform, int partitions, Report &report) {
   QTextStream(stderr) << "bench: " << partitions << " partitions\n";
   const qsizetype others = platform.mediaRegistry().mediaNames().size();
@@ -29,10 +32,13 @@ void measure(Platform &platform, int partitions, Report &report) {
       },
       u"all partitions"_s);
   measureStartUp(partitions, report);
+  if (partitions == kMostPartitions) measureIdle(partitions, report);
   Program program(platform);
   measureRefresh(program, partitions, report);
   measureClicks(program, disks.mountableDevice(), partitions, report);
   measureEvents(program, disks.mountableDevice(), partitions, report);
+  measureGaps(program, disks.mountableDevice(), disks.otherMountableDevice(), partitions, report);
+  measureRefusal(program, disks.emptyDevice(), partitions, report);
 }
 
 Report measureAll() {
@@ -42,7 +48,7 @@ Report measureAll() {
             u"the disk service"_s);
   const qsizetype others = platform->mediaRegistry().mediaNames().size();
   Report report;
-  for (const int partitions : {10, 100, 1000}) {
+  for (const int partitions : {10, 100, kMostPartitions}) {
     measure(*platform, partitions, report);
     waitUntil([&] { return platform->mediaRegistry().mediaNames().size() == others; },
               u"the end of all partitions"_s);
@@ -63,7 +69,8 @@ void print(QTextStream &out, const Report &report) {
   report.printMedians(out, kMount);
   report.printMedians(out, kClickToRow);
   report.printRatios(out, kClickToRow, kMount);
-  for (const QString &measure : {kEventToSignal, kEventToRow, kRowAfterSignal}) {
+  for (const QString &measure :
+       {kEventToSignal, kEventToRow, kRowAfterSignal, kGap, kGapBesideSilence, kAfterRefusal}) {
     report.printMedians(out, measure);
   }
   for (const auto &[measure, peer] :

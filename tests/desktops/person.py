@@ -5,6 +5,7 @@ session's own displays.
 """
 
 import contextlib
+import ctypes
 import json
 import os
 import pathlib
@@ -65,6 +66,40 @@ def colour_at(x, y):
 
 def picture(name):
     screen.take_picture(ROOM / f"{name}.png")
+
+
+class _CursorImage(ctypes.Structure):
+    _fields_ = [(name, ctypes.c_short) for name in ("x", "y")] + \
+        [(name, ctypes.c_ushort) for name in ("width", "height", "hot_x", "hot_y")] + \
+        [("serial", ctypes.c_ulong), ("pixels", ctypes.POINTER(ctypes.c_ulong)), ("atom", ctypes.c_ulong),
+         ("name", ctypes.c_char_p)]
+
+
+def pointer_shape():
+    """The pointer's picture: an arrow's is another one than that of a busy pointer."""
+    xlib, fixes = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXfixes.so.3")
+    xlib.XOpenDisplay.restype = ctypes.c_void_p
+    fixes.XFixesGetCursorImage.restype = ctypes.POINTER(_CursorImage)
+    display = ctypes.c_void_p(xlib.XOpenDisplay(None))
+    image = fixes.XFixesGetCursorImage(display).contents
+    shape = image.width, image.height, tuple(image.pixels[:image.width * image.height])
+    xlib.XCloseDisplay(display)
+    return shape
+
+
+class Notices:
+    """What programs tell the desktop to show, from now on."""
+
+    def __init__(self):
+        self._monitor = subprocess.Popen(["dbus-monitor", "interface=org.freedesktop.Notifications,member=Notify"],
+                                         stdout=subprocess.PIPE, **QUIET)
+        time.sleep(0.5)
+
+    def end(self):
+        """Their texts."""
+        self._monitor.terminate()
+        told = self._monitor.communicate()[0].decode(errors="replace")
+        return re.findall(r'string "(.+)"', told)
 
 
 def bounding_box(before, after, width):

@@ -9,8 +9,8 @@ import subprocess
 import sys
 import time
 
-from person import (Keldra, bounding_box, colour_at, contrast, picture, pixels, registered, run, screen,
-                    session_environment, shell, tray, wait_for)
+from person import (Keldra, Notices, bounding_box, colour_at, contrast, picture, pixels, pointer_shape, registered,
+                    run, screen, session_environment, shell, tray, wait_for)
 
 PROGRAM, DESKTOP = sys.argv[1:3]
 WIDTH, HEIGHT = screen.size()
@@ -101,6 +101,20 @@ class Visit:
         best = max(contrast(colour, ground) for colour in colours)
         tell("picture", len(readable) > width * height / 6, f"{best:.1f} to 1 on {ground}")
 
+    def pointer(self):
+        screen.move_pointer(*WALLPAPER)
+        time.sleep(0.5)
+        before = pointer_shape()
+        self.open()
+        screen.move_pointer(*WALLPAPER)
+        time.sleep(1.5)
+        opened = pointer_shape()
+        self.click_item()
+        self.program.is_closed()
+        screen.move_pointer(*WALLPAPER)
+        time.sleep(1.5)
+        tell("pointer", opened == before == pointer_shape())
+
     def place(self):
         place = self.open()
         picture("2-open")
@@ -167,9 +181,27 @@ class Visit:
         other.kill()
         other.wait()
 
+    def above_full_screen(self):
+        """The item is covered as well, so that only a second start can open the popover."""
+        self.program.close()
+        other = self.other_window("-fullscreen")
+        time.sleep(1)
+        covered = colour_at(*self.middle)
+        self.program.again()
+        self.program.is_open()
+        time.sleep(1)
+        place = self.program.place()
+        picture("8-full-screen")
+        seen = place and self.program.control("Quit")
+        tell("above full screen", seen and colour_at(place[0] + 30, place[1] + place[3] - 40) != covered, f"{place}")
+        self.program.close()
+        other.kill()
+        other.wait()
+
     @staticmethod
-    def other_window():
-        other = subprocess.Popen(["xterm", "-geometry", "40x12+{0}+{1}".format(*OTHER)], env=session_environment())
+    def other_window(*options):
+        other = subprocess.Popen(["xterm", "-geometry", "40x12+{0}+{1}".format(*OTHER), *options],
+                                 env=session_environment())
         wait_for(lambda: run("xdotool", "search", "--onlyvisible", "--class", "xterm", inside=True))
         time.sleep(1)
         click(OTHER[0] + 150, OTHER[1] + 150)
@@ -231,6 +263,7 @@ class Visit:
         screen.wait_for_rest()
         time.sleep(0.5)
         before = pixels()
+        notices = Notices()
         click(*self.middle, button=1 if DESKTOP == "gnome" else 3)
         time.sleep(1.2)
         picture("5-menu")
@@ -242,6 +275,8 @@ class Visit:
         time.sleep(1.5)
         picture("6-after-menu")
         tell("menu", menu and menu[2] > 60 and not self.program.window(), f"{menu} {mounted or ''}")
+        told = [text for text in notices.end() if "disk0s1" in text]
+        tell("menu's outcome", told, "; ".join(told))
 
 
 def visit_without_tray():
@@ -253,6 +288,13 @@ def visit_without_tray():
     program.end()
 
 
+STEPS = {
+    "all": (Visit.picture_of_item, Visit.place, Visit.pointer, Visit.again, Visit.windows, Visit.above_full_screen,
+            Visit.busy, Visit.info, Visit.menu, Visit.theme),
+    "place": (Visit.picture_of_item, Visit.place),
+}
+
+
 def main():
     settle()
     if NO_TRAY:
@@ -261,10 +303,9 @@ def main():
     try:
         if not visit.item:
             return None
-        for step in (visit.picture_of_item, visit.place, visit.again, visit.windows, visit.busy, visit.info,
-                     visit.menu, visit.theme):
+        for step in STEPS.get(os.environ.get("CELLS"), STEPS["all"]):
             try:
-                step()
+                step(visit)
             except Exception as problem:  # the other cells can be seen all the same
                 tell(step.__name__, False, f"{type(problem).__name__}: {problem}")
     finally:

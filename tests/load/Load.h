@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QtGlobal>
+#include <cstdio>
 #include <random>
 
 inline const bool kIsWholeLoad = qEnvironmentVariableIntValue("KELDRA_LOAD") == 1;
@@ -18,6 +19,11 @@ inline quint64 loadSeed() {
   const QString seed = qEnvironmentVariable("KELDRA_LOAD_SEED");
   if (!seed.isEmpty()) return seed.toULongLong();
   return kIsWholeLoad ? std::random_device()() : 1;
+}
+
+/// For whoever runs the load tests by hand: a test that judged it would fail on a busy machine.
+inline void printLongestGap(double milliseconds) {
+  std::printf("[          ] longest time without serving events: %.1f ms\n", milliseconds);
 }
 
 /// The same seed gives the same numbers on every system.

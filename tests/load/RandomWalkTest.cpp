@@ -8,6 +8,7 @@
 
 #include "Interface/Popover.h"
 #include "load/Load.h"
+#include "support/EventGap.h"
 #include "support/TestMachine.h"
 
 using namespace std::chrono_literals;
@@ -127,12 +128,17 @@ class RandomWalk {
 
   /// Gives in words what it did.
   QString step() {
+    const EventGap gap;
     const QString words = _program.interface.popover()->isShown() ? person() : machine();
     _program.settle();
     // As the program's event loop does between two events.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    _longestGap = std::max(_longestGap, gap.longest());
     return words;
   }
+
+  /// Over all steps, without what the test itself does between them.
+  double longestGap() const { return _longestGap; }
 
   QMap<QString, QString> rows() const {
     return expectedRows(_program.platform.machine(), _showsAll);
@@ -250,6 +256,7 @@ class RandomWalk {
   Chance _chance;
   TestMachine _program;
   bool _showsAll = false;
+  double _longestGap = 0;
 };
 
 }  // namespace
@@ -267,4 +274,5 @@ TEST(RandomWalk, LeavesTheTableTrueAfterEveryStep) {
                                  << wrong.toStdString() << "\nafter\n  "
                                  << latest.join("\n  ").toStdString();
   }
+  printLongestGap(walk.longestGap());
 }
