@@ -184,7 +184,7 @@ class Visit:
     def above_full_screen(self):
         """The item is covered as well, so that only a second start can open the popover."""
         self.program.close()
-        other = self.other_window("-fullscreen")
+        other = self.other_window("-fullscreen", "-bg", "navy")
         time.sleep(1)
         covered = colour_at(*self.middle)
         self.program.again()
