@@ -8,7 +8,7 @@
 #include "support/OpenedFolders.h"
 #include "support/TestMachine.h"
 
-TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
+TEST(Info, ShowsAndCopiesTheFactsForABugReport) {
   TestMachine machine(twoEspMachine());
   QTest::mouseClick(machine.interface.infoButton(), Qt::LeftButton);
   InfoWindow *window = machine.interface.infoWindow();

@@ -4,7 +4,7 @@
 
 #include "support/TestMachine.h"
 
-TEST(Menu, DoesWhatTheRowsDoAndTellsTheOutcomeToWhoeverDoesNotSeeThePopover) {
+TEST(Menu, ActsLikeTheRowsAndNotifiesWhileThePopoverIsClosed) {
   TestMachine machine(twoEspMachine());
   machine.interface.popover()->close();
   const auto choose = [&](const QString &title) {

@@ -8,7 +8,7 @@
 #include "support/Files.h"
 #include "support/TestMachine.h"
 
-TEST(PartitionList, SaysWhyItIsNotCompleteUntilItIs) {
+TEST(PartitionList, SaysWhyItIsIncompleteUntilARefreshSucceeds) {
   TestMachine machine(twoEspMachine());
   const Notice *notice = machine.interface.listNotice();
   machine.platform.mountFromOutside("disk1s1");

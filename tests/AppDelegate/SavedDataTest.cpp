@@ -18,7 +18,7 @@ class SavedDataTest : public testing::Test {
   ManagedObjectContext *context() { return machine.delegate.managedObjectContext(); }
 
   void change() { context()->setValue(*context()->insertObject("Partition"), "note", "mine"); }
-  /// Changes something, and makes it impossible to save it.
+  /// Makes a change and then makes it impossible to save.
   void changeInVain() {
     change();
     EXPECT_TRUE(QDir(folder).removeRecursively());
@@ -32,7 +32,7 @@ class SavedDataTest : public testing::Test {
   const QString store = folder + "/OSXCoreDataObjC.storedata";
 };
 
-TEST_F(SavedDataTest, IsMadeOnFirstUseAndReadByTheNextProgram) {
+TEST_F(SavedDataTest, IsCreatedOnFirstUseAndReadAfterARestart) {
   EXPECT_EQ(shouldTerminate(), TerminateReply::Now);
   EXPECT_FALSE(QFile::exists(folder)) << "a store that is not used leaves no trace";
   EXPECT_EQ(machine.delegate.windowWillReturnUndoManager(nullptr), &context()->undoManager());
@@ -45,7 +45,7 @@ TEST_F(SavedDataTest, IsMadeOnFirstUseAndReadByTheNextProgram) {
   EXPECT_FALSE(context()->hasChanges()) << "it saves";
 }
 
-TEST_F(SavedDataTest, WhatCannotBeSetUpIsSaidAndTriedAnew) {
+TEST_F(SavedDataTest, AFailedSetUpIsReportedAndTriedAgain) {
   const std::pair<QString, QString> kRows[] = {
       {folder, "Expected a folder to store application data, found a file (" + folder + ")."},
       {store,
@@ -64,7 +64,7 @@ TEST_F(SavedDataTest, WhatCannotBeSetUpIsSaidAndTriedAnew) {
   EXPECT_NE(context(), nullptr);
 }
 
-TEST_F(SavedDataTest, TheAlertKeepsTheProgramByItsFirstButtonOnly) {
+TEST_F(SavedDataTest, OnlyTheFirstButtonOfTheAlertKeepsTheProgramRunning) {
   changeInVain();
   for (const QString answer : {"Quit anyway", "Cancel", "Escape"}) {
     Dialogs dialogs({"OK", answer});
@@ -76,7 +76,7 @@ TEST_F(SavedDataTest, TheAlertKeepsTheProgramByItsFirstButtonOnly) {
   }
 }
 
-TEST_F(SavedDataTest, AnEditorThatRefusesKeepsTheProgram) {
+TEST_F(SavedDataTest, AnEditorThatRefusesPreventsQuitting) {
   struct Refusing : Editor {
     bool commitEditing() override { return false; }
   } refusing;
@@ -91,7 +91,7 @@ TEST_F(SavedDataTest, AnEditorThatRefusesKeepsTheProgram) {
             "AppDelegate:saveAction: unable to commit editing before saving\n");
 }
 
-TEST_F(SavedDataTest, EveryWayOutGoesThroughTheAlertAndOpensOnlyOne) {
+TEST_F(SavedDataTest, EveryWayToQuitShowsTheAlertExactlyOnce) {
   quitWithTheSystem(machine.delegate);
   changeInVain();
   const std::function<void()> kWays[] = {
@@ -106,7 +106,7 @@ TEST_F(SavedDataTest, EveryWayOutGoesThroughTheAlertAndOpensOnlyOne) {
   }
 }
 
-TEST_F(SavedDataTest, IsAskedAboutWhileARowActionLastsTooLong) {
+TEST_F(SavedDataTest, QuittingDuringALongRowActionAsksAboutUnsavedData) {
   machine.platform.setDelay("disk0s1", std::chrono::milliseconds(5500));
   changeInVain();
   Dialogs dialogs({"OK", "Escape"});
@@ -121,7 +121,7 @@ TEST_F(SavedDataTest, IsAskedAboutWhileARowActionLastsTooLong) {
   EXPECT_EQ(ends, QList<qsizetype>{2}) << "after it was asked";
 }
 
-TEST_F(SavedDataTest, ASessionEndsWithWhatIsSavedAndIsKeptByWhatIsNot) {
+TEST_F(SavedDataTest, TheSessionEndsOnlyAfterASuccessfulSaveOrAnswer) {
   const auto mayEnd = [this](bool mayAsk) {
     return machine.delegate.sessionMayEnd([mayAsk] { return mayAsk; });
   };

@@ -22,7 +22,7 @@ QByteArray probedMachine(const QByteArray &more = {}) {
 
 }  // namespace
 
-TEST(FileSystemPersonality, TellsTheWidthOfAMountedFATAndTheKindOfOthers) {
+TEST(FileSystemPersonality, GivesTheWidthOfAMountedFATAndTheKindOfOthers) {
   const TestPlatform machine(probedMachine());
   const std::tuple<QString, QString, bool> kCases[] = {
       {"disk0s1", "Fat32", true},   {"/dev/disk0s2", "Fat16", true}, {"disk0s3", "Fat12", true},
@@ -37,7 +37,7 @@ TEST(FileSystemPersonality, TellsTheWidthOfAMountedFATAndTheKindOfOthers) {
   EXPECT_EQ(DA::findMountPointLegacy("disk0s1"), "N/A") << "it is not looked into";
 }
 
-TEST(SectorSize, IsThePhysicalOneOfTheWholeDiskWhereItIsTold) {
+TEST(SectorSize, IsThePhysicalSizeOfTheWholeDiskIfKnown) {
   const TestPlatform machine(probedMachine());
   EXPECT_EQ(DA::findSectorSize("disk0s2"), "Physical 4096-bytes");
   EXPECT_EQ(DA::findSectorSize("disk1"), "Logical 512-bytes");

@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Where a panel of 470 to 400 goes, and the arrow's tip, if it has one.
+/// The place of a panel of 470 by 400, and of the arrow's tip, if there is one.
 QString at(const QRect &item, const QRect &available, bool endsAtRight = true) {
   const QRect whole(0, 0, 1280, 800);
   const PopoverPlacement place =
@@ -24,7 +24,7 @@ QString at(const QRect &item, const QRect &available, bool endsAtRight = true) {
   return text + (place.arrowEdge == Qt::TopEdge ? " ^" : " v") + QString::number(tip);
 }
 
-TEST(PopoverPlacementTest, HangsFromItsItemAndStaysOnTheScreen) {
+TEST(PopoverPlacementTest, IsAtTheItemAndWithinTheScreen) {
   const QRect screen(0, 26, 1280, 742);  // a panel along the top
   EXPECT_EQ(at({600, 1, 24, 24}, screen), "376,35 ^611") << "all below the bar";
   EXPECT_EQ(at({1256, 1, 24, 24}, screen), "804,35 ^1267");
@@ -36,7 +36,7 @@ TEST(PopoverPlacementTest, HangsFromItsItemAndStaysOnTheScreen) {
   EXPECT_EQ(at({300, 0, 20, 20}, {0, 0, 320, 200}), "6,9 ^309") << "too small a screen";
 }
 
-TEST(PopoverPlacementTest, WithoutAnAnchorAtTheEndOfTheWidestBar) {
+TEST(PopoverPlacementTest, WithoutAnAnchorIsAtTheEndOfTheWidestBar) {
   EXPECT_EQ(at({}, {0, 0, 1280, 800}), "405,200");
   EXPECT_EQ(at({}, {0, 30, 1280, 750}), "804,39");
   EXPECT_EQ(at({}, {0, 20, 1280, 750}, false), "6,361");
@@ -65,7 +65,7 @@ class PopoverTest : public testing::Test, public PopoverDelegate {
   QWidget *rows = new QWidget;
 };
 
-TEST_F(PopoverTest, TellsOfEachOpeningAndClosingOnce) {
+TEST_F(PopoverTest, ReportsEachOpeningAndClosingOnce) {
   showAt(500);
   popover.setHeldOpen(true);
   emit qApp->applicationStateChanged(Qt::ApplicationInactive);
@@ -77,7 +77,7 @@ TEST_F(PopoverTest, TellsOfEachOpeningAndClosingOnce) {
   EXPECT_EQ(said, QStringList({"shown", "closing"}));
 }
 
-TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
+TEST_F(PopoverTest, FollowsTheSizeOfItsContentAndKeepsItsTop) {
   const auto panel = [this] { return popover.placement().panel; };
   const QRect before = panel();
   rows->setFixedHeight(260);
@@ -88,7 +88,7 @@ TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
   EXPECT_LE(panel().bottom(), popover.screen()->availableGeometry().bottom());
 }
 
-TEST_F(PopoverTest, PaintsItsFrameAnewForAnotherShapeOrPalette) {
+TEST_F(PopoverTest, RepaintsItsFrameForAnotherShapeOrPalette) {
   const auto picture = [this] { return popover.grab().toImage(); };
   const QImage before = picture();
   showAt(20);
@@ -104,7 +104,7 @@ struct HandClock : Clock {
   std::chrono::milliseconds time{1000};
 };
 
-TEST(StatusItemTest, ClickOpensOrClosesAndASecondOneOfTheSameIntentDoesNothing) {
+TEST(StatusItemTest, AClickOpensOrClosesAndADoubleClickCountsOnce) {
   HandClock clock;
   SimulatedDesktop desktop;
   StatusItem item(desktop.makeTrayItem(), clock);

@@ -25,7 +25,7 @@ class StoreTest : public testing::Test {
   ManagedObjectContext context{coordinator};
 };
 
-TEST_F(StoreTest, ChangesAreUndoneRepeatedAndSaved) {
+TEST_F(StoreTest, ChangesAreUndoneRedoneAndSaved) {
   const auto id = context.insertObject("Volume");
   EXPECT_FALSE(context.setValue(*id, "size", "1"));
   const QString text = "\t <a href=\"x\">&amp;\r\n\"']]>\u00e4\U0001F4BE ";
@@ -43,7 +43,7 @@ TEST_F(StoreTest, ChangesAreUndoneRepeatedAndSaved) {
   EXPECT_TRUE(stored().isEmpty());
 }
 
-TEST_F(StoreTest, WhatIsNotAStoreIsRefusedAndLeftAlone) {
+TEST_F(StoreTest, CorruptFilesAreRefusedAndNotChanged) {
   const QByteArray object =
       R"(<object entity="Volume" id="{0e2f0b4c-1111-4c4c-8d8d-121212121212}">
          <attribute name="note" value="a&#13;&lt;b"/></object>)";

@@ -1,4 +1,4 @@
-// What media are called, and what is said of them, after what the service says.
+// Names and descriptions of media, from the service's data.
 
 #include "Foundation/Paths.h"
 #include "Platform/linux/LinuxRawDevices.h"
@@ -8,7 +8,7 @@ namespace {
 
 class Media : public ServiceTest {
  public:
-  /// The program starts with the tree as it is now.
+  /// Starts the program with the present tree.
   void look() {
     service.appear();
     startProgram();
@@ -62,7 +62,7 @@ TEST_F(Media, OfPartitionsAreNamedByTypeThenNameThenPurpose) {
   EXPECT_EQ(names().mid(3, 3), (QStringList{"disk1", "disk1s9", "disk1s10"})) << "by number";
 }
 
-TEST_F(Media, OfDisksAreNamedAndPicturedByDriveFileOrMapping) {
+TEST_F(Media, OfDisksGetNameAndPictureFromDriveFileOrMapping) {
   const struct {
     const char *device;
     QVariantMap drive;
@@ -90,7 +90,7 @@ TEST_F(Media, OfDisksAreNamedAndPicturedByDriveFileOrMapping) {
       QByteArray("/dev/md/vg-root\0", 16);
   service.tree[devices + "loop0"][kLoopInterface]["BackingFile"] =
       QByteArray("/images/b\xff.img\0rest", 19);
-  // These hold nothing.
+  // Disks that hold nothing.
   service.tree[service.addDisk("loop1", 32)][kLoopInterface]["BackingFile"] = QByteArray("\0", 1);
   service.addDisk("zram0", 33);
   service.tree[service.addDisk("sr1", 34)][kBlockInterface]["Size"] = 0ULL;

@@ -1,4 +1,4 @@
-// The service's tree when it comes late or never, is huge, or comes anew again and again.
+// The service's tree arrives late or never, is huge, or is fetched again and again.
 
 #include <QUuid>
 
@@ -21,7 +21,7 @@ class Tree : public ServiceTest {
 
 }  // namespace
 
-TEST_F(Tree, MayComeAfterItsFirstChanges) {
+TEST_F(Tree, MayArriveAfterSignalsOfItsChanges) {
   service.holdsTree = true;
   service.appear();
   startProgram();
@@ -42,7 +42,7 @@ TEST_F(Tree, MayComeAfterItsFirstChanges) {
   EXPECT_EQ(events.count("changed"), events.size()) << "what was mounted is no news";
 }
 
-TEST_F(Tree, ThatIsRefusedTooLateOrMakesNoSenseIsNone) {
+TEST_F(Tree, ThatIsRefusedLateOrInvalidIsIgnored) {
   const QList<std::function<void(const QDBusMessage &)>> replies = {
       [&](const auto &question) { service.refuse(question, "com.example.Error"); },
       [&](const auto &question) { service.answer(question, {"a text"}); },
@@ -69,7 +69,7 @@ TEST_F(Tree, ThatIsRefusedTooLateOrMakesNoSenseIsNone) {
   EXPECT_TRUE(waitFor([&] { return names() == kNames; }));
 }
 
-TEST_F(Tree, MayChangeInAFlurry) {
+TEST_F(Tree, ManyChangesAreReportedTogether) {
   start();
   for (int count = 0; count < 300; ++count) {
     service.change(esp, kPartitionInterface, "UUID", QUuid::createUuid().toString());
@@ -79,11 +79,11 @@ TEST_F(Tree, MayChangeInAFlurry) {
   EXPECT_LT(events.size(), 30) << "told of in waves";
 }
 
-TEST_F(Tree, ComesAnewWithEveryLifeOfTheService) {
+TEST_F(Tree, IsFetchedAgainAfterEachRestartOfTheService) {
   start();
   const Answers mounted = mount("disk0s1");
   ASSERT_TRUE(waitFor([&] { return service.calls.size() == 1; }));
-  service.stepDown();  // it lives on for a moment, and nobody listens any more
+  service.stepDown();  // still running, but its messages are ignored
   ASSERT_TRUE(waitFor([&] { return !mounted->isEmpty(); }));
   service.answer(service.take("Mount"));
   service.remove(disk);

@@ -34,7 +34,7 @@ TEST(MountTable, LeavesOutMalformedLines) {
   EXPECT_EQ(lines[0].mountPoint, "/good");
 }
 
-TEST(MountTable, TellsWhereAVolumeIsMounted) {
+TEST(MountTable, FindsWhereAVolumeIsMounted) {
   const QTemporaryDir folder;
   const QString path = folder.filePath("mountinfo");
   writeFile(path,

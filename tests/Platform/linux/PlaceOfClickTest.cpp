@@ -9,7 +9,7 @@ const QList<ScreenArea> kScreens = {{{0, 0, 1280, 800}, {0, 28, 1280, 772}, 1},
                                     {{1280, 0, 1280, 800}, {1280, 0, 1280, 800}, 1}};
 const QPoint kItem(1122, 14);
 
-TEST(PlaceOfClick, BelievesAPanelThatNamesAPlaceAtThePointer) {
+TEST(PlaceOfClick, UsesThePanelsPlaceOnlyNearThePointer) {
   EXPECT_EQ(placeOfClick({1110, 0}, kItem, kScreens), QPoint(1110, 0)) << "the item's corner";
   EXPECT_EQ(placeOfClick({0, 28}, kItem, kScreens), kItem) << "nonsense";
   EXPECT_EQ(placeOfClick({0, 0}, kItem, kScreens), kItem) << "a panel that does not know";
@@ -17,7 +17,7 @@ TEST(PlaceOfClick, BelievesAPanelThatNamesAPlaceAtThePointer) {
   EXPECT_EQ(placeOfClick({0, 28}, QPoint(500, 500), kScreens), QPoint(500, 500));
 }
 
-TEST(PlaceOfClick, BelievesAPanelWhereNobodyKnowsThePointer) {
+TEST(PlaceOfClick, UsesThePanelsPlaceWhenThePointerIsUnknown) {
   EXPECT_EQ(placeOfClick(kItem, std::nullopt, kScreens), kItem);
   EXPECT_EQ(placeOfClick({1300, 790}, std::nullopt, kScreens), QPoint(1300, 790))
       << "it hides itself";
@@ -25,7 +25,7 @@ TEST(PlaceOfClick, BelievesAPanelWhereNobodyKnowsThePointer) {
   EXPECT_EQ(placeOfClick({9000, 5}, std::nullopt, kScreens), std::nullopt);
 }
 
-TEST(PlaceOfClick, FindsOutWhichUnitsAreMeant) {
+TEST(PlaceOfClick, TellsNativeFromScaledUnits) {
   const QList<ScreenArea> dense = {{{0, 0, 640, 400}, {0, 28, 640, 372}, 2}};
   EXPECT_EQ(placeOfClick({1122, 28}, QPoint(560, 13), dense), QPoint(561, 14));
   EXPECT_EQ(placeOfClick({561, 14}, QPoint(560, 13), dense), QPoint(561, 14));

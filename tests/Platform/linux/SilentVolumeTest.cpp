@@ -1,4 +1,4 @@
-// What never answers must not hold the program up, nor keep it from ending.
+// A volume that never answers must not block the program or its exit.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -46,14 +46,14 @@ class SilentVolume : public testing::Test {
 
 }  // namespace
 
-TEST_F(SilentVolume, IsWaitedForOnceAndItsLateAnswerIsKeptForTheRefreshThatItCauses) {
+TEST_F(SilentVolume, BlocksTheProgramOnceAndItsLateAnswerServesTheNextRefresh) {
   const QString file = folder.path() + "/.VolumeIcon.icns";
   writeFile(other.filePath(".VolumeIcon.icns"), icns({{"ic08", pngOf(256, Qt::magenta)}}));
   ASSERT_TRUE(QTest::qWaitFor([&] { return files.look(other.path()).access == Open; }));
-  QTest::qWait(100);  // for the news that there is no bus
+  QTest::qWait(100);  // lets the missing bus be announced first
   events.clear();
   EXPECT_LT(timeOf([&] { EXPECT_EQ(files.image(file), std::nullopt); }), 250);
-  // The next turn of the event loop has a patience of its own.
+  // The next turn of the event loop has its own 100 ms.
   ASSERT_TRUE(QTest::qWaitFor([&] { return volume.questions() > 0; }));
   const int asked = volume.questions();
   EXPECT_LT(timeOf([&] { EXPECT_EQ(files.look(file).access, Unknown); }), 50) << "known by now";
@@ -75,7 +75,7 @@ TEST_F(SilentVolume, IsWaitedForOnceAndItsLateAnswerIsKeptForTheRefreshThatItCau
   EXPECT_EQ(events.count("changed"), 1) << "the late answer was kept";
 }
 
-TEST_F(SilentVolume, MayHoldAProgramThatStartsAtLogin) {
+TEST_F(SilentVolume, DelaysTheListOfLoginItemsOnlyBriefly) {
   const QString name = qEnvironmentVariable("XDG_CONFIG_HOME") + "/autostart/other.desktop";
   writeFile(name, "[Desktop Entry]\nExec=" + folder.filePath("program").toUtf8() + "\n");
   QFile::link(folder.filePath("own.desktop"), name + ".desktop");
@@ -85,7 +85,7 @@ TEST_F(SilentVolume, MayHoldAProgramThatStartsAtLogin) {
   QFile::remove(name + ".desktop");
 }
 
-TEST_F(SilentVolume, KeepsNothingFromEndingAndLeavesNoProcess) {
+TEST_F(SilentVolume, DoesNotDelayTheExitAndLeavesNoProcess) {
   const auto isAlone = [] {
     siginfo_t child{};
     return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) != 0;
