@@ -19,7 +19,7 @@ TEST(DiskEvents, ChangesByOtherProgramsAreShownInBlue) {
 
   machine.platform.pull(1);
   machine.platform.plugBack(1);
-  EXPECT_EQ(machine.status(), machine.folder("EFI") + " umounted!") << "a plug is no news";
+  EXPECT_EQ(machine.status(), machine.folder("EFI") + " umounted!") << "a plug has no message";
 }
 
 TEST(DiskEvents, AForcedUnmountThatMayLoseDataNotifiesTheUser) {

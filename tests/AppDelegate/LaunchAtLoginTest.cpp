@@ -48,7 +48,7 @@ TEST_F(LaunchAtLogin, KeepsItemsOfOthersAndRemovesOneDuplicateAtATime) {
   items.insert("/opt/moved/keldra");
   for (int time = 0; time < 2; ++time) items.insert(items.ownLocation());
   set(CheckBox::kOff);
-  EXPECT_TRUE(machine.delegate.isLaunchAtStartup()) << "the second one of ours";
+  EXPECT_TRUE(machine.delegate.isLaunchAtStartup()) << "the second own item";
   set(CheckBox::kOff);
   EXPECT_FALSE(machine.delegate.isLaunchAtStartup());
   EXPECT_EQ(count(), 2);

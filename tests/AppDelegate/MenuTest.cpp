@@ -26,5 +26,5 @@ TEST(Menu, ActsLikeTheRowsAndNotifiesWhileThePopoverIsClosed) {
   machine.delegate.showPopover();
   choose("mount disk1s1");
   EXPECT_EQ(machine.mountButton(1)->title(), "umount disk1s1");
-  EXPECT_EQ(machine.desktop.notifications.size(), 2) << "seen there";
+  EXPECT_EQ(machine.desktop.notifications.size(), 2) << "no notification while the popover is open";
 }

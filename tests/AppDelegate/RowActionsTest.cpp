@@ -127,9 +127,9 @@ TEST(RefusedRowAction, NamesTheProcessesThatUseABusyVolume) {
   machine.interface.popover()->close();
   button->click();
   machine.settle();
-  ASSERT_EQ(machine.desktop.notifications.size(), 1) << "not of what was seen";
+  ASSERT_EQ(machine.desktop.notifications.size(), 1) << "no notification while the popover is open";
   EXPECT_TRUE(machine.desktop.notifications[0].startsWith(refusal + "\nIn use by a (1)"));
   machine.platform.rename("disk0s1", "Other");
   machine.status();
-  EXPECT_FALSE(toolTipOf(statusLine).contains("In use")) << "it belongs to the refusal";
+  EXPECT_FALSE(toolTipOf(statusLine).contains("In use")) << "an outdated detail";
 }

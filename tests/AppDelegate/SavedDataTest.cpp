@@ -42,7 +42,7 @@ TEST_F(SavedDataTest, IsCreatedOnFirstUseAndReadAfterARestart) {
   EXPECT_EQ(next.managedObjectContext()->objects(), context()->objects());
   change();
   EXPECT_EQ(shouldTerminate(), TerminateReply::Now);
-  EXPECT_FALSE(context()->hasChanges()) << "it saves";
+  EXPECT_FALSE(context()->hasChanges()) << "the changes should be saved";
 }
 
 TEST_F(SavedDataTest, AFailedSetUpIsReportedAndTriedAgain) {
@@ -85,7 +85,7 @@ TEST_F(SavedDataTest, AnEditorThatRefusesPreventsQuitting) {
   testing::internal::CaptureStderr();
   EXPECT_EQ(shouldTerminate(), TerminateReply::Cancel);
   machine.delegate.saveAction();
-  EXPECT_TRUE(QFile::exists(store)) << "it goes on and saves";
+  EXPECT_TRUE(QFile::exists(store)) << "saveAction saves all the same";
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "AppDelegate:applicationShouldTerminate: unable to commit editing to terminate\n"
             "AppDelegate:saveAction: unable to commit editing before saving\n");
@@ -117,8 +117,8 @@ TEST_F(SavedDataTest, QuittingDuringALongRowActionAsksAboutUnsavedData) {
                      [&] { QTest::mouseClick(machine.interface.quitButton(), Qt::LeftButton); });
   machine.click(machine.mountButton(0));
   machine.settle();
-  EXPECT_EQ(dialogs.texts.size(), 2) << "once";
-  EXPECT_EQ(ends, QList<qsizetype>{2}) << "after it was asked";
+  EXPECT_EQ(dialogs.texts.size(), 2) << "one error dialog and one alert";
+  EXPECT_EQ(ends, QList<qsizetype>{2}) << "exits after the alert";
 }
 
 TEST_F(SavedDataTest, TheSessionEndsOnlyAfterASuccessfulSaveOrAnswer) {

@@ -33,7 +33,7 @@ TEST_F(ShowPopoverTest, OpensAtTheItemWithAnEmptyStatusLine) {
   emit machine.desktop.reopened();
   machine.settle();
   EXPECT_EQ(machine.interface.statusTextField()->stringValue(), QString());
-  EXPECT_EQ(popover().placement().arrowEdge, std::nullopt) << "nobody knows where the item is";
+  EXPECT_EQ(popover().placement().arrowEdge, std::nullopt) << "the item's place is unknown";
   popover().close();
   machine.desktop.item->shownAt = QRect(400, 0, 24, 24);
   emit machine.desktop.reopened();
@@ -72,10 +72,10 @@ TEST(ProgramWithoutATray, ShowsANoticeOnceUnlessTheSessionHasStartedIt) {
     const auto isShown = [&] { return interface.popover()->isShown(); };
     EXPECT_EQ(QTest::qWaitFor(isShown, 2000), !startedAtLogin);
     EXPECT_EQ(interface.trayNotice()->text(), startedAtLogin ? "" : "Get a tray.");
-    EXPECT_EQ(interface.tableView()->visibleCells().empty(), startedAtLogin) << "nobody looks";
+    EXPECT_EQ(interface.tableView()->visibleCells().empty(), startedAtLogin) << "not at login";
     interface.popover()->close();
     delegate.showPopover();
-    EXPECT_FALSE(interface.trayNotice()->isVisible()) << "it has been said";
+    EXPECT_FALSE(interface.trayNotice()->isVisible()) << "the notice is shown once";
   }
 }
 

@@ -61,7 +61,7 @@ TEST_F(Finders, ReadThePartitionOrItsWholeDisk) {
   EXPECT_FALSE(DA::isWritable("disk2s1"));
   EXPECT_EQ(DA::findVolumeUUID("disk1s2"), "AAAAAAAA-BBBB-4CCC-8DDD-EEEEEEEEEEEE");
   EXPECT_EQ(DA::findDiskUUID("disk1s2"), "11111111-2222-3333-4444-5555555555AA");
-  EXPECT_EQ(DA::findVolumeUUID("disk2s1"), "disk(null)") << "a FAT serial number is none";
+  EXPECT_EQ(DA::findVolumeUUID("disk2s1"), "disk(null)") << "a FAT serial number is not a UUID";
   EXPECT_EQ(DA::findMountPointName("disk1s2"), "Data");
   EXPECT_EQ(DA::findMountPointName("disk1s1"), "N/A") << "while it is not mounted";
   EXPECT_EQ(DA::findMountPoint("disk1s1"), std::nullopt);

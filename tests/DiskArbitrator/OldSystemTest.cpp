@@ -53,8 +53,8 @@ TEST_F(OldSystem, MountsAnESPOnTheFirstFreeFolder) {
   makeFolder("EFI 2/.hidden");
   EXPECT_TRUE(DA::mountPartition("disk1s1", QString("(null)")));
   EXPECT_EQ(mountedAt("disk1s1"), machine.folder("EFI 2"));
-  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("none/deep"))) << "only one is made";
-  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("Data//"))) << "it is in use";
+  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("none/deep"))) << "one level only";
+  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("Data//"))) << "the folder is in use";
   EXPECT_TRUE(DA::mountPartitionModeLegacy("disk1s2", machine.folder("Data")));
   EXPECT_TRUE(DA::mountPartition("disk0s1", machine.folder("%1 %2")));
   EXPECT_EQ(mountedAt("disk0s1"), machine.folder("%1 %2"));
@@ -68,13 +68,13 @@ TEST_F(OldSystem, TreatsEveryESPAsMountedAndOtherPartitionsByTheService) {
 
   machine.platform.setRefusals("disk1s2", std::nullopt, kDAReturnBusy);
   EXPECT_TRUE(DA::umountPartition("disk1s2", false));
-  EXPECT_EQ(DA::findMountPoint("disk1s2"), machine.folder("Data")) << "not by force";
+  EXPECT_EQ(DA::findMountPoint("disk1s2"), machine.folder("Data")) << "not forced";
 }
 
 TEST_F(OldSystem, AcceptsAFolderWithHiddenEntriesOnly) {
   const QString folder = machine.folder("chosen");
   const auto isEmpty = [&] { return DA::chosenFolderIsEmpty(folder); };
-  EXPECT_FALSE(isEmpty()) << "it is not there";
+  EXPECT_FALSE(isEmpty()) << "the folder does not exist";
   makeFolder("chosen/.DS_Store");
   EXPECT_TRUE(isEmpty());
   QDir(folder).rmdir(".DS_Store");

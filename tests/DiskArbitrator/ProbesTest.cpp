@@ -34,7 +34,7 @@ TEST(FileSystemPersonality, GivesTheWidthOfAMountedFATAndTheKindOfOthers) {
   }
   const TestPlatform old(probedMachine(R"("productVersion": "10.8",)"));
   EXPECT_EQ(DA::findFileSystemPersonality("/dev/disk0s1"), "Fat32");
-  EXPECT_EQ(DA::findMountPointLegacy("disk0s1"), "N/A") << "it is not looked into";
+  EXPECT_EQ(DA::findMountPointLegacy("disk0s1"), "N/A") << "the partition must not be mounted";
 }
 
 TEST(SectorSize, IsThePhysicalSizeOfTheWholeDiskIfKnown) {

@@ -25,7 +25,7 @@ TEST(Paths, KeepBytesThatAreNotUtf8) {
     EXPECT_EQ(pathOfUrl(urlOfPath(path)), path) << bytes.toPercentEncoding().constData();
   }
   EXPECT_EQ(urlOfPath(pathFromBytes("/a b\xff")).toEncoded(), "file:///a%20b%FF");
-  EXPECT_FALSE(isHarmless(pathFromBytes("\xff").front().unicode())) << "it is not painted";
+  EXPECT_FALSE(isHarmless(pathFromBytes("\xff").front().unicode())) << "not UTF-8";
 }
 
 TEST(MainQueue, RunsJobsInOrderAfterTheirCallerAndNeverWhileHeld) {

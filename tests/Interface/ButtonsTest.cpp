@@ -43,7 +43,7 @@ TEST_F(ButtonsTest, EachClickOrKeyActsOnce) {
   QTest::mouseClick(button, Qt::LeftButton);
   QTest::mouseDClick(button, Qt::LeftButton);
   QTest::mouseRelease(button, Qt::LeftButton);
-  EXPECT_EQ(clicks, 1) << "the second press of a double click is none";
+  EXPECT_EQ(clicks, 1) << "the second press of a double click is not a click";
   QTest::mouseClick(button, Qt::LeftButton);
   button->setFocus();
   for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
@@ -72,7 +72,7 @@ TEST_F(ButtonsTest, CheckBoxEmitsActedOnlyForTheUser) {
   EXPECT_EQ(box->state(), -1);
   EXPECT_EQ(acted.size(), 0);
   QTest::mouseClick(box, Qt::LeftButton);
-  EXPECT_EQ(box->state(), 1) << "mixed is left for on, and only the program goes back to it";
+  EXPECT_EQ(box->state(), 1) << "a click changes mixed to on";
   QTest::keyClick(box, Qt::Key_Space);
   EXPECT_EQ(box->state(), 0);
   doAction(box, QAccessibleActionInterface::toggleAction());

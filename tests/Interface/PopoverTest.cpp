@@ -26,7 +26,7 @@ QString at(const QRect &item, const QRect &available, bool endsAtRight = true) {
 
 TEST(PopoverPlacementTest, IsAtTheItemAndWithinTheScreen) {
   const QRect screen(0, 26, 1280, 742);  // a panel along the top
-  EXPECT_EQ(at({600, 1, 24, 24}, screen), "376,35 ^611") << "all below the bar";
+  EXPECT_EQ(at({600, 1, 24, 24}, screen), "376,35 ^611") << "below the bar";
   EXPECT_EQ(at({1256, 1, 24, 24}, screen), "804,35 ^1267");
   EXPECT_EQ(at({-1280, 301, 4, 24}, screen.translated(-1280, 300)), "-1274,335 ^-1268");
   EXPECT_EQ(at({600, 775, 24, 24}, screen.translated(0, -26)), "376,333 v611");
@@ -92,11 +92,11 @@ TEST_F(PopoverTest, RepaintsItsFrameForAnotherShapeOrPalette) {
   const auto picture = [this] { return popover.grab().toImage(); };
   const QImage before = picture();
   showAt(20);
-  EXPECT_NE(picture(), before) << "the arrow is elsewhere";
+  EXPECT_NE(picture(), before) << "the arrow should have moved";
   showAt(400);
   EXPECT_EQ(picture(), before);
   popover.setPalette(QPalette(Qt::black));
-  EXPECT_NE(picture(), before) << "dark";
+  EXPECT_NE(picture(), before) << "the dark palette";
 }
 
 struct HandClock : Clock {
@@ -123,7 +123,7 @@ TEST(StatusItemTest, AClickOpensOrClosesAndADoubleClickCountsOnce) {
   EXPECT_EQ(clickAfter(doubleClick - 1ms), "") << "the rest of a double click";
   EXPECT_EQ(clickAfter(1ms), "close");
   item.setOpen(false);
-  EXPECT_EQ(clickAfter(249ms), "") << "the click that has closed it";
+  EXPECT_EQ(clickAfter(249ms), "") << "the click that has closed the popover";
   EXPECT_EQ(clickAfter(1ms), "open");
 }
 

@@ -70,7 +70,7 @@ TEST_F(TableViewTest, ReloadKeepsScrollPositionCellsAndSelection) {
   machine.settle();
   EXPECT_EQ(table->selectedRow(), -1);
   EXPECT_EQ(machine.delegate.lastSelectedRow(), 48);
-  for (const int index : {-1, 0, 7}) EXPECT_EQ(list->child(index), nullptr) << "it was there";
+  for (const int index : {-1, 0, 7}) EXPECT_EQ(list->child(index), nullptr) << "an outdated index";
 }
 
 TEST_F(TableViewTest, APressIsCancelledWhenTheCellShowsAnotherPartition) {

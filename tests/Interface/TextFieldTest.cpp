@@ -80,7 +80,7 @@ TEST(StatusLineTest, IsALabelAndAnnouncesItsTextWhileVisible) {
   EXPECT_FALSE(announcement->state().invisible);
   interface.popover()->close();
   interface.popover()->show();
-  EXPECT_TRUE(announcement->state().invisible) << "it has been said";
+  EXPECT_TRUE(announcement->state().invisible) << "an old message must not be read again";
 }
 
 void expectReadable(const QColor &one, const QColor &other, qreal ratio = 4.5) {

@@ -89,7 +89,7 @@ TEST_F(Query, EveryOperationAnswersAnyArgumentWithEscapedOutput) {
       EXPECT_TRUE(QJsonDocument::fromJson(line.toUtf8()).object().contains("answer"));
     }
   }
-  EXPECT_EQ(json({"findPartitionName", "disk0s1"})["answer"], hostile) << "nothing is lost";
+  EXPECT_EQ(json({"findPartitionName", "disk0s1"})["answer"], hostile) << "a changed name";
 }
 
 TEST_F(Query, RefusesInvalidCommandLines) {

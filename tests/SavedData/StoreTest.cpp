@@ -33,11 +33,11 @@ TEST_F(StoreTest, ChangesAreUndoneRedoneAndSaved) {
   EXPECT_FALSE(context.save().has_value());
   EXPECT_EQ(stored().value(*id).values.value("note"), text);
   context.setValue(*id, "note", "\x1b[2J");
-  EXPECT_TRUE(context.save().has_value()) << "it could not be read back";
+  EXPECT_TRUE(context.save().has_value()) << "the text could not be read back";
   context.undoManager().undo();
   EXPECT_TRUE(context.deleteObject(*id));
   context.undoManager().undo();
-  EXPECT_FALSE(context.hasChanges()) << "it is as it was saved";
+  EXPECT_FALSE(context.hasChanges()) << "undone to the saved state";
   context.undoManager().redo();
   EXPECT_FALSE(context.save().has_value());
   EXPECT_TRUE(stored().isEmpty());

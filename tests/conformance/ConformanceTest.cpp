@@ -190,7 +190,7 @@ TEST_F(Conformance, APulledDiskIsGone) {
   EXPECT_FALSE(machine->platform().mediaRegistry().mediaNames().contains(esp));
   EXPECT_EQ(service().descriptionOfVolume(path), std::nullopt);
   EXPECT_EQ(mount(esp), kDAReturnNotFound);
-  EXPECT_EQ(news, QStringList{}) << "told once";
+  EXPECT_EQ(news, QStringList{}) << "the unmount should be announced once";
 }
 
 TEST_F(Conformance, AWaitEndsWithItsOwnFlagOnly) {

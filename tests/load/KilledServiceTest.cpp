@@ -82,5 +82,5 @@ TEST_F(KilledService, AnswersEachRequestOnceAndTheListMatchesTheKernel) {
         << "KELDRA_LOAD_SEED=" << seed << ", round " << &count - answers.data() << ": "
         << kernelMountPoint(clicked).toStdString() << ' ' << kernelMountPoint(asked).toStdString();
   }
-  EXPECT_EQ(std::count(answers.begin(), answers.end(), 1), rounds) << "each is answered once";
+  EXPECT_EQ(std::count(answers.begin(), answers.end(), 1), rounds) << "one answer for each";
 }

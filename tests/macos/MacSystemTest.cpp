@@ -23,7 +23,7 @@ TEST_F(MacSystem, LoginItemsAreIdentifiedByTheirLocation) {
   EXPECT_EQ(snapshot.at(3).location, items.ownLocation());
   items.remove(snapshot.at(0));
   items.remove(snapshot.at(3));
-  EXPECT_EQ(mac.loginItems, others) << "one of two, and none that is unknown";
+  EXPECT_EQ(mac.loginItems, others) << "removes one of two own items, and no unknown one";
 }
 
 TEST_F(MacSystem, APartitionShowsThePictureOfItsDriver) {

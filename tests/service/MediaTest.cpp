@@ -53,13 +53,13 @@ TEST_F(Media, OfPartitionsAreNamedByTypeThenNameThenPurpose) {
   EXPECT_EQ(value("disk1s10", kDADiskDescriptionMediaContentKey), "0xEF");
   EXPECT_EQ(value("disk1", kDADiskDescriptionMediaContentKey), "FDisk_partition_scheme");
   EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeKindKey), "msdos");
-  EXPECT_EQ(LinuxRawDevices(*disks).fileSystemSubtype(mountPoint), 1U) << "its width";
-  EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeUUIDKey), QVariant()) << "a serial number";
+  EXPECT_EQ(LinuxRawDevices(*disks).fileSystemSubtype(mountPoint), 1U) << "the FAT width";
+  EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeUUIDKey), QVariant()) << "not a UUID";
   EXPECT_EQ(value("disk0s1", kDADiskDescriptionMediaEjectableKey), true);
   service.change(kServiceRoot + "/drives/sda", kDriveInterface, "ConnectionBus", "sdio");
   settle();
   EXPECT_EQ(value("disk0s1", kDADiskDescriptionDeviceProtocolKey), "Secure Digital");
-  EXPECT_EQ(names().mid(3, 3), (QStringList{"disk1", "disk1s9", "disk1s10"})) << "by number";
+  EXPECT_EQ(names().mid(3, 3), (QStringList{"disk1", "disk1s9", "disk1s10"})) << "in order";
 }
 
 TEST_F(Media, OfDisksGetNameAndPictureFromDriveFileOrMapping) {

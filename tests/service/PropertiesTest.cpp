@@ -66,5 +66,5 @@ TEST_F(Properties, WithInvalidLinksHideTheirPartition) {
   service.change(esp, kPartitionInterface, "Table", link(disk));
   service.change(data, kPartitionInterface, "Number", 1U);
   settle();
-  EXPECT_EQ(names(), (QStringList{"disk0", "disk0s1", "disk1"})) << "two of one number";
+  EXPECT_EQ(names(), (QStringList{"disk0", "disk0s1", "disk1"})) << "the same number";
 }

@@ -49,7 +49,7 @@ TEST(RefusalOfTheService, IsMappedToTheStatusOfItsError) {
 TEST_F(RequestsOfTheService, HaveNoTimeoutWhileAPasswordIsTyped) {
   const Answers forced = unmount("disk0s2", DiskService::UnmountOption::Force);
   const Answers mounted = mount("disk0s1");
-  ASSERT_TRUE(waitFor([&] { return service.calls.size() == 2; })) << "the flush takes its time";
+  ASSERT_TRUE(waitFor([&] { return service.calls.size() == 2; })) << "the flush takes too long";
   for (const QDBusMessage &call : service.calls) {
     EXPECT_TRUE(call.isInteractiveAuthorizationAllowed()) << call.member().toStdString();
   }
@@ -87,7 +87,7 @@ TEST_F(RequestsOfTheService, ForAVanishedDiskFailEvenIfTheDiskComesBack) {
   const InterfaceMap interfaces = service.tree[esp];
   service.remove(esp, {kFilesystemInterface});
   settle();
-  EXPECT_EQ(*mounted, Statuses{}) << "it is looked at anew";
+  EXPECT_EQ(*mounted, Statuses{}) << "the mount should still be pending";
   service.add(esp, interfaces);
   const Answers unmountedEsp = unmount("disk0s1");
   const Answers unmounted = unmount("disk0s2");
@@ -97,8 +97,8 @@ TEST_F(RequestsOfTheService, ForAVanishedDiskFailEvenIfTheDiskComesBack) {
   service.remove(data);
   settle();
   EXPECT_EQ(*mounted, Statuses{kDAReturnNotFound});
-  EXPECT_EQ(*unmountedEsp, Statuses{kDAReturnSuccess}) << "it is mounted no more";
-  EXPECT_EQ(*unmounted, Statuses{kDAReturnNotFound}) << "the kernel has it mounted";
+  EXPECT_EQ(*unmountedEsp, Statuses{kDAReturnSuccess}) << "the ESP is not mounted";
+  EXPECT_EQ(*unmounted, Statuses{kDAReturnNotFound}) << "the kernel still has the volume mounted";
   EXPECT_TRUE(waitFor([&] { return events.contains("changed"); }));
   EXPECT_EQ(events.count("-" + mountPoint), 1);
   while (!service.calls.isEmpty()) service.answer(service.calls.takeFirst());

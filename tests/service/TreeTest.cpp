@@ -39,7 +39,7 @@ TEST_F(Tree, MayArriveAfterSignalsOfItsChanges) {
   EXPECT_EQ(disks->presence(), Presence::Answering);
   EXPECT_EQ(names(), (QStringList{"disk0", "disk0s2", "disk0s3", "disk0s5"}));
   EXPECT_TRUE(waitFor([&] { return events.contains("changed"); }));
-  EXPECT_EQ(events.count("changed"), events.size()) << "what was mounted is no news";
+  EXPECT_EQ(events.count("changed"), events.size()) << "old mounts are not announced";
 }
 
 TEST_F(Tree, ThatIsRefusedLateOrInvalidIsIgnored) {
@@ -61,7 +61,7 @@ TEST_F(Tree, ThatIsRefusedLateOrInvalidIsIgnored) {
     EXPECT_EQ(disks->presence(), Presence::Absent);
     service.add(disk, service.tree[disk]);
     settle();
-    EXPECT_EQ(names(), QStringList{}) << "half a tree";
+    EXPECT_EQ(names(), QStringList{}) << "a partial tree";
     service.die();
   }
   service.holdsTree = false;
@@ -76,7 +76,7 @@ TEST_F(Tree, ManyChangesAreReportedTogether) {
   }
   service.change(data, kBlockInterface, "IdLabel", "new");
   EXPECT_TRUE(waitFor([&] { return events.contains("~" + mountPoint); }));
-  EXPECT_LT(events.size(), 30) << "told of in waves";
+  EXPECT_LT(events.size(), 30) << "changes are announced together";
 }
 
 TEST_F(Tree, IsFetchedAgainAfterEachRestartOfTheService) {

@@ -40,7 +40,7 @@ class OwnFilesTest : public testing::Test {
     settings.synchronize();
     XdgLoginItems(path({}), "/bin/true").insertOwnItem();
     UnitNumbers units(BlockDevices(root.path()), UnitFile(path("units"), "boot"));
-    EXPECT_EQ(units.unitsOf({{"sda", 8}}), QList{0}) << "shared or not";
+    EXPECT_EQ(units.unitsOf({{"sda", 8}}), QList{0}) << "the number must not depend on the file";
     return testing::internal::GetCapturedStderr();
   }
 
@@ -66,7 +66,7 @@ TEST_F(OwnFilesTest, AreNotChangedWhenTheDiskIsFull) {
   setrlimit(RLIMIT_FSIZE, &limit);
   signal(SIGXFSZ, former);
   EXPECT_TRUE(isRemoved);
-  EXPECT_EQ(names(), QStringList({"settings.ini", "units"})) << "no empty entry, nothing beside";
+  EXPECT_EQ(names(), QStringList({"settings.ini", "units"})) << "no empty or temporary file";
   EXPECT_EQ(content("settings.ini"), files[0].second);
   EXPECT_EQ(content("units"), files[2].second);
 }

@@ -56,11 +56,11 @@ TEST_F(SilentVolume, BlocksTheProgramOnceAndItsLateAnswerServesTheNextRefresh) {
   // The next turn of the event loop has its own 100 ms.
   ASSERT_TRUE(QTest::qWaitFor([&] { return volume.questions() > 0; }));
   const int asked = volume.questions();
-  EXPECT_LT(timeOf([&] { EXPECT_EQ(files.look(file).access, Unknown); }), 50) << "known by now";
+  EXPECT_LT(timeOf([&] { EXPECT_EQ(files.look(file).access, Unknown); }), 50) << "no second wait";
   EXPECT_TRUE(QTest::qWaitFor([&] {
     return files.image(other.filePath(".VolumeIcon.icns")).has_value();
-  })) << "another volume's";
-  EXPECT_EQ(volume.questions(), asked) << "one process waits there, and no other";
+  })) << "another volume's icon";
+  EXPECT_EQ(volume.questions(), asked) << "only one process may wait for the volume";
 
   LookAtPath late;
   workspace.addObserver(&observer, kNSWorkspaceDidMountNotification, [&](const Notification &) {
@@ -70,7 +70,7 @@ TEST_F(SilentVolume, BlocksTheProgramOnceAndItsLateAnswerServesTheNextRefresh) {
   events.clear();
   volume.fail();
   ASSERT_TRUE(QTest::qWaitFor([&] { return events.contains("changed"); }));
-  EXPECT_EQ(late.access, Closed) << "it answers again";
+  EXPECT_EQ(late.access, Closed) << "the volume answers again";
   QTest::qWait(50);
   EXPECT_EQ(events.count("changed"), 1) << "the late answer was kept";
 }
@@ -96,7 +96,7 @@ TEST_F(SilentVolume, DoesNotDelayTheExitAndLeavesNoProcess) {
     LinuxVolumeFiles(ending).look(folder.path() + "/x");
     EXPECT_TRUE(QTest::qWaitFor([&] { return volume.questions() > 0; }));
   }
-  EXPECT_FALSE(isAlone()) << "not even force ends what waits in the kernel";
+  EXPECT_FALSE(isAlone()) << "SIGKILL does not end a process that waits in the kernel";
   volume.fail();
   EXPECT_TRUE(QTest::qWaitFor(isAlone));
 }

@@ -49,7 +49,7 @@ TEST_F(UnitNumbersTest, PutDrivesFirstAndReadersLastInAnyOrderOfAnnouncements) {
 }
 
 TEST_F(UnitNumbersTest, AreWrittenByRootToFilesOwnedByTheUser) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root acts for others";
+  if (geteuid() != 0) GTEST_SKIP() << "needs root";
   const auto sda = attach("sda", 1, 1);
   const QString folder = QFileInfo(QFileInfo(file()).path()).path();
   ASSERT_EQ(chown(qPrintable(folder), 65534, 65534), 0);
@@ -65,7 +65,7 @@ TEST_F(UnitNumbersTest, AreSharedByProgramsAndNeverReused) {
   EXPECT_EQ(first.unitsOf({sda, loop}), (QList{0, 1}));
   const auto reused = attach("loop0", 2, 3);
   auto second = program();
-  EXPECT_EQ(second.unitsOf({reused}), QList{2}) << "another file behind it is another disk";
+  EXPECT_EQ(second.unitsOf({reused}), QList{2}) << "another file is another disk";
   const auto sdb = attach("sdb", 3, 4);
   EXPECT_EQ(first.unitsOf({sdb, reused, sda}), (QList{3, 2, 0}));
   EXPECT_EQ(second.unitsOf({sdb}), QList{3});
@@ -82,7 +82,7 @@ TEST_F(UnitNumbersTest, OfRemovedDisksAreDroppedWhenThereAreTooMany) {
   EXPECT_EQ(program().unitsOf({sda, other}), (QList{1, 6000}));
   EXPECT_LT(QFileInfo(file()).size(), 200);
   EXPECT_EQ(program().unitsOf({sda, other}), (QList{1, 6000}));
-  EXPECT_EQ(program().unitsOf({{"sdy", makedev(8, 176)}}), QList{6001}) << "never used twice";
+  EXPECT_EQ(program().unitsOf({{"sdy", makedev(8, 176)}}), QList{6001}) << "a number was reused";
 }
 
 TEST_F(UnitNumbersTest, RestartAfterARebootOrWithACorruptFile) {

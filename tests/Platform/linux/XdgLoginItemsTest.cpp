@@ -91,7 +91,7 @@ TEST_F(XdgLoginItemsTest, ThatAreSwitchedOffAreKeptAndSwitchedOnAgainInPlace) {
     EXPECT_FALSE(QFile::exists(folder + "/mine.desktop.new"));
     anew.remove(anew.snapshot()->first());
     EXPECT_EQ(entry("mine.desktop"), "[Desktop Entry]\n" + key + rest);
-    EXPECT_EQ(all(anew)["mine.desktop"], std::nullopt) << "it may be switched on";
+    EXPECT_EQ(all(anew)["mine.desktop"], std::nullopt) << "the item still counts as own";
     anew.insertOwnItem();
     EXPECT_EQ(entry("mine.desktop"), "[Desktop Entry]\n" + rest);
     EXPECT_EQ(all(anew).size(), 1);
