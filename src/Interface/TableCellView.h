@@ -20,7 +20,7 @@ class TableCellView : public QWidget {
   ImageView *imageView() const { return _imageView; }
 
   /// Whether the cell may be reused for another row. A cell that may not is destroyed when its row
-  /// is gone.
+  /// leaves the view.
   virtual bool isReusable() const { return true; }
 
   /// Whether one of the controls is in the middle of its own action, which may be waiting in an
