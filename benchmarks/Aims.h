@@ -3,5 +3,5 @@
 class QTextStream;
 class Report;
 
-/// One line for each aim that Keldra is held to: met or missed, and by what figure.
+/// One line for each performance aim: met or missed, and the measured figure.
 void printAims(QTextStream &out, const Report &report);

@@ -1,13 +1,13 @@
 #pragma once
 
-// Other programs, run to their end. All of this blocks without serving the event loop, and throws
-// std::runtime_error with what the program said when it fails.
+// Runs other programs until they exit. Blocks without serving the event loop. When a program fails,
+// throws std::runtime_error with its error output.
 
 #include <QStringList>
 
-/// Gives what the program wrote on its standard output.
+/// Returns the standard output.
 QByteArray outputOf(const QString &program, const QStringList &arguments,
                     const QByteArray &input = {});
 
-/// How long the program ran, in milliseconds. Nobody reads its output, so that it waits for nobody.
+/// How long the program ran, in milliseconds. The output is discarded, so it cannot block.
 double millisecondsOf(const QString &program, const QStringList &arguments);

@@ -33,7 +33,7 @@ LoopDisks::~LoopDisks() {
     try {
       outputOf(u"loop-disk"_s, {u"remove"_s, disk});
     } catch (const std::exception &problem) {
-      // The laboratory takes away what is left.
+      // The laboratory removes the remaining disks.
       QTextStream(stderr) << problem.what() << '\n';
     }
   }

@@ -1,8 +1,8 @@
 #pragma once
 
-// Eight disks in a disk laboratory, with so many partitions among them. The first partition of each
-// is an ESP, and those of the first two disks have an ext4 file system. They are taken away in the end.
-// Making and removing them blocks, and throws std::runtime_error when it fails.
+// Eight disks in a disk laboratory, with `partitions` partitions in total. The first partition of
+// each disk is an ESP; those on the first two disks have an ext4 file system. The destructor removes
+// the disks. Making and removing them blocks; making them throws std::runtime_error on failure.
 
 #include <QStringList>
 

@@ -32,7 +32,7 @@ void waitForRow(const PaintedTitle &title) {
   waitUntil([&] { return title.when().has_value(); }, u"a changed row"_s);
 }
 
-/// From the press to the row that shows what came of it. `verb` is what the button then offers.
+/// The time from the press until the row shows the result. `verb` begins the button's new title.
 double clickTime(Program &program, const QString &name, const QString &verb) {
   const PaintedTitle title(verb + u' ' + name);
   const Instant start = now();

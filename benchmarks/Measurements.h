@@ -1,6 +1,6 @@
 #pragma once
 
-// What is measured. All times are in milliseconds.
+// The measurements. All times are in milliseconds.
 
 #include <QString>
 
@@ -20,12 +20,12 @@ inline const QString kGap = QStringLiteral("longest gap between events served");
 inline const QString kGapBesideSilence = QStringLiteral("the same, another volume not answering");
 inline const QString kAfterRefusal = QStringLiteral("processor in 5 s after a refusal, %");
 
-/// How often each is measured. Ours and the peers' runs take turns.
+/// The number of runs of each measurement. Keldra's runs alternate with those of its peers.
 constexpr int kRuns = 15;
 
-// Each adds its times to the report, for so many partitions. They throw std::runtime_error when
-// something does not happen. The device is an unmounted partition with a file system; the program
-// shows all partitions afterwards.
+// Each adds its times to the report, for this number of partitions, and throws std::runtime_error
+// when an expected event does not come. The device is an unmounted partition with a file system; the
+// program shows all partitions afterwards.
 
 void measureRefresh(Program &program, int partitions, Report &report);
 void measureClicks(Program &program, const QString &device, int partitions, Report &report);

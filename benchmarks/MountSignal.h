@@ -1,7 +1,7 @@
 #pragma once
 
-// When the disk service's own word of a mount or unmount of one partition reached a program that
-// does nothing but listen: it is heard on a thread of its own.
+// When the disk service's signal of a mount or unmount of one partition reached this process. A
+// separate thread listens, so that other work does not delay the signal.
 
 #include <QObject>
 #include <QThread>
@@ -25,14 +25,14 @@ class MountSignalListener : public QObject {
 
 class MountSignal {
  public:
-  /// Listens for "/dev/loop0p1". Throws std::runtime_error when there is no bus.
+  /// Listens for a device such as "/dev/loop0p1". Throws std::runtime_error when there is no bus.
   explicit MountSignal(const QString &device);
   ~MountSignal();
   MountSignal(const MountSignal &) = delete;
   MountSignal &operator=(const MountSignal &) = delete;
 
   void forget() { _heard.reset(); }
-  /// The first one since `forget`. Becomes known from the event loop.
+  /// The first signal since `forget`. Set from the event loop.
   std::optional<Instant> heard() const { return _heard; }
 
  private:

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 void waitUntil(const std::function<bool()> &condition, const QString &what) {
   const QDeadlineTimer deadline(60s);
-  // Not everything that a condition looks at wakes the event loop.
+  // Some conditions change without an event that wakes the event loop.
   QTimer tick;
   tick.start(5ms);
   while (!condition()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The real program, widgets and all, with its popover open.
+// The whole program, with real widgets and an open popover.
 
 #include <QObject>
 #include <functional>
@@ -11,11 +11,11 @@
 #include "Platform/simulated/SimulatedDesktop.h"
 #include "Time.h"
 
-/// Serves the event loop until the condition holds. Throws std::runtime_error, with `what` was
-/// waited for, if it takes too long.
+/// Serves the event loop until the condition holds. Throws std::runtime_error with the text `what`
+/// if that takes too long.
 void waitUntil(const std::function<bool()> &condition, const QString &what);
 
-/// When a row's button was first painted with this title since this was made.
+/// When a row's button was first painted with this title since this object was made.
 class PaintedTitle : public QObject {
  public:
   explicit PaintedTitle(const QString &title);
@@ -29,7 +29,7 @@ class PaintedTitle : public QObject {
 
 class Program {
  public:
-  /// The platform must be the current one.
+  /// `platform` must be `Platform::current()`.
   explicit Program(Platform &platform);
 
   void setShowsAll(bool showsAll);
@@ -38,7 +38,7 @@ class Program {
   /// The BSD name of a device ("/dev/loop0p1") that has a row.
   QString nameOf(const QString &device) const;
   void scrollTo(const QString &name);
-  /// On the row's mount button. Returns when what it does is over.
+  /// Clicks the row's mount button. Returns when the action is over.
   void click(const QString &name);
 
  private:

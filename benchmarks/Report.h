@@ -1,6 +1,6 @@
 #pragma once
 
-// What was measured: for each measure, at each number of partitions, the times of all runs.
+// The results: the times of all runs for each measure and number of partitions.
 
 #include <QHash>
 #include <QString>
@@ -12,7 +12,7 @@ class Report {
  public:
   void add(const QString &measure, int partitions, double milliseconds);
 
-  /// The median of what was added. There must be something.
+  /// The median of the added times. There must be at least one.
   double median(const QString &measure, int partitions) const;
 
   // Lines of a table, with a column for each number of partitions.

@@ -1,4 +1,4 @@
-// The smallest Qt program with an item in the tray: what no program of this kind can do without.
+// The smallest Qt program with an item in the tray: the least that a program of this kind needs.
 
 #include <QApplication>
 #include <QIcon>

@@ -1,7 +1,7 @@
 #pragma once
 
-// How long a program takes until its item is registered with the tray, and what memory it has then.
-// The tray is one of our own, on the session bus.
+// How long a program takes until its item is registered with the tray, and its memory at that time.
+// This process is the tray, on the session bus.
 
 #include <QObject>
 #include <QProcess>
@@ -16,7 +16,7 @@ inline const QString kSmallestStartUp = QStringLiteral("smallest Qt program's");
 inline const QString kResident = QStringLiteral("resident memory then, MB");
 inline const QString kSmallestResident = QStringLiteral("smallest Qt program's, MB");
 
-/// Where items register, as a panel has it.
+/// The service where items register, as in a panel.
 class Tray : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
@@ -44,7 +44,7 @@ class Tray : public QObject {
   std::optional<Instant> _registered;
 };
 
-/// A program of this build on the X server, with its item in the tray; is ended with this object.
+/// A program of this build on the X server, with its item in the tray. The destructor ends the process.
 class TrayProgram {
  public:
   /// Returns once the item is registered. Throws std::runtime_error if that takes too long.
@@ -61,6 +61,6 @@ class TrayProgram {
   double _millisecondsToItem = 0;
 };
 
-/// Adds the times and the memory of the program and of the smallest one, in turns, for so many
-/// partitions. Needs an X server.
+/// Adds the times and the memory of the program and of the smallest one, alternating, for this number
+/// of partitions. Needs an X server.
 void measureStartUp(int partitions, Report &report);

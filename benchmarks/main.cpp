@@ -92,7 +92,7 @@ int main(int argc, char **argv) {
     errors << "This needs a disk laboratory: start it with ./bench.\n";
     return 2;
   }
-  // Nothing of the user's is read or written.
+  // The user's own files are neither read nor written.
   const QTemporaryDir home;
   for (const char *variable :
        {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {

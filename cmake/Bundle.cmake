@@ -1,14 +1,14 @@
-# Keldra.app, in the folder of the other programs.
+# Keldra.app, in the same folder as the other programs.
 set(KELDRA_BUNDLE_ICON ${PROJECT_SOURCE_DIR}/packaging/macos/Keldra.icns)
 target_sources(keldra PRIVATE ${KELDRA_BUNDLE_ICON})
 set_source_files_properties(${KELDRA_BUNDLE_ICON} TARGET_DIRECTORY keldra
   PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
-# The system offers a person the languages that the bundle names, and speaks one of them in its own windows.
+# The system offers the user the languages that the bundle names, and uses one of them in its own windows.
 set(KELDRA_LANGUAGES "<string>en</string>")
 file(GLOB translations CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/translations/keldra_*.ts)
 foreach(translation ${translations})
   string(REGEX REPLACE ".*/keldra_(.*)\\.ts" "\\1" language ${translation})
-  # By its name on this system: Chinese goes by its script.
+  # macOS names Chinese by its script.
   string(REPLACE "_" "-" language ${language})
   string(REPLACE "zh-CN" "zh-Hans" language ${language})
   string(APPEND KELDRA_LANGUAGES "<string>${language}</string>")
@@ -18,7 +18,7 @@ set_target_properties(keldra PROPERTIES
   MACOSX_BUNDLE ON
   MACOSX_BUNDLE_INFO_PLIST ${PROJECT_SOURCE_DIR}/packaging/macos/Info.plist.in)
 
-# The bundle with all that it needs, to be handed on: cmake --build --preset release --target package
+# The bundle with all libraries, for other Macs: cmake --build --preset release --target package
 find_program(MACDEPLOYQT macdeployqt HINTS ${Qt6_DIR}/../../../bin)
 add_custom_target(package
   COMMAND ${CMAKE_COMMAND} -D BUNDLE=$<TARGET_BUNDLE_DIR:keldra> -D MACDEPLOYQT=${MACDEPLOYQT}

@@ -1,4 +1,4 @@
-# A fault in reading what disks, services and desktops say should end the program and not be of use to anybody.
+# An error in parsing data from disks, services or desktops should end the program, not let an attacker control it.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 

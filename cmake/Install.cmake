@@ -1,10 +1,10 @@
-# What a desktop looks for in its own places.
+# Files that desktops read from their standard folders.
 set(desktop ${PROJECT_SOURCE_DIR}/packaging/desktop)
 install(FILES ${desktop}/com.brinmoor.Keldra.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${desktop}/com.brinmoor.Keldra.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(DIRECTORY ${desktop}/icons DESTINATION ${CMAKE_INSTALL_DATADIR})
 
-# Manual pages are read packed, and packed alike each time.
+# Manual pages are installed compressed; -n makes the result reproducible.
 function(install_packed file name folder)
   set(packed ${CMAKE_BINARY_DIR}/packed/${name}.gz)
   file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/packed)

@@ -13,17 +13,17 @@ once. It is for people who dual-boot, repair boot loaders or build machines.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Without the disk service the list stays empty. What needs a password is refused without polkit; on Wayland Qt
-# needs a plug-in, which not every desktop does.
+# Without the disk service the list stays empty. Without polkit, actions that need a password are refused. The Qt
+# plug-in is needed on Wayland only.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "udisks2")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "polkitd, qt6-wayland")
-# The words of Qt's own menus and dialogs.
+# Translations of Qt's own menus and dialogs.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
-# Tests are no part of it, and need not be built for it.
+# Tests are not in the package and need not be built for it.
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 include(CPack)

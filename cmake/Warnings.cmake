@@ -1,4 +1,4 @@
-# One interface target with the rules that every target of ours is compiled and linked under.
+# One interface target with the compiler and linker rules for all targets of the project.
 add_library(keldra-rules INTERFACE)
 target_compile_options(keldra-rules INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Woverloaded-virtual

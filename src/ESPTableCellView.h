@@ -15,17 +15,18 @@ class ESPTableCellView : public TableCellView {
 
   /// The mount button's title ends in the partition's BSD name.
   RowButton *mountButton() const { return _mountButton; }
-  /// The cell takes the button over and destroys the one that it had.
+  /// The cell takes ownership of the button and destroys the previous one.
   void setMountButton(RowButton *button);
 
   RowButton *openButton() const { return _openButton; }
   void setOpenButton(RowButton *button);
 
-  /// The node by which this system's other tools know the partition: the row's tooltip.
+  /// The device node that this system's other tools use: the row's tooltip.
   void setDeviceNode(const QString &node);
   QString deviceNode() const { return toolTip(); }
 
-  /// False for a cell whose mount button is disabled: the button would stay dead in another row.
+  /// False for a cell whose mount button is disabled: the button would stay disabled in another
+  /// row.
   bool isReusable() const override;
   bool isActing() const override;
   /// The partition's BSD name.

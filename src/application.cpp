@@ -19,7 +19,7 @@
 
 namespace {
 
-/// The windows are dark or light as the person likes them.
+/// Windows are dark or light as the user prefers.
 void followInterfaceStyle(const Desktop &desktop) {
   const auto follow = [&desktop] {
     setDarkAppearance(isDarkInterfaceStyle(desktop.interfaceStyle()), desktop.accentColor());
@@ -45,7 +45,7 @@ void configureApplication() {
   QApplication::setApplicationName(QStringLiteral("keldra"));
   QApplication::setApplicationDisplayName(QStringLiteral("Keldra"));
   QApplication::setDesktopFileName(QStringLiteral("com.brinmoor.Keldra"));
-  // The popover is the only window, and closing it is not quitting.
+  // Closing the popover, the only window, must not quit the program.
   QApplication::setQuitOnLastWindowClosed(false);
   loadTranslations();
   installAccessibility();
@@ -61,6 +61,6 @@ int runApplication(Platform &platform, Desktop &desktop) {
   quitWithTheSystem(delegate);
   delegate.applicationDidFinishLaunching();
   const int status = QApplication::exec();
-  endSoon();  // for whatever the end of all these objects may wait for
+  endSoon();  // in case the destructors of all these objects block
   return status;
 }

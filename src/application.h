@@ -3,14 +3,14 @@
 class Desktop;
 class Platform;
 
-/// Shows the program and runs until it is quit; at once where another instance runs already, which
-/// shows itself then. The exit status is the process's.
+/// Runs the program until it quits. Returns at once where another instance runs already; that
+/// instance then shows itself. The result is the process's exit status.
 int runApplication(Platform &platform, Desktop &desktop);
 
-/// Whether the session allows what Qt and the desktop need; if not, it is said why. Called before anything
-/// else, for Qt breaks off without a word.
+/// Whether the limit on open files allows what Qt and the desktop need; if not, prints the reason. Call it
+/// before anything else, because Qt exits without a message.
 bool mayOpenEnoughFiles();
 
-/// What our QApplication is set up with, its language among it; called once, after it is made and before
-/// anything of ours is.
+/// Sets up the QApplication, its language included. Call it once, after the QApplication is made and
+/// before any other object of the program.
 void configureApplication();

@@ -1,4 +1,4 @@
-// The same program on a machine that a file describes, and a window to do things to that machine:
+// The same program on a machine that a file describes, with a window to change that machine:
 // keldra-demo [MACHINE]
 
 #include <QApplication>
@@ -30,7 +30,7 @@ int main(int argc, char **argv) {
 
   SimulatedPlatform platform(std::get<Machine>(std::move(result)), std::make_unique<SystemClock>());
   MachineWindow window(platform);
-  // Shown once the program has told the desktop what it is called.
+  // Shown once the program has registered its name with the desktop.
   QTimer::singleShot(0, &window, &QWidget::show);
   const std::unique_ptr<Desktop> desktop = makeDesktop(QStringLiteral("com.brinmoor.Keldra.Demo"));
   return runApplication(platform, *desktop);

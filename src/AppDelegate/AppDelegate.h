@@ -48,13 +48,13 @@ class AppDelegate : public QObject,
   Q_OBJECT
 
  public:
-  /// Both must outlive the delegate, and the platform be the current one.
+  /// Both must outlive the delegate, and `platform` must be `Platform::current()`.
   AppDelegate(Platform &platform, Desktop &desktop);
   ~AppDelegate() override;
 
-  // The outlets: objects of the interface, which owns them. All are connected before start-up, and the
-  // delegate does not touch them as it ends.
-  /// The rows' actions go before its last one.
+  // The outlets: objects of the interface, which owns them. All are connected before start-up. The
+  // delegate's destructor does not touch them.
+  /// The rows' actions are inserted before the menu's last action.
   QMenu *menu() const { return _menu; }
   void setMenu(QMenu *menu) { _menu = menu; }
   Popover *popover() const { return _popover; }
@@ -75,23 +75,24 @@ class AppDelegate : public QObject,
   void setWindow(QWidget *window) { _window = window; }
   InfoWindow *infoWindow() const { return _infoWindow; }
   void setInfoWindow(InfoWindow *window) { _infoWindow = window; }
-  /// What stands in the table's place while it has no rows.
+  /// What is shown in place of the table while it has no rows.
   EmptyView *emptyView() const { return _emptyView; }
   void setEmptyView(EmptyView *view) { _emptyView = view; }
   /// Says that the list is not complete, until a refresh succeeds.
   void setListNotice(Notice *notice) { _listNotice = notice; }
-  /// Says that there is no tray, and what to do, while the popover shows itself for that.
+  /// Says that there is no tray and what to do, while the popover is open for that reason.
   void setTrayNotice(Notice *notice) { _trayNotice = notice; }
 
-  // Start-up and end.
+  // Start-up and termination.
   void applicationDidFinishLaunching();
-  /// The Quit button, and whatever else asks for the program's end: it ends, from the event loop, unless
-  /// `applicationShouldTerminate` says no. While a row action is under way, that is asked when it is
-  /// over, or after five seconds if it lasts longer; while it is being asked already, not once more.
+  /// Called by the Quit button and by every other request to quit. The program quits from the event
+  /// loop, unless `applicationShouldTerminate` refuses. During a row action, that question waits until
+  /// the action is over, five seconds at most. While the question is open, a further call does not ask
+  /// it again.
   void closeApp();
-  /// Whether the user's session may end, and the program with it. `mayAsk` tells whether the person may
-  /// be shown dialogs, and is called only when there may be something to ask; without them, unsaved
-  /// changes are saved or, when that fails, keep the session.
+  /// Whether the user's session, and the program with it, may end. `mayAsk` tells whether dialogs may
+  /// be shown; it is called only when there may be something to ask. Without dialogs, unsaved changes
+  /// are saved; if that fails, the answer is false.
   bool sessionMayEnd(const std::function<bool()> &mayAsk);
 
   // The partition list.
@@ -103,7 +104,7 @@ class AppDelegate : public QObject,
   /// Index of the row that was last selected, -1 for none. A refresh leaves it as it was.
   qint64 lastSelectedRow() const { return _lastSelectedRow; }
 
-  // What the table asks.
+  // What the table asks for.
   qint64 numberOfRowsInTableView(TableView *tableView) override;
   TableCellView *tableView(TableView *tableView, const TableColumn &viewForTableColumn,
                            qint64 row) override;
@@ -116,7 +117,7 @@ class AppDelegate : public QObject,
   void showAllDisks(CheckBox *sender);
 
   // Launch at login: the check box, the user default "RunAtload" and the login item are kept in
-  // line.
+  // agreement.
   void runAtLoad(CheckBox *sender);
   /// Whether this program has a login item.
   bool isLaunchAtStartup() const;
@@ -125,7 +126,7 @@ class AppDelegate : public QObject,
   /// The first item that starts this program.
   std::optional<LoginItems::Item> itemRefInLoginItems() const;
 
-  // What the machine and `DiskArbitrator` announce.
+  // What the platform and `DiskArbitrator` announce.
   void addRefreshObserver();
   void mounted(const Notification &notification);
   void umounted(const Notification &notification);
@@ -135,34 +136,33 @@ class AppDelegate : public QObject,
 
   // The popover.
 
-  /// Opens it, or moves it to where the status item is now.
+  /// Opens the popover, or moves it to where the status item is now.
   void showPopover();
-  /// What watches for activity in other programs, which closes the popover. Null for none; it may
-  /// outlive the popover's being open.
+  /// Watches for activity in other programs, which closes the popover. Null for none. It may exist
+  /// longer than the popover is open.
   EventMonitor *popoverTransiencyMonitor() const { return _popoverTransiencyMonitor.get(); }
   void setPopoverTransiencyMonitor(std::unique_ptr<EventMonitor> monitor);
   bool popoverShouldDetach(Popover *popover) override;
   void popoverDidShow() override;
   void popoverWillClose() override;
 
-  /// Shows what the program is and what it stands on.
+  /// Shows the program's version and what the program runs on.
   void showInfo();
   /// Opens the project's page in the browser.
   void visitWebSite();
 
-  // The saved data: a store of objects that comes into being when it is first asked for, and costs
-  // nothing before. What cannot be set up is null after the person has been told why, and is tried anew
-  // the next time.
+  // The saved data: a store of objects that is built when it is first asked for. When a part cannot be
+  // built, a dialog says why, the getter returns null, and the next call tries again.
 
-  /// Made, when it is missing, as the store is set up.
+  /// The store's folder. Setting up the store creates it when it is missing.
   QString applicationDocumentsDirectory() const;
   ManagedObjectModel *managedObjectModel();
   PersistentStoreCoordinator *persistentStoreCoordinator();
   ManagedObjectContext *managedObjectContext();
-  /// Commits what is being edited and saves. Failures are shown in dialogs, so not during a row action;
-  /// nothing is lost by them.
+  /// Commits what is being edited and saves. Failures are shown in dialogs, so do not call it during a
+  /// row action. A failure loses no changes.
   void saveAction();
-  /// The context's own.
+  /// The undo stack of the managed object context.
   QUndoStack *windowWillReturnUndoManager(const QWidget *window);
   /// Commits and saves a store that is in use, and asks the person when that fails.
   TerminateReply applicationShouldTerminate(Application &application);
@@ -171,7 +171,7 @@ class AppDelegate : public QObject,
   void darkModeAndRetina();
 
  signals:
-  /// The process is to end now, in the middle of a row action whose wait never returns.
+  /// The process must exit now, in the middle of a row action whose wait never returns.
   void endsInRowAction();
 
  private:
@@ -206,9 +206,9 @@ class AppDelegate : public QObject,
   Desktop &_desktop;
   MainQueue _mainQueue;
   Application _application;
-  /// From `closeApp` until `applicationShouldTerminate` is asked.
+  /// True from `closeApp` until `applicationShouldTerminate` is called.
   bool _isAskedToEnd = false;
-  /// While it is being asked.
+  /// True while `applicationShouldTerminate` runs.
   bool _isTerminating = false;
 
   qint64 _lastSelectedRow = -1;
@@ -221,8 +221,9 @@ class AppDelegate : public QObject,
   std::unique_ptr<EventMonitor> _popoverTransiencyMonitor;
 
   QMenu *_menu = nullptr;
-  QList<QAction *> _rowActions;  // in the menu, with what parts them from the last one
-  /// Of what was chosen from the menu while the popover was closed.
+  QList<QAction *> _rowActions;  // in the menu, with the separator after them
+  /// Whether the outcome of a choice from the menu, made while the popover was closed, is still
+  /// due.
   bool _outcomeIsAwaited = false;
   Popover *_popover = nullptr;
   TableView *_tableView = nullptr;
@@ -239,15 +240,15 @@ class AppDelegate : public QObject,
 
   /// The partition whose row action is under way.
   std::optional<QString> _busyPartition;
-  /// The partition that the next refusal is about, if it is in use.
+  /// The partition that the next refusal concerns, if it is in use.
   std::optional<QString> _volumeInUse;
 };
 
 // What the status item's picture depends on.
 
-/// Whether this value of "AppleInterfaceStyle" asks for the dark one: the text "dark" in any mix of
-/// capitals.
+/// Whether this value of "AppleInterfaceStyle" asks for the dark style: the text "dark" in any mix
+/// of capitals.
 bool isDarkInterfaceStyle(const QVariant &style);
 
-/// The side of the picture in points; a factor that is no number counts as 1.
+/// The side of the picture in points; a factor that is not a number counts as 1.
 int statusImageSide(qreal scaleFactor);

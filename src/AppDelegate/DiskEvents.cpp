@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// More would not fit where they are shown.
+// More names would not fit where they are shown.
 constexpr qsizetype kMostHolders = 6;
 
 QString mountedMessage(const QString &path) {
@@ -76,11 +76,11 @@ void AppDelegate::arbitrator(const Notification &notification) {
 }
 
 void AppDelegate::complain(const QString &text) {
-  // Unlike for a disk event, the colour changes at once and only the text waits its turn.
+  // Unlike for a disk event, the colour changes at once and only the text is queued.
   _statusTextField->setStringValue(QString());
   _statusTextField->setTextColor(TextField::TextColor::Red);
   _mainQueue.async([this, text, inUse = std::exchange(_volumeInUse, std::nullopt)] {
-    // The job of an event that came in between may have changed the colour.
+    // The queued job of an event in between may have changed the colour.
     _statusTextField->setTextColor(TextField::TextColor::Red);
     _statusTextField->setAnimatedStringValue(text);
     if (!inUse) return report(text, {});
@@ -116,7 +116,7 @@ QString AppDelegate::whoHolds(const QStringList &processes) {
                   : tr("In use by %1").arg(named);
 }
 
-// As a notification, because the status line says next that the volume is gone.
+// A notification, because the status line says next that the volume is gone.
 void AppDelegate::warnUnwritten(const Notification &notification) {
   const QString path = notification.userInfo.value(kNSDevicePathKey).toString();
   notify(tr("%1 did not answer in time: not everything may have been written to it")

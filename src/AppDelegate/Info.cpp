@@ -41,7 +41,7 @@ void AppDelegate::showInfo() {
   _infoWindow->setFacts(facts + _desktop.facts());
   _infoWindow->makeKeyAndOrderFront();
   _infoWindow->center();
-  _popover->close();  // it would lie over the window
+  _popover->close();  // it would cover the window
 }
 
 void AppDelegate::visitWebSite() {

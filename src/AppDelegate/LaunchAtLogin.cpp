@@ -8,7 +8,8 @@ namespace {
 
 const QString kRunAtload = QStringLiteral("RunAtload");
 
-/// A text is true by its first character that counts: blanks, a sign and zeros before it do not.
+/// A text is true if it begins with Y, y, T, t or 1 to 9; blanks, a sign and zeros before that are
+/// skipped.
 bool booleanValue(const QVariant &value) {
   if (value.typeId() != QMetaType::QString) return value.toBool();
   static const QRegularExpression isTrue(QStringLiteral("^\\s*[+-]?0*[YyTt1-9]"));
@@ -18,11 +19,11 @@ bool booleanValue(const QVariant &value) {
 }  // namespace
 
 void AppDelegate::restoreRunAtLoad() {
-  // What the person chose is not known then, and nothing is changed.
+  // When the stored choice cannot be read, the box shows the present state and nothing is changed.
   if (!_platform.userDefaults().canBeRead()) {
     return _runAtLoadCheck->setState(isLaunchAtStartup() ? CheckBox::kOn : CheckBox::kOff);
   }
-  // On at the first start of all: that is deliberate.
+  // The very first start turns it on, deliberately.
   const QVariant stored = _platform.userDefaults().object(kRunAtload);
   _runAtLoadCheck->setState(!stored.isValid() || booleanValue(stored) ? CheckBox::kOn
                                                                       : CheckBox::kOff);
@@ -35,7 +36,7 @@ void AppDelegate::runAtLoad(CheckBox *sender) {
   if (state == CheckBox::kOn || state == CheckBox::kOff) {
     const bool isWanted = state == CheckBox::kOn;
     if (isLaunchAtStartup() != isWanted) toggleLaunchAtStartup();
-    // Stored even if the list could not be changed: the next start tries again.
+    // Stored even if the login items could not be changed: the next start tries again.
     defaults.setBool(kRunAtload, isWanted);
   }
   defaults.synchronize();

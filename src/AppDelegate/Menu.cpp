@@ -5,11 +5,12 @@
 
 using namespace Qt::StringLiterals;
 
-// Some desktops open the item's menu at a click: so it does what the rows do, by the same titles.
+// Some desktops open the item's menu at a click, so the menu offers the rows' actions under the
+// same titles.
 
 namespace {
 
-// More would not fit the screen; the popover has them all.
+// More would not fit the screen; the popover has all of them.
 constexpr qsizetype kMostTitles = 24;
 
 }  // namespace
@@ -38,11 +39,11 @@ void AppDelegate::updateMenu() {
   if (titles.isEmpty()) return;
   QAction *last = _menu->actions().constLast();
   for (const QString &title : titles) {
-    // A single "&" would underline what follows it.
+    // A single "&" would underline the character after it.
     auto *action = new QAction(printable(title).replace(u'&', u"&&"_s), _menu);
     action->setData(title);
     action->setEnabled(!_busyPartition);
-    // Later, when the menu has closed: what is chosen may take its time.
+    // Queued until the menu has closed, because the action may take long.
     connect(
         action, &QAction::triggered, this, [this, title] { chooseFromMenu(title); },
         Qt::QueuedConnection);

@@ -39,7 +39,7 @@ RowRecord AppDelegate::recordOf(const QString &bsdName) const {
   record.img = DiskArbitrator::findVolumeIcon(bsdName);
   if (record.img.isNull()) throw std::invalid_argument(bsdName.toStdString());
   record.parentOf = DiskArbitrator::findBSDdiskParent(bsdName);
-  // The rows of a disk stand together and share the line about it. Asked for again in each row, it would cost the
+  // The rows of a disk are adjacent and share the line about the disk. Asking again for each row would cost the
   // square of their number.
   const bool isOnDiskAbove =
       !_tableViewContents.isEmpty() && _tableViewContents.last().parentOf == record.parentOf;

@@ -12,8 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// While a row action is under way: the row's button says so, and nothing that the user does gets
-/// in between.
+/// While a row action is under way, the row's button shows it, and no other user action can start.
 class AppDelegate::RowAction {
  public:
   RowAction(AppDelegate &delegate, const QString &partition)
@@ -33,11 +32,11 @@ class AppDelegate::RowAction {
  private:
   AppDelegate &_delegate;
   MainQueue::Hold _queueHold;
-  InputGate _inputGate;  // goes first: it serves events once more
+  InputGate _inputGate;  // destroyed first: its destructor serves the event loop once more
 };
 
-// Titles are copied before anything else: the list may be rebuilt and the button retitled while the
-// service works.
+// Titles are copied before anything else: while the service works, the list may be rebuilt and the
+// button retitled.
 
 void AppDelegate::mountOrUmount(RowButton *sender) {
   if (sender != nullptr) mountOrUmount(QString(sender->title()));
@@ -49,7 +48,7 @@ void AppDelegate::openEsp(RowButton *sender) {
 
 void AppDelegate::mountOrUmount(const QString &title) {
   // A screen reader presses buttons, and a panel chooses from the menu, without an input event, so the
-  // gate alone does not keep a second one out.
+  // input gate alone does not prevent a second action.
   if (_busyPartition.has_value()) return;
   const QStringList pieces = title.split(u' ');
   const QString verb = pieces.value(0);
@@ -59,7 +58,7 @@ void AppDelegate::mountOrUmount(const QString &title) {
   if (verb == "mount"_L1) {
     DiskArbitrator::mountPartition(partition, std::nullopt);
   } else {
-    // Mixed counts as on here, though not for the show-all box.
+    // The mixed state counts as on here, but not for the show-all box.
     DiskArbitrator::umountPartition(partition, _forceUmountCheck->state() != CheckBox::kOff);
   }
 }
@@ -68,7 +67,8 @@ void AppDelegate::openEsp(const QString &title) {
   if (_busyPartition.has_value()) return;
   const QString path = title.split("open "_L1).value(1);
   if (path == "(null)"_L1 || path == "N/A"_L1 || !path.startsWith(u'/')) return;
-  // The file manager would show an error of its own at best. For a volume that is slow, it waits.
+  // Checked first because the file manager may report nothing. A slow volume is opened all the
+  // same: the file manager waits for it.
   using enum LookAtPath::Access;
   const auto access = _platform.volumeFiles().look(path).access;
   if (access == Nothing) return complain(tr("%1 is not there").arg(path));

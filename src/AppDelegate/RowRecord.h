@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QString>
 
-/// One entry of the partition list: what was true of one partition when the list was built. It is
-/// never changed afterwards; the next refresh makes another.
+/// One entry of the partition list: the state of one partition when the list was built. It never
+/// changes; the next refresh makes new records.
 struct RowRecord {
   QImage img;
   QString parentOf;       // the BSD name of the whole disk
@@ -13,7 +13,7 @@ struct RowRecord {
   QString mountPoint;  // "(null)" while it is not mounted
   QString ESP;         // the BSD name of the partition, whether it is an ESP or not
 
-  // What the buttons of its row say, and with it do.
+  // The buttons' titles, which also decide what a click does.
   QString mountTitle() const {
     return (isMounted ? QStringLiteral("umount ") : QStringLiteral("mount ")) + ESP;
   }

@@ -19,7 +19,7 @@ QString titleOf(const RowRecord &record) {
   const QString name = printed(DiskArbitrator::findPartitionName(record.ESP));
   if (name == DiskArbitrator::kEFISystemPartition) return u"ESP"_s;
   if (name == "Recovery HD"_L1) return name;
-  // Asked afresh: the volume may have moved since the list was built.
+  // Asked again: the mount point may have changed since the list was built.
   if (record.isMounted)
     return lastPathComponent(printed(DiskArbitrator::findMountPoint(record.ESP)));
   return name;
@@ -49,7 +49,7 @@ TableCellView *AppDelegate::tableView(TableView *tableView, const TableColumn &v
   cell->textField()->setLines(linesOf(record));
   cell->imageView()->setImage(record.img);
   cell->setDeviceNode(DiskArbitrator::findDeviceNode(record.ESP).value_or(QString()));
-  // What the buttons show, in words.
+  // What the buttons show, in words for screen readers.
   cell->setAccessibleDescription(record.isMounted ? tr("Mounted") : tr("Not mounted"));
 
   RowButton *mountButton = cell->mountButton();
@@ -57,7 +57,7 @@ TableCellView *AppDelegate::tableView(TableView *tableView, const TableColumn &v
   mountButton->setProminent(!record.isMounted);
   mountButton->setBusy(record.ESP == _busyPartition);
   mountButton->setAction([this](RowButton *sender) { mountOrUmount(sender); });
-  // One way: a cell with a disabled button is never given to another row.
+  // Never enabled again: a cell with a disabled button is never reused for another row.
   if (!record.canBeMountedOrUmounted()) mountButton->setEnabled(false);
 
   RowButton *openButton = cell->openButton();

@@ -10,14 +10,14 @@
 
 using namespace Qt::StringLiterals;
 
-// A linker leaves out what a static library's resources are registered by, unless it is asked for.
+// A linker drops the registration of a static library's resources unless it is called.
 static void registerModel() {
   Q_INIT_RESOURCE(model);
 }
 
 namespace {
 
-// As the first version had it; nobody may take it for the domain of anything else.
+// Kept as the first version had it. No other error may use this domain.
 const QString kErrorDomain = u"YOUR_ERROR_DOMAIN"_s;
 constexpr int kSetUpFailed = 9999;
 

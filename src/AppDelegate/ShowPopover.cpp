@@ -5,7 +5,7 @@
 #include "Platform/Desktop.h"
 
 void AppDelegate::showPopover() {
-  _outcomeIsAwaited = false;  // it will be seen
+  _outcomeIsAwaited = false;  // the popover shows the outcome
   _mainQueue.async([this] { _statusTextField->setStringValue(QString()); });
   _popover->showRelativeTo(topBarItem->anchor(), Qt::BottomEdge);
   if (_popoverTransiencyMonitor) return;
@@ -16,9 +16,10 @@ void AppDelegate::setPopoverTransiencyMonitor(std::unique_ptr<EventMonitor> moni
   _popoverTransiencyMonitor = std::move(monitor);
 }
 
-// Closing in any other way leaves the monitor, until the next activity elsewhere.
+// When the popover closes in any other way, the monitor stays until the next activity in another
+// program.
 void AppDelegate::closeForActivityElsewhere() {
-  // That may be the password prompt that a row action has brought up.
+  // The activity may be the password prompt of a row action.
   if (_busyPartition) return;
   setPopoverTransiencyMonitor(nullptr);
   _popover->close();
@@ -28,7 +29,7 @@ void AppDelegate::dismissPopover() {
   if (!_busyPartition) _popover->close();
 }
 
-// Without an item, nobody would know that the program runs, nor how to open it.
+// Without a tray item, the user would not know that the program runs, nor how to open it.
 void AppDelegate::explainMissingTray() {
   if (topBarItem->trayItem().isShown()) return;
   _trayNotice->setNotice(_desktop.adviceWithoutTray());

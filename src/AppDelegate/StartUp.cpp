@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kVersion = u"1.6"_s;
-// Within which a tray that is there shows the item.
+// A tray that exists shows the item within this time.
 constexpr std::chrono::milliseconds kTraysTime(1500);
 
 void setBackground(QWidget *window, const QColor &color) {
@@ -25,7 +25,7 @@ void setBackground(QWidget *window, const QColor &color) {
   window->setPalette(palette);
 }
 
-// As a rule the program starts without any window that shows, and takes the focus from nobody.
+// As a rule the program starts without a visible window and does not take the focus.
 void bringToFront() {
   for (QWidget *window : QApplication::topLevelWidgets()) {
     if (!window->isVisible()) continue;
@@ -76,7 +76,7 @@ void AppDelegate::applicationDidFinishLaunching() {
   _tableView->setDataSource(this);
   refreshListsOrLog();
   addRefreshObserver();
-  // At login, the tray may be late; nobody waits for it then.
+  // At login the tray may come late, and no user is waiting for the program.
   if (!_desktop.wasStartedAtLogin()) {
     QTimer::singleShot(kTraysTime, this, &AppDelegate::explainMissingTray);
   }

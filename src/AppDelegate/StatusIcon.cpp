@@ -14,10 +14,9 @@ namespace {
 constexpr int kSide = 18;
 constexpr int kSideOnDenseScreens = 36;  // twice the size in points as well, deliberately
 
-// The picture in its size on the menu bar, and as large as it is for panels that have a size of
-// their own.
+// The picture in the size for the menu bar, and in full size for panels that scale it themselves.
 QIcon statusImage(const QString &resource, int side) {
-  // Told what it is given, it starts no plugin to find out.
+  // With the format given, the reader does not load plugins to detect it.
   QImageReader reader(resource, "png");
   reader.setAutoDetectImageFormat(false);
   const QPixmap artwork = QPixmap::fromImageReader(&reader);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto kLongestRest = 5s;
 
-/// Stands in where nobody can be asked: an error keeps the program, as if it might recover.
+/// Used when no dialog may be shown: an error counts as handled, which keeps the program running.
 class UnattendedApplication : public Application {
  public:
   bool presentError(const Error &error) override {
@@ -27,7 +27,7 @@ class UnattendedApplication : public Application {
 
 void AppDelegate::closeApp() {
   _isAskedToEnd = true;
-  // The queue rests while a row action is under way, which may be for ever.
+  // The queue is held while a row action is under way, which may be for ever.
   _mainQueue.async([this] { endIfAsked([] { QCoreApplication::exit(0); }); });
   if (!_busyPartition) return;
   QTimer::singleShot(kLongestRest, this,
@@ -46,7 +46,8 @@ bool AppDelegate::mayTerminate() {
 
 bool AppDelegate::sessionMayEnd(const std::function<bool()> &mayAsk) {
   if (!_managedObjectContext) return true;
-  // The session waits for the answer. During a row action input is swallowed, and one alert is enough.
+  // The session waits for the answer. During a row action a dialog would get no input, and one alert
+  // at a time is enough.
   if (!_busyPartition && !_isTerminating && mayAsk()) return mayTerminate();
   UnattendedApplication unattended;
   return applicationShouldTerminate(unattended) == TerminateReply::Now;
@@ -62,7 +63,8 @@ TerminateReply AppDelegate::applicationShouldTerminate(Application &application)
   const std::optional<Error> error = _managedObjectContext->save();
   if (!error) return TerminateReply::Now;
   if (application.presentError(*error)) return TerminateReply::Cancel;
-  // The first button keeps the program and the second one quits, whatever they say: deliberately.
+  // Deliberate: the first button keeps the program running and the second one quits, whatever their
+  // titles say.
   const int answer = Application::runAlert(
       tr("Could not save changes while quitting. Quit anyway?"),
       tr("Quitting now will lose any changes you have made since the last successful save"),

@@ -18,13 +18,14 @@
 
 namespace {
 
-/// What a person who has asked for the end is made to wait at most, in seconds, also when the event
-/// loop is not served.
+/// How long a user who has asked to quit waits at most, in seconds, also when the event loop is not
+/// served.
 constexpr unsigned kLongestEnd = 5;
 
 int signalPipe[2] = {-1, -1};
 
-/// Without waiting for whoever reads at the other end: a full pipe says all there is to say.
+/// Non-blocking, because a signal handler writes to it. When the pipe is full, the reader has been
+/// woken already.
 bool openSignalPipe() {
   if (socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0) return false;
   for (const int end : signalPipe) {
@@ -36,7 +37,7 @@ bool openSignalPipe() {
 
 void catchSignal(int number) {
   struct sigaction action = {};
-  // A program that was started by nohup outlives its terminal.
+  // Under nohup, SIGHUP is ignored and stays so.
   if (sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) return;
   action = {};
   action.sa_handler = [](int) {
@@ -49,7 +50,7 @@ void catchSignal(int number) {
   sigaction(number, &action, nullptr);
 }
 
-/// In the event loop, as often as it comes: the person may want to stay.
+/// Handled in the event loop, and each signal anew: the user may cancel the first request.
 void quitOnSignals(AppDelegate &delegate) {
   if (!openSignalPipe()) return;
   auto *notifier = new QSocketNotifier(signalPipe[1], QSocketNotifier::Read, &delegate);
@@ -57,13 +58,13 @@ void quitOnSignals(AppDelegate &delegate) {
     std::array<char, 64> signalsSoFar{};
     [[maybe_unused]] const auto count =
         read(signalPipe[1], signalsSoFar.data(), signalsSoFar.size());
-    alarm(0);  // the delegate sees to it
+    alarm(0);  // the delegate has a time limit of its own
     delegate.closeApp();
   });
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) catchSignal(number);
 }
 
-/// What the platform quits the program by, which would end it unasked.
+/// Handles the platform's own Quit, which would end the program without asking.
 class PlatformQuit : public QObject {
  public:
   explicit PlatformQuit(AppDelegate &delegate) : QObject(&delegate), _delegate(delegate) {
@@ -72,12 +73,12 @@ class PlatformQuit : public QObject {
 
   bool eventFilter(QObject *watched, QEvent *event) override {
     if (watched != qApp || event->type() != QEvent::Quit) return false;
-    // Who ends a session wants the answer now, and takes a later one for an objection.
+    // The sender of a session's end needs the answer now, and takes a late one for a refusal.
     if (!_delegate.sessionMayEnd([] { return true; })) {
       event->ignore();
       return true;
     }
-    // Qt ends its own loops, and not the wait of a row action.
+    // Qt ends its own event loops, but not the wait of a row action.
     QTimer::singleShot(std::chrono::seconds(kLongestEnd), [] { std::_Exit(EXIT_SUCCESS); });
     return false;
   }
@@ -94,7 +95,8 @@ void quitWithTheSystem(AppDelegate &delegate) {
   new PlatformQuit(delegate);
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, &delegate,
                    [&delegate](QSessionManager &session) {
-                     // It starts by itself: one that a session manager starts as well would open the popover.
+                     // The program has a login item. An instance that a session manager restarted as well
+                     // would open the popover.
                      session.setRestartHint(QSessionManager::RestartNever);
                      const auto mayAsk = [&session] { return session.allowsInteraction(); };
                      if (!delegate.sessionMayEnd(mayAsk)) session.cancel();

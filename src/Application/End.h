@@ -2,9 +2,9 @@
 
 class AppDelegate;
 
-/// From now on a signal, the end of the session and the platform's own Quit ask for the same end as the
-/// Quit button.
+/// From now on a signal, the end of the session and the platform's own Quit are handled like the Quit
+/// button.
 void quitWithTheSystem(AppDelegate &delegate);
 
-/// The process is gone five seconds from now, whatever it waits for by then, unless it ends before.
+/// The process exits five seconds from now at the latest, whatever it waits for by then.
 void endSoon();

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Outside of every namespace, as Qt asks.
+// `Q_INIT_RESOURCE` must be used outside of every namespace.
 static void haveTranslations() {
   Q_INIT_RESOURCE(translations);
 }
@@ -19,7 +19,7 @@ bool loadTranslation(const QString &name, const QString &language, const QString
   return translation->load(file, folder) && QApplication::installTranslator(translation);
 }
 
-/// A mere "zh" stands for simplified Chinese, also after a "zh_TW".
+/// A plain "zh" stands for simplified Chinese, also after "zh_TW" in the list.
 bool isInAnotherScript(const QLocale &locale) {
   const QLocale preferred;
   return locale.language() == preferred.language() && locale.script() != preferred.script();
@@ -28,7 +28,7 @@ bool isInAnotherScript(const QLocale &locale) {
 bool speak(const QLocale &locale, const QString &language) {
   if (!loadTranslation(u"keldra"_s, language, u":/translations"_s)) return false;
   loadTranslation(u"qtbase"_s, language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-  // Qt takes it from its own translation, which may not be there.
+  // Qt takes the direction from its own translation, which may be missing.
   QApplication::setLayoutDirection(locale.textDirection());
   return true;
 }

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Words in the first of the person's languages that there is a translation for, with Qt's own words and
-/// the direction of its script. English needs none, and what comes after it is not asked for.
+/// Loads the first of the user's languages that has a translation, with Qt's own translation and the
+/// direction of the script. English needs none, so languages after English are not tried.
 void loadTranslations();

@@ -3,5 +3,5 @@
 class AppDelegate;
 class MainInterface;
 
-/// Gives the delegate the objects of the interface, and the controls their actions.
+/// Gives the interface's objects to the delegate, and connects the controls' actions.
 void connectOutlets(MainInterface &interface, AppDelegate &delegate);

@@ -58,7 +58,7 @@ void MachineTree::showMachine(const SimulatedPlatform &platform) {
 }
 
 void MachineTree::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
-  // A tree tells screen readers that it has the keyboard, whether it has or not.
+  // QTreeWidget reports the focus to screen readers whether the tree has it or not.
   if (hasFocus()) {
     QTreeWidget::currentChanged(current, previous);
   } else {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The simulated machine's disks and partitions, those that were pulled among them.
+// The simulated machine's disks and partitions, including those that were pulled.
 
 #include <QTreeWidget>
 
@@ -12,7 +12,7 @@ class MachineTree : public QTreeWidget {
  public:
   explicit MachineTree(QWidget *parent = nullptr);
 
-  /// Shows the machine as it is now. What was selected stays so while it is there.
+  /// Shows the machine as it is now. The selection stays while the selected entry exists.
   void showMachine(const SimulatedPlatform &platform);
 
   /// The BSD name of the selected disk or partition. Empty when nothing is selected.

@@ -40,7 +40,8 @@ MachineWindow::MachineWindow(SimulatedPlatform &platform)
   addVolume(addGroup(tr("Volume, by another program")));
   addMachine(addGroup(tr("Disk and disk service")));
   resize(760, 520);
-  // The popover hangs from a corner at the top or at the right.
+  // The popover opens in a corner at the top or at the right, so this window goes to the bottom
+  // left.
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   move(screen.left() + kMargin, qMax(screen.top(), screen.bottom() - height() - 2 * kMargin));
 

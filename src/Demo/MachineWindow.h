@@ -1,13 +1,14 @@
 #pragma once
 
-// A window beside the program that does to the simulated machine what people, cables and other
+// A second window of the program that does to the simulated machine what users, cables and other
 // programs do to a real one.
 //
 //   MachineWindow window(platform);
 //   window.show();
 //
-// While the service works, the whole program takes no input, this window included: what is to go
-// wrong in the middle of a request is chosen before it, as a mishap. Closing it quits nothing.
+// While the service works, the whole program takes no input, this window included. A failure in the
+// middle of a request is therefore chosen before the request, as a mishap. Closing the window does
+// not quit the program.
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -33,15 +34,15 @@ class MachineWindow : public QWidget {
   void addVolume(QBoxLayout *layout);
   void addMachine(QBoxLayout *layout);
   QPushButton *addButton(QBoxLayout *layout, const QString &title, std::function<void()> action);
-  /// Calls the action when a person has chosen.
+  /// Calls the action when the user has chosen.
   QComboBox *addChoice(QBoxLayout *layout, const QString &title, const QStringList &choices,
                        std::function<void(int index)> action);
 
   void refresh();
   void showSelected();
-  /// Null where a whole disk, a pulled one or nothing is selected.
+  /// Null when a whole disk, a pulled partition or nothing is selected.
   const SimulatedPartition *selectedPartition() const;
-  /// That of the selected disk, or of the disk with the selected partition; -1 for none.
+  /// The unit of the selected disk, or of the selected partition's disk; -1 for none.
   int selectedUnit() const;
 
   SimulatedPlatform &_platform;

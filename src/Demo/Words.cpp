@@ -19,7 +19,7 @@ Choices<DissenterStatus> makeRefusals() {
   for (DissenterStatus status = kDAReturnError; status <= kDAReturnUnsupported; ++status) {
     add(status);
   }
-  // What services say of dismissed password prompts and of disks that are full or failing.
+  // What services answer for dismissed password prompts and for full or failing disks.
   for (const int number : {ECANCELED, EACCES, ENOSPC, EIO, EROFS}) add(unixErrorStatus(number));
   return all;
 }

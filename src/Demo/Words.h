@@ -8,14 +8,14 @@
 
 #include "Platform/simulated/Machine.h"
 
-/// What is offered of a kind, from nothing of the kind on, with its words.
+/// The choices of one kind with their words; "none" comes first.
 template <typename Value>
 using Choices = QVector<std::pair<std::optional<Value>, QString>>;
 
 const Choices<DissenterStatus> &refusals();
 const Choices<Mishap> &mishaps();
 
-/// The words of a choice; empty for what is not offered.
+/// The words of a choice; empty for a value that is not offered.
 template <typename Value>
 QString phrase(const Choices<Value> &choices, const std::optional<Value> &chosen) {
   for (const auto &[value, words] : choices) {

@@ -7,7 +7,7 @@ const QString DiskArbitrator::kEFISystemPartition = u"EFI System Partition"_s;
 
 namespace {
 
-/// The name of the volume, or, for what is not mounted or has no volume, that of the media.
+/// The volume's name; the media's name when the partition is not mounted or has no volume.
 std::optional<QString> displayName(const QString &name) {
   const QString volume = DiskArbitrator::findMountPointName(name).value_or(QString());
   const bool isNamed = !volume.isEmpty() && volume != "(null)"_L1 && volume != "N/A"_L1;

@@ -5,7 +5,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The UUID without whatever the service prints before it. A text without that prefix stays whole.
+/// The UUID without the prefix that the service prints before it. A text without the prefix is
+/// kept.
 QString uuidText(const QVariant &value) {
   OptionalText described;
   if (value.isValid()) {
@@ -36,7 +37,7 @@ bool DiskArbitrator::isSameDisk(const QString &reference, const QString &other) 
 }
 
 QString DiskArbitrator::findBSDdiskParent(const QString &reference) {
-  // The service's unit number, not the name's digits: the reference may be a path.
+  // The service's unit number, not the digits of the name: the reference may be a path.
   const QVariant unit = descriptionValue(reference, kDADiskDescriptionMediaBSDUnitKey);
   return "disk"_L1 + (unit.isValid() ? QString::number(unit.toLongLong()) : printed(std::nullopt));
 }

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 std::optional<DiskDescription> getDAdiskDescriptionFromBSDorMountpoint(const QString &reference) {
   DiskService &service = Platform::current().diskService();
 
-  // Asked before whether a file is there: "/dev/disk2s1" is a name whether that node exists or not.
+  // Checked before the file system: "/dev/disk2s1" is a name whether that node exists or not.
   const bool isDevicePath = reference.startsWith("/dev/disk"_L1);
   if (isDevicePath || reference.startsWith("disk"_L1)) {
     QString name = reference;
@@ -17,7 +17,7 @@ std::optional<DiskDescription> getDAdiskDescriptionFromBSDorMountpoint(const QSt
   }
   if (!reference.startsWith(u'/')) return std::nullopt;
   const QString path = canonicalPath(reference);
-  // What the service has mounted is there, whether it answers or not.
+  // A path that the service has mounted exists, whether the volume answers or not.
   if (const auto description = service.descriptionOfVolume(path)) return description;
   const QString realPath = Platform::current().volumeFiles().look(path).realPath;
   if (realPath.isEmpty()) return std::nullopt;

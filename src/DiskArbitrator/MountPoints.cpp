@@ -14,7 +14,7 @@ std::optional<QString> DiskArbitrator::findMountPoint(const QString &reference) 
 bool DiskArbitrator::isThere(const std::optional<QString> &path) {
   if (!path.has_value() || !path->startsWith(u'/')) return false;
   Platform &platform = Platform::current();
-  // A volume's mount point is there, whether it answers or not.
+  // A volume's mount point exists, whether the volume answers or not.
   return platform.diskService().descriptionOfVolume(canonicalPath(*path)).has_value() ||
          !platform.volumeFiles().look(*path).realPath.isEmpty();
 }

@@ -25,8 +25,8 @@ void await(const std::function<void(DiskService &, DiskService::Completion)> &re
   platform.runLoop().run(finished);
 }
 
-/// The service may say yes before the volume shows. The length of this wait after a refusal is
-/// deliberate.
+/// The service may report success before the volume is listed. The length of this wait after a
+/// refusal is deliberate.
 void waitUntilMounted(const QString &partition) {
   Platform &platform = Platform::current();
   const auto deadline = platform.clock().now() + kConfirmationTime;
@@ -38,7 +38,7 @@ void waitUntilMounted(const QString &partition) {
 }  // namespace
 
 const void *DiskArbitrator::sender() {
-  // There are no instances, so a constant of the class stands for it.
+  // There are no instances, so a constant of the class is the sender.
   return &kEFISystemPartition;
 }
 

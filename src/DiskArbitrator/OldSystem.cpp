@@ -20,7 +20,7 @@ bool exists(const QString &path) {
   return !Platform::current().volumeFiles().look(path).realPath.isEmpty();
 }
 
-/// The base is taken only if nothing is there at all; one with a number also if it is empty.
+/// `base` is used only if nothing exists there; a numbered folder is used also if it is empty.
 QString folderToMountOn(const QString &base) {
   QString folder = base;
   for (int number = 1; exists(folder); ++number) {
@@ -66,7 +66,7 @@ bool DiskArbitrator::mountPartitionModeLegacy(const QString &partition,
 }
 
 void DiskArbitrator::umountPartitionModeLegacy(const QString &partition) {
-  // Forced in every case, and whatever it ends with counts as done.
+  // Always forced, and every exit status counts as success.
   const ProgramRun umount =
       Platform::current().systemPrograms().run(u"/sbin/umount"_s, {u"-f"_s, devicePath(partition)});
   if (umount.problem.has_value()) systemLog(u"Problem mounting "_s + *umount.problem);
@@ -75,7 +75,7 @@ void DiskArbitrator::umountPartitionModeLegacy(const QString &partition) {
 bool DiskArbitrator::chosenFolderIsEmpty(const QString &path) {
   const auto entries = Platform::current().volumeFiles().entries(path);
   return entries && std::none_of(entries->begin(), entries->end(), [](const FolderEntry &entry) {
-           // The file manager has been here: somebody uses it.
+           // A ".DS_Store" shows that the file manager has opened the folder, so it is in use.
            const bool isTrace = entry.name == ".DS_Store"_L1 && !entry.isFolder;
            return isTrace || !entry.name.startsWith(u'.');
          });

@@ -18,7 +18,7 @@ QVariantMap versionDictionary(const SystemFiles &files) {
 }  // namespace
 
 qint32 minorVersion(const SystemFiles &files) {
-  // The major number is never looked at: "11.2" reads as 2, and so as an old system.
+  // The major number is ignored: "11.2" gives 2, and so counts as an old system.
   const QString version = versionDictionary(files).value(u"ProductVersion"_s).toString();
   return leadingInteger(version.split(u'.').value(1));
 }

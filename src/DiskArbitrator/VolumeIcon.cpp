@@ -15,7 +15,7 @@ std::optional<QString> volumeIconPath(const QString &partition) {
          (mountPoint->endsWith(u'/') ? u".VolumeIcon.icns"_s : u"/.VolumeIcon.icns"_s);
 }
 
-/// Null when the description names no picture, or one that is not there.
+/// Null when the description names no picture, or one that does not exist.
 QImage mediaIconOf(const QString &partition, const std::optional<QString> &volumeIcon) {
   Platform &platform = Platform::current();
   const QVariantMap record = descriptionValue(partition, kDADiskDescriptionMediaIconKey).toMap();
@@ -26,7 +26,7 @@ QImage mediaIconOf(const QString &partition, const std::optional<QString> &volum
   const QFileInfo file(record.value(kMediaIconFileKey).toString());
   const auto resource = files.bundleResource(*bundle, file.completeBaseName(), file.suffix());
   if (resource) return files.image(*resource).value_or(QImage());
-  // A bundle that does not open leaves the path as it was before: that of the volume's own icon.
+  // When the bundle does not open, the volume's own icon is tried again.
   return volumeIcon ? platform.volumeFiles().image(*volumeIcon).value_or(QImage()) : QImage();
 }
 
@@ -40,7 +40,7 @@ QImage DiskArbitrator::findVolumeIcon(const QString &partition) {
                               .value_or(QString());
 
   const std::optional<QString> volumeIcon = volumeIconPath(partition);
-  // Whatever can be read there is the answer, also if it does not decode.
+  // An icon file that can be read is the answer, even if it does not decode.
   const auto own = volumeIcon ? Platform::current().volumeFiles().image(*volumeIcon) : std::nullopt;
   if (own) return *own;
 

@@ -6,11 +6,11 @@
 
 /// Why something could not be done, in words for a person and in numbers for a program.
 struct Error {
-  QString domain;  // whose numbers `code` belongs to
+  QString domain;  // where `code` is defined
   int code = 0;
   QString localizedDescription;
   QString localizedFailureReason = {};           // empty where there is no more to say
-  std::shared_ptr<const Error> underlying = {};  // what caused it; null where that is not known
+  std::shared_ptr<const Error> underlying = {};  // the cause; null where it is not known
 
   /// All of it in one line, for the log.
   QString description() const {

@@ -23,8 +23,8 @@ void MainQueue::schedule() {
 
 void MainQueue::runJobs() {
   _isScheduled = false;
-  // Jobs that these jobs queue run in a turn of their own; a job that turns the event loop, as a dialog
-  // does, may have had the rest run already.
+  // Jobs that are queued by these jobs run in a later turn. A job that runs the event loop, as a dialog
+  // does, may already have caused the remaining jobs to run.
   for (std::size_t count = _jobs.size(); count > 0 && !_jobs.empty() && _holds == 0; --count) {
     const Job job = std::move(_jobs.front());
     _jobs.pop_front();

@@ -1,6 +1,6 @@
 #pragma once
 
-// Jobs that run in order from the event loop, after whoever queued them has returned.
+// Jobs that run in order from the event loop, after the caller that queued them has returned.
 
 #include <QObject>
 #include <deque>
@@ -10,11 +10,11 @@ class MainQueue : public QObject {
  public:
   using Job = std::function<void()>;
 
-  /// Returns at once; the job runs on this thread when the event loop is next free and nobody holds
-  /// the queue.
+  /// Returns at once. The job runs on this thread when the event loop is next free and no `Hold`
+  /// exists.
   void async(Job job);
 
-  /// While one of these lives, jobs wait, also when an event loop turns.
+  /// While an object of this class exists, jobs wait, even when an event loop runs.
   class Hold {
    public:
     explicit Hold(MainQueue &queue);

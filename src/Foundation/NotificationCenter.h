@@ -14,7 +14,7 @@
 
 struct Notification {
   QString name;
-  const void *object = nullptr;  // who posted it: an opaque identity, never dereferenced
+  const void *object = nullptr;  // the sender: an opaque identity, never dereferenced
   QVariantMap userInfo = {};
 };
 

@@ -12,7 +12,7 @@ bool isStrayByte(QStringView text, qsizetype index) {
   return unit >= kStrayBytes + 0x80 && unit <= kStrayBytes + 0xFF && !isPair;
 }
 
-/// The length of the character that the bytes begin with; 0 where they begin with none.
+/// The length of the UTF-8 character at the start of the bytes; 0 if there is none.
 qsizetype lengthOfCharacter(QByteArrayView bytes) {
   constexpr qsizetype kLongest = 4;
   for (qsizetype length = 1; length <= qMin(kLongest, bytes.size()); ++length) {

@@ -21,10 +21,11 @@ namespace {
 
 constexpr std::chrono::milliseconds kLongestWait{200};
 constexpr std::chrono::milliseconds kPause{5};
-constexpr mode_t kForAll = 0666;  // as far as the user's mask lets them
+constexpr mode_t kForAll = 0666;  // limited by the user's umask
 constexpr mode_t kPermissions = 07777;
 
-/// Pipes and devices are not waited for, not even at the moment when they take a file's place.
+/// Opening must not block on a pipe or a device, even if one replaces the file just before the
+/// open.
 constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
 Error noPlainFile() {
@@ -45,7 +46,7 @@ class Descriptor {
   int _number;
 };
 
-/// Whether it was all there.
+/// True when all bytes could be read.
 bool readAll(int descriptor, QByteArray &bytes) {
   qsizetype done = 0;
   while (done < bytes.size()) {
@@ -68,7 +69,7 @@ bool writeAll(int descriptor, const QByteArray &bytes) {
   return true;
 }
 
-/// A file's new name is safe only when its folder is on the disk too.
+/// A file's new name is safe only when the folder is on the disk too.
 void syncFolder(const QByteArray &path) {
   const QByteArray folder = path.first(path.lastIndexOf('/') + 1);
   const Descriptor descriptor(open(folder.constData(), O_RDONLY | kFlags));
@@ -85,7 +86,7 @@ bool isStillAt(const QByteArray &path, const struct stat &opened) {
 
 std::variant<QByteArray, Error> readPlainFile(const QByteArray &path, qint64 mostBytes,
                                               Links links) {
-  // Looked at before it is opened too: opening alone does something to some devices.
+  // Checked before the open as well: opening alone has an effect on some devices.
   struct stat status = {};
   const bool isFollowed = links == Links::Followed;
   const auto look = isFollowed ? stat : lstat;
@@ -133,7 +134,7 @@ std::optional<Error> PlainFileWriter::openBeside() {
     struct stat status = {};
     if (_beside < 0 || fstat(_beside, &status) != 0) return posixError(errno);
     const bool isPlain = S_ISREG(status.st_mode) && status.st_nlink <= 1;
-    // The one who had the lock before may have given the file its real name, or removed it.
+    // The previous holder of the lock may have renamed or removed the file.
     if (isPlain && flock(_beside, LOCK_EX | LOCK_NB) == 0 && isStillAt(name, status)) return {};
     close(_beside);
     _beside = -1;
@@ -152,12 +153,12 @@ bool PlainFileWriter::holdsAlready(const QByteArray &bytes) const {
 std::optional<Error> PlainFileWriter::replace(const QByteArray &bytes) {
   struct stat old = {};
   const bool isNew = stat(_path.constData(), &old) != 0;
-  // Root, who may write everybody's files, leaves them to their owners.
+  // Root, who may write every user's files, keeps their owner.
   if (!isNew && geteuid() == 0 && fchown(_beside, old.st_uid, old.st_gid) != 0)
     return posixError(errno);
   if (!isNew && fchmod(_beside, old.st_mode & kPermissions) != 0) return posixError(errno);
   if (ftruncate(_beside, 0) != 0 || !writeAll(_beside, bytes)) return posixError(errno);
-  // Some file systems find out only now that they are full.
+  // Some file systems report only now that they are full.
   if (fsync(_beside) != 0) return posixError(errno);
   if (rename((_path + ".new").constData(), _path.constData()) != 0) return posixError(errno);
   close(_beside);

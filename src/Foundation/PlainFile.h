@@ -3,7 +3,8 @@
 // The files that the program reads and writes as a whole.
 //
 // Only plain files are read or replaced. A pipe, a device, a folder, or a link to one of these is
-// refused: reading a pipe would wait for ever, and replacing a device would take it from everybody.
+// refused: reading a pipe would block for ever, and replacing a device would break it for all
+// programs.
 
 #include <QByteArray>
 #include <QString>
@@ -14,16 +15,16 @@
 
 enum class Links { Followed, Refused };
 
-/// The bytes of a file, or why there are none: ENOENT where nothing is, EFBIG for a file of more than
+/// The bytes of a file, or the error: ENOENT where nothing exists, EFBIG for a file of more than
 /// `mostBytes`. The path is in the file system's own bytes. Blocks for as long as the disk takes.
 std::variant<QByteArray, Error> readPlainFile(const QByteArray &path, qint64 mostBytes,
                                               Links links = Links::Followed);
 
-/// Replaces a file in one step: at any moment, whatever happens, it holds all of the old or all of the
-/// new. Of several writers of one file, in whatever processes, one is ready at a time.
+/// Replaces a file in one step: at any moment, even after a crash, it holds all of the old or all of
+/// the new bytes. Of several writers of one file, in any process, one works at a time.
 ///
-/// What is written lies beside the file until it is complete, under its name and ".new". A program that
-/// is killed may leave that behind; the next writer takes it over.
+/// Until it is complete, the new file lies beside the old one, with ".new" added to the name. A killed
+/// program may leave it behind; the next writer reuses it.
 class PlainFileWriter {
  public:
   /// Makes the folder where it is missing. A link to a file stands for that file. Waits up to 200 ms
@@ -33,8 +34,8 @@ class PlainFileWriter {
   PlainFileWriter(const PlainFileWriter &) = delete;
   PlainFileWriter &operator=(const PlainFileWriter &) = delete;
 
-  /// Absent when done, or when the file holds these bytes already. Otherwise the file is as it was, and
-  /// the log says why. To be called once. Blocks until the bytes are on the disk.
+  /// Absent on success, or when the file holds these bytes already. Otherwise the file is unchanged,
+  /// and the log says why. Call it once. Blocks until the bytes are on the disk.
   std::optional<Error> write(const QByteArray &bytes);
 
  private:

@@ -34,7 +34,7 @@ QString lastPathComponent(const QString &path) {
 bool isHarmless(char32_t character) {
   constexpr char32_t kZeroWidthNonJoiner = 0x200C;
   constexpr char32_t kZeroWidthJoiner = 0x200D;
-  // Qt's rich text keeps its frames and pictures apart by these.
+  // Qt's rich text marks frames and pictures with these.
   if (QChar::isNonCharacter(character) || character == QChar::ObjectReplacementCharacter)
     return false;
   switch (QChar::category(character)) {
@@ -44,7 +44,7 @@ bool isHarmless(char32_t character) {
     case QChar::Separator_Paragraph:
       return false;
     case QChar::Other_Format:
-      // Marks of direction among them; but letters of some scripts join by these two.
+      // Marks of direction are harmful, but some scripts join letters by these two.
       return character == kZeroWidthNonJoiner || character == kZeroWidthJoiner;
     default:
       return true;

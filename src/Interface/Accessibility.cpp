@@ -11,8 +11,8 @@
 
 namespace {
 
-/// A widget whose children are those of its parts that are there at the moment of the question. A
-/// client may ask by an index that it learned earlier.
+/// A widget whose children are the parts that exist when a client asks. A client may ask by an
+/// outdated index.
 class AccessibleParent : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -56,7 +56,7 @@ class AccessibleCell : public AccessibleParent {
       : AccessibleParent(cell, QAccessible::ListItem), _cell(cell) {}
 
   QString text(QAccessible::Text kind) const override {
-    // What is read aloud has as many lines as what is painted.
+    // The name that is read aloud has the same lines as the painted text.
     if (kind == QAccessible::Name) return _cell->textField()->printableLines().join(u'\n');
     return QAccessibleWidget::text(kind);
   }
@@ -76,7 +76,7 @@ class AccessibleCell : public AccessibleParent {
   }
 
  private:
-  // The cell's name says what its text and picture show.
+  // Buttons alone: the cell's name covers its text and picture.
   QObjectList parts() const override {
     QObjectList shown;
     for (RowButton *button : _cell->findChildren<RowButton *>()) {

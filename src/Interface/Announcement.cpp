@@ -13,7 +13,7 @@ void Announcement::say(const QString &text) {
 
 void Announcement::hideEvent(QHideEvent *event) {
   QWidget::hideEvent(event);
-  hide();  // or it would be said again when the parent shows again
+  hide();  // otherwise it would be read again when the parent is shown again
 }
 
 #include "moc_Announcement.cpp"

@@ -1,8 +1,8 @@
 #pragma once
 
-// What a screen reader says at once, wherever the keyboard is. Screen readers keep quiet about a
-// label that changes while nobody is at it; what they do read out is a notification that appears,
-// so there is one for them, which nobody sees.
+// A text that a screen reader reads at once, wherever the keyboard focus is. Screen readers ignore
+// a label that changes without the focus but read a notification that appears, so this widget is an
+// invisible notification.
 //
 //   announcement->say(u"disk0s1 mouted at /media/ada/EFI"_s);
 
@@ -12,10 +12,10 @@ class Announcement : public QWidget {
   Q_OBJECT
 
  public:
-  /// A part of the widget, and silent while that is out of sight.
+  /// A child of the widget; silent while the widget is hidden.
   explicit Announcement(QWidget *parent);
 
-  /// An empty text takes back the one before.
+  /// An empty text withdraws the previous one.
   void say(const QString &text);
 
  protected:

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Qt derives the shades in between from the colours of buttons and windows.
+// Qt derives the intermediate shades from the colours of buttons and windows.
 QPalette paletteOf(bool dark) {
   const QColor window = dark ? QColor(0x2b2b2e) : QColor(0xefefef);
   const QColor text = dark ? QColor(0xf2f2f2) : QColor(0x1a1a1a);
@@ -31,7 +31,7 @@ QPalette paletteOf(bool dark) {
 void setDarkAppearance(bool dark, const std::optional<QColor> &accent) {
   const QPalette present = QApplication::palette();
   QPalette palette = dark == hasDarkWindows(present) ? present : paletteOf(dark);
-  // The accent is the desktop's, in a shade on which its text can be read.
+  // The accent is the desktop's, in a shade on which selected text can be read.
   const QColor selected = present.color(QPalette::HighlightedText);
   palette.setColor(QPalette::HighlightedText, selected);
   palette.setColor(QPalette::Highlight,

@@ -21,7 +21,7 @@ bool Application::presentError(const Error &error) {
 int Application::runAlert(const QString &message, const QString &informative,
                           const QStringList &buttons) {
   QMessageBox box(QMessageBox::Warning, {}, message);
-  // The popover, which may be open, lies above ordinary windows.
+  // The open popover is above ordinary windows.
   box.setWindowFlag(Qt::WindowStaysOnTopHint);
   box.setAccessibleName(message);
   box.setTextFormat(Qt::PlainText);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The program as a whole, in what it says to the person in dialogs. They block until they are
-// answered, and need no other window to be there.
+// The dialogs of the program as a whole. They block until they are answered, and need no other
+// window.
 
 #include <QStringList>
 
@@ -12,7 +12,7 @@ enum class TerminateReply { Cancel = 0, Now = 1 };
 
 class Application {
  public:
-  /// What `runAlert` answers for the first button; the second is one more, and so on.
+  /// The value that `runAlert` returns for the first button; each further button is one more.
   static constexpr int kAlertFirstButtonReturn = 1000;
 
   Application() = default;
@@ -20,11 +20,11 @@ class Application {
   Application &operator=(const Application &) = delete;
   virtual ~Application() = default;
 
-  /// Tells the person of an error. Whether it has been dealt with, so that there is nothing more to
-  /// do about it; that the person knows is not enough.
+  /// Shows an error. True when the error has been dealt with, so that there is nothing more to do;
+  /// showing it is not enough for that.
   virtual bool presentError(const Error &error);
 
-  /// Asks the person. Which button was chosen; closing the alert chooses the last.
+  /// Shows an alert and returns the chosen button; closing the alert chooses the last one.
   static int runAlert(const QString &message, const QString &informative,
                       const QStringList &buttons);
 };

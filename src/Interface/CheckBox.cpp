@@ -6,7 +6,7 @@
 
 namespace {
 
-// Another signal takes the place of the first one, which is deprecated later.
+// From Qt 6.7 on this signal replaces `stateChanged`, which is deprecated later.
 #if QT_VERSION < QT_VERSION_CHECK(6, 7, 0)
 constexpr auto kStateChanged = &QCheckBox::stateChanged;
 #else
@@ -36,7 +36,7 @@ void CheckBox::setState(int state) {
 }
 
 void CheckBox::nextCheckState() {
-  // Mixed is a state that only the program can set.
+  // Only the program can set the mixed state.
   setCheckState(state() == kOn ? Qt::Unchecked : Qt::Checked);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// A check box that speaks of its state as 1 (on), 0 (off) and -1 (mixed), and tells a change by a
-// person from one by the program.
+// A check box whose state is 1 (on), 0 (off) or -1 (mixed), and which distinguishes a change by the
+// user from one by the program.
 
 #include <QCheckBox>
 
@@ -17,11 +17,11 @@ class CheckBox : public QCheckBox {
 
   int state() const;
 
-  /// Any value but off and mixed is on. Does not emit `acted`.
+  /// Any value except off and mixed means on. Does not emit `acted`.
   void setState(int state);
 
  signals:
-  /// A person has changed the state: with the mouse, the keyboard or a screen reader.
+  /// The user has changed the state: with the mouse, the keyboard or a screen reader.
   void acted();
 
  protected:

@@ -1,6 +1,6 @@
 #pragma once
 
-// What stands in the table's place while it has no rows: a headline and a line of advice.
+// Shown in place of the table while it has no rows: a headline and a line of advice.
 
 #include <QWidget>
 
@@ -10,7 +10,7 @@ class EmptyView : public QWidget {
  public:
   using QWidget::QWidget;
 
-  /// Plain text both. Screen readers read them as one text of two lines.
+  /// Both are plain text. Screen readers read them as one text of two lines.
   void setText(const QString &headline, const QString &advice);
 
   QSize sizeHint() const override;

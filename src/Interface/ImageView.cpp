@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Pictures come in hundreds of pixels, many rows share one, and each is painted often.
+// Pictures are hundreds of pixels wide, many rows share one, and each is painted often.
 QPixmap scaledPicture(const QImage &image, const QSize &pixels) {
   const QString key =
       u"ImageView %1 %2x%3"_s.arg(image.cacheKey()).arg(pixels.width()).arg(pixels.height());

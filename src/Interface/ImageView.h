@@ -13,7 +13,7 @@ class ImageView : public QWidget {
 
   QImage image() const { return _image; }
 
-  /// A null image shows nothing. Large ones are scaled down, in their own proportions.
+  /// A null image shows nothing. Large images are scaled down, keeping their proportions.
   void setImage(const QImage &image);
 
   QSize sizeHint() const override;

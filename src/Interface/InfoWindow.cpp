@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Where reading begins in the window, whatever the direction of the letters.
+// The side of the window where reading begins, whatever the direction of the text itself.
 Qt::Alignment leadingEdge(const QWidget *widget) {
   return (widget->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
 }
@@ -41,8 +41,8 @@ QLabel *makePicture(QWidget *window) {
   return picture;
 }
 
-// To be selected with the mouse, and by the keyboard: all of it when the keyboard comes to it, which
-// shows where that is.
+// Can be selected with the mouse or the keyboard. The keyboard focus selects the whole text, which
+// also shows where the focus is.
 class Value : public QLabel {
  public:
   explicit Value(const QString &value) : QLabel(printable(value)) {
@@ -113,9 +113,9 @@ void InfoWindow::setFacts(const Facts &facts) {
     auto *label = new QLabel(subject);
     label->setAlignment(Qt::AlignTop);
     auto *shown = new Value(value);
-    label->setBuddy(shown);  // a screen reader says them together
+    label->setBuddy(shown);  // a screen reader reads them together
     _rows->addRow(label, shown);
-    // At once: what is not shown yet has no part in the window's size.
+    // Shown at once, because hidden widgets do not count for the window's size.
     label->show();
     shown->show();
   }

@@ -1,7 +1,6 @@
 #pragma once
 
-// What the program is and what it has found: what a person wants to know, and a report of a fault
-// needs.
+// What the program is and what it has found: facts for the user and for a bug report.
 
 #include <QDialog>
 
@@ -18,9 +17,9 @@ class InfoWindow : public QDialog {
 
   void setFacts(const Facts &facts);
 
-  /// Shows it in front of other windows, with the keyboard.
+  /// Shows the window in front of other windows and gives it the keyboard focus.
   void makeKeyAndOrderFront();
-  /// Moves it to the middle of its screen, where the desktop lets windows be moved.
+  /// Moves the window to the middle of its screen, if the desktop lets programs move windows.
   void center();
 
   /// All facts as plain text, a line for each; what the copy button puts on the clipboard.

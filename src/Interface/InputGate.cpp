@@ -21,10 +21,10 @@ bool isInput(const QEvent *event) {
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
     case QEvent::HoverLeave:
-      // A button goes on knowing whether the pointer is over it.
+      // A button must know at all times whether the pointer is over it.
       return false;
     default:
-      // What the program sends itself is nobody's input.
+      // Events that the program sends itself are not user input.
       return event->isInputEvent() && event->spontaneous();
   }
 }
@@ -38,7 +38,7 @@ bool movesFocus(const QEvent *event) {
 }  // namespace
 
 void letGo(QAbstractButton *button) {
-  // `setDown` alone would let the pointer resume the press.
+  // After `setDown` alone, the pointer could resume the press.
   const QPointF outside(-1, -1);
   QMouseEvent release(QEvent::MouseButtonRelease, outside, button->mapToGlobal(outside),
                       Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
@@ -52,12 +52,12 @@ InputGate::InputGate(const QWidget *window) : _window(window) {
 }
 
 InputGate::~InputGate() {
-  // Input may still be waiting: some run loops serve everything but that.
+  // Input may still be queued: some run loops serve all other events, but not input.
   if (livingGates == 1) QCoreApplication::processEvents();
   qApp->removeEventFilter(this);
   --livingGates;
   if (isClosed()) return;
-  // A button that has not seen its release would take the next one for its own.
+  // A button that has missed its release would take the next release as its own.
   for (QWidget *widget : QApplication::allWidgets()) {
     auto *button = qobject_cast<QAbstractButton *>(widget);
     if (button && button->isDown()) letGo(button);
@@ -73,10 +73,10 @@ void InputGate::setWayOut(QAbstractButton *button) {
 }
 
 bool InputGate::eventFilter(QObject *watched, QEvent *event) {
-  // The program waits for the answer to a dialog, and nothing else.
+  // Only a dialog can get input now, and the program waits for its answer.
   if (QApplication::activeModalWidget() != nullptr) return false;
-  // A shortcut's receiver is an action or a shortcut object. Windows below the widgets keep their
-  // account of what is pressed where, so only what has reached a widget is swallowed.
+  // A shortcut's receiver is an action or a shortcut object. Native windows track what is pressed
+  // where, so only events that have reached a widget are swallowed.
   const auto *widget = qobject_cast<QWidget *>(watched);
   const bool isShut = widget != nullptr && widget->window() == _window && isInput(event) &&
                       !movesFocus(event) && !widget->property(kWayOut).toBool();

@@ -1,9 +1,9 @@
 #pragma once
 
-// While a gate lives, what a person does with the mouse, the keyboard, a wheel, a finger or a pen
-// does not reach the widgets of its window. It is lost, not kept for later: what was meant for a
-// button must not reach the button that has taken its place meanwhile. Painting and timers go on,
-// a dialog that is shown all the same can be answered, and the way out stays open.
+// While a gate exists, the user's input (mouse, keyboard, wheel, touch, pen) does not reach the
+// widgets of the gate's window. It is discarded, not kept for later: a click meant for one button
+// must not reach the button that has replaced it. Painting and timers go on, dialogs can be
+// answered, and the button of `setWayOut` works.
 //
 //   {
 //     const InputGate gate(window);
@@ -22,15 +22,15 @@ class InputGate : public QObject {
 
  public:
   explicit InputGate(const QWidget *window);
-  /// Serves the event loop once, so that input which has come before this is lost as well; then
-  /// lets go, without a click, of buttons whose release was lost.
+  /// Serves the event loop once, so that input from before this call is discarded as well; then
+  /// releases, without a click, the buttons whose release event was discarded.
   ~InputGate() override;
 
-  /// Whether a gate lives.
+  /// Whether any gate exists.
   static bool isClosed();
 
-  /// Nobody may be left with a program that cannot be ended: this button works all the same, once
-  /// the Tab key has moved the focus to it, too.
+  /// This button works while a gate exists, also by keyboard after the Tab key has moved the focus
+  /// to it, so that the user can always quit.
   static void setWayOut(QAbstractButton *button);
 
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -39,5 +39,5 @@ class InputGate : public QObject {
   const QWidget *_window;
 };
 
-/// Lets go of a button that is held down, without a click.
+/// Releases a button that is held down, without a click.
 void letGo(QAbstractButton *button);

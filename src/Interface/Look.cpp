@@ -32,7 +32,8 @@ QColor blend(const QColor &ground, const QColor &over, qreal share) {
                           channel(ground.blueF(), over.blueF()));
 }
 
-// Most widgets have the same palette, and its colours cost more than all the rest of a painting.
+// Cached: most widgets have the same palette, and computing its colours costs more than the rest of
+// a painting.
 const Colors &colorsOf(const QPalette &palette) {
   static qint64 key = 0;
   static std::optional<Colors> colors;
@@ -65,12 +66,12 @@ QColor laidOver(const QColor &ground, const QColor &tint) {
 
 Colors::Colors(const QPalette &palette)
     : isDark(hasDarkWindows(palette)),
-      // Of the two grounds that a palette has, the one that is nearer to the middle is the calmer
-      // in the dark.
+      // The palette offers two background colours. In the dark, the less extreme one is easier on
+      // the eyes.
       ground(palette.color(isDark ? QPalette::Window : QPalette::Base)),
       accent(readableOn(ground, palette.color(QPalette::Active, QPalette::Highlight))),
       selection(blend(ground, accent, isDark ? 0.16 : 0.09)) {
-  // Rows may have the selection behind them, which is a little nearer to the texts.
+  // The selection, which rows may have as background, has a little less contrast to the text.
   const auto readable = [this](const QColor &wished) {
     return readableOn(ground, readableOn(selection, wished));
   };

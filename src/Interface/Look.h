@@ -1,7 +1,7 @@
 #pragma once
 
-// Colours and sizes, all derived from the desktop's palette and font, in light and dark. One is
-// cheap to make: make it where it is needed, so that a change of theme or font shows at the next
+// Colours and sizes, all derived from the desktop's palette and font, in light and dark. An object
+// is cheap to make: make one for each use, so that a change of theme or font shows at the next
 // painting.
 
 #include <QColor>
@@ -10,7 +10,8 @@
 class QPalette;
 class QWidget;
 
-/// Every text reads on the ground with at least 4.5 to 1, and rows' texts on the selection as well.
+/// Every text has a contrast of at least 4.5 to 1 to the ground, and texts in rows also to the
+/// selection.
 struct Colors {
   explicit Colors(const QPalette &palette);
 
@@ -23,9 +24,9 @@ struct Colors {
   QColor disabledText;
   QColor hairline;  // between rows
   QColor border;    // of buttons and of the popover
-  QColor outline;   // of what must be found by its outline alone
-  QColor hover;     // laid over what the pointer is on
-  QColor pressed;   // laid over what is held down
+  QColor outline;   // of widgets that only their outline makes visible
+  QColor hover;     // laid over the widget under the pointer
+  QColor pressed;   // laid over a widget that is held down
   QColor buttonFill;
   QColor red;
   QColor blue;
@@ -40,7 +41,7 @@ class Look : public Colors {
   QFont detailFont() const;  // second lines
   QFont buttonFont(bool isProminent) const;
 
-  /// A length given for the usual font, in proportion to the font in use.
+  /// Scales a length that is given for the usual font to the font in use.
   int scaled(int atUsualSize) const;
 
   int imageSize() const { return scaled(40); }
@@ -55,11 +56,11 @@ class Look : public Colors {
   QFont _font;
 };
 
-/// How well one colour reads on another, from 1 (not at all) to 21 (black on white).
+/// The contrast of two colours, from 1 (none) to 21 (black on white).
 qreal contrastRatio(const QColor &one, const QColor &other);
 
-/// What a tint that lets something through makes of the ground.
+/// The colour that results from a translucent tint over the ground.
 QColor laidOver(const QColor &ground, const QColor &tint);
 
-/// The shade of a colour that is nearest to it and reads on the ground with at least this ratio.
+/// The nearest shade of a colour that has at least this contrast to the ground.
 QColor readableOn(const QColor &ground, const QColor &wished, qreal ratio = 4.5);

@@ -14,7 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-// A linker leaves out what a static library's resources are registered by, unless it is asked for.
+// A linker drops the registration of a static library's resources unless it is called.
 static void registerPictures() {
   Q_INIT_RESOURCE(pictures);
 }
@@ -53,7 +53,7 @@ MainInterface::MainInterface()
 
 MainInterface::~MainInterface() = default;
 
-// In the order in which the keyboard comes to them.
+// In the order of keyboard focus.
 void MainInterface::makeParts() {
   _tableView = new TableView(_content);
   _tableView->setAccessibleName(tr("Partitions"));
@@ -76,8 +76,8 @@ void MainInterface::makeParts() {
   InputGate::setWayOut(_quitButton);
 }
 
-// A program that waits in the tray has no need of fonts and pictures, and whoever never opens it
-// never pays for them.
+// Fonts and pictures are loaded only when the popover first opens: a program that waits in the tray
+// does not need them.
 void MainInterface::arrange() {
   if (_content->layout()) return;
   QApplication::setWindowIcon(QIcon(u":/Keldra.png"_s));
@@ -95,7 +95,7 @@ void MainInterface::arrange() {
   options->addWidget(_statusTextField);
 
   auto *foot = new QHBoxLayout;
-  // A flat button's word, not its invisible frame, is in line with what stands above.
+  // The flat button's text, not its invisible frame, is aligned with the widgets above.
   const int overhang = look.scaled(10);
   const int margin = look.margin() - overhang;
   foot->setContentsMargins(margin, look.scaled(5), margin, look.scaled(5));
@@ -119,7 +119,7 @@ void MainInterface::arrange() {
 }
 
 void MainInterface::showTableOrEmptyText() {
-  if (!_content->layout()) return;  // what is shown takes its size from fonts
+  if (!_content->layout()) return;  // the texts take their size from fonts
   const bool empty = _tableView->numberOfRows() == 0;
   _emptyView->setVisible(empty);
   _tableView->setVisible(!empty);

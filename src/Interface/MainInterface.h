@@ -1,10 +1,10 @@
 #pragma once
 
-// Builds and owns everything that a person sees: the status item's menu, and the popover
-// with the table and the controls around it. It decides what things look like and where they are;
-// what they say and do is up to whoever holds it.
+// Builds and owns everything that the user sees: the status item's menu, and the popover with the
+// table and the controls around it. It decides how widgets look and where they are; its owner
+// decides what they say and do.
 //
-// Start with QApplication and `installAccessibility` in place.
+// Needs QApplication, and `installAccessibility` called.
 
 #include <QCoreApplication>
 #include <QMenu>
@@ -34,11 +34,11 @@ class MainInterface {
   Popover *popover() const { return _popover.get(); }
   /// Its prototype "MainCell" is an ESPTableCellView.
   TableView *tableView() const { return _tableView; }
-  /// What stands in the table's place while it has no rows: what is so, and what to do about it.
+  /// Shown in place of the table while it has no rows: the situation, and what to do about it.
   EmptyView *emptyView() const { return _emptyView; }
-  /// Above the rows: why the list is not complete, while it is not.
+  /// Above the rows: why the list is not complete. Empty when the list is complete.
   Notice *listNotice() const { return _listNotice; }
-  /// Above the rows, too: that there is no tray.
+  /// Also above the rows: says that there is no tray.
   Notice *trayNotice() const { return _trayNotice; }
   CheckBox *showAllDisksCheck() const { return _showAllDisksCheck; }
   CheckBox *forceUmountCheck() const { return _forceUmountCheck; }
@@ -49,7 +49,7 @@ class MainInterface {
   QPushButton *webSiteButton() const { return _webSiteButton; }
   QPushButton *quitButton() const { return _quitButton; }
 
-  /// Never shown by the program itself.
+  /// The program itself never shows it.
   QWidget *window() const { return _window.get(); }
 
   InfoWindow *infoWindow() const { return _infoWindow.get(); }

@@ -1,7 +1,7 @@
 #pragma once
 
-// Something that a person should know while it is so: a few lines above the rows, with a hairline
-// below. It takes no room while there is nothing to say, and screen readers say what is new.
+// A message above the rows that holds for some time: a few lines with a hairline below. It takes no
+// room while it is empty, and screen readers read each new text.
 
 #include <QLabel>
 
@@ -13,7 +13,7 @@ class Notice : public QLabel {
  public:
   explicit Notice(QWidget *parent = nullptr);
 
-  /// Plain text; an empty one takes the notice away.
+  /// Plain text; an empty text removes the notice.
   void setNotice(const QString &text);
 
  protected:

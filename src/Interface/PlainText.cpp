@@ -11,10 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// More than a path of any length that people meet.
+// Longer than any real path.
 constexpr qsizetype kMostPainted = 2000;
 
-/// A tooltip is as wide as its longest word, and a name without blanks is one word: lets it break.
+/// A tooltip is as wide as its longest word, and a name without blanks is one word: allows breaks
+/// in it.
 QString breakable(QString text) {
   static const QRegularExpression kLongWord(u"(\\S{60})(?=\\S)"_s);
   return text.replace(kLongWord, u"\\1\u200B"_s);
@@ -52,7 +53,7 @@ void showPlainToolTip(QWidget *widget, const QPoint &globalPosition, const QStri
     QToolTip::hideText();
     return;
   }
-  // A mark-up around it keeps Qt from guessing at what is within.
+  // Qt does not guess the text's format when the text is inside mark-up.
   QToolTip::showText(globalPosition, u"<p dir='ltr'>"_s + shown.join(u"<br>"_s) + u"</p>"_s,
                      widget);
 }

@@ -27,7 +27,7 @@ QScreen *screenOf(const QRect &anchor) {
 }
 
 void paintShadow(QPainter &painter, const QPainterPath &outline, bool dark) {
-  // Wider and wider strokes, each almost nothing, add up to a soft edge.
+  // Strokes of growing width, each almost transparent, add up to a soft edge.
   QColor shade(Qt::black);
   shade.setAlphaF(dark ? 0.022F : 0.011F);
   for (int width = 1; width <= kShadowWidth; ++width) {
@@ -41,7 +41,7 @@ void paintShadow(QPainter &painter, const QPainterPath &outline, bool dark) {
 Popover::Popover(QWidget *parent)
     : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint) {
   setAttribute(Qt::WA_TranslucentBackground);
-  // It opens without its program being the active one, and stays while a password is asked for.
+  // The popover opens while the program is inactive, and stays while a password is asked for.
   setAttribute(Qt::WA_MacAlwaysShowToolWindow);
   _appearance.setDuration(kAppearanceMilliseconds);
   _appearance.setEasingCurve(QEasingCurve::OutCubic);
@@ -89,7 +89,8 @@ void Popover::closeEvent(QCloseEvent *event) {
   QWidget::closeEvent(event);
 }
 
-// The next time, the keyboard begins at the top, and shows itself when it is used.
+// At the next opening the keyboard focus starts at the top, and its ring shows only when the
+// keyboard is used.
 void Popover::startAfresh() {
   if (QWidget *focused = focusWidget()) focused->clearFocus();
   setAttribute(Qt::WA_KeyboardFocusChange, false);
@@ -124,7 +125,7 @@ void Popover::mouseMoveEvent(QMouseEvent *event) {
 }
 
 bool Popover::event(QEvent *event) {
-  // The content asks for another size when rows come and go.
+  // The content's size hint changes when rows come and go.
   if (event->type() == QEvent::LayoutRequest && isVisible()) place();
   return QWidget::event(event);
 }
@@ -157,20 +158,22 @@ void Popover::place() {
 void Popover::moveFrame() {
   QRect frame = _placement.panel.marginsAdded(margins());
   if (_appearance.state() == QAbstractAnimation::Running) {
-    // Towards the item, so that it is never pushed away from the screen's edge.
+    // Slides towards the item, so that the window never crosses the screen's edge and is pushed
+    // back.
     const int slide = qRound(kSlide * (1 - _appearance.currentValue().toReal()));
     frame.translate(0, _placement.arrowEdge == Qt::BottomEdge ? -slide : slide);
   }
   if (_abilities.canBePlaced) {
     setGeometry(frame);
   } else {
-    // A desktop of tiles leaves windows of one size alone.
+    // A tiling desktop does not resize windows of a fixed size.
     setFixedSize(frame.size());
   }
 }
 
 QMargins Popover::margins() const {
-  // A window that leaves the screen is pushed back, and its arrow away from the item.
+  // The desktop pushes a window that crosses the screen's edge back, which moves the arrow away
+  // from the item.
   const QRect &panel = _placement.panel;
   const auto shadow = [this](int room) {
     return _abilities.canBeTranslucent ? std::clamp(room, 0, kShadowWidth) : 0;
@@ -178,7 +181,7 @@ QMargins Popover::margins() const {
   QMargins margins(shadow(panel.left() - _available.left()), shadow(panel.top() - _available.top()),
                    shadow(_available.right() - panel.right()),
                    shadow(_available.bottom() - panel.bottom()));
-  // The shadow must not lie on the item and take its clicks.
+  // The shadow must not cover the item and take its clicks.
   if (_placement.arrowEdge == Qt::TopEdge) margins.setTop(kArrowHeight);
   if (_placement.arrowEdge == Qt::BottomEdge) margins.setBottom(kArrowHeight);
   return margins;
@@ -216,12 +219,12 @@ QPainterPath Popover::outline(qreal inset) const {
   const bool top = _placement.arrowEdge == Qt::TopEdge;
   const qreal base = top ? panel.top() : panel.bottom();
   const qreal up = top ? -1 : 1;   // away from the panel
-  const qreal inside = base - up;  // or the panel's own line would part them
+  const qreal inside = base - up;  // overlaps the panel's border, which would separate them
   const qreal x = panel.left() + _placement.arrowX;
   const qreal left = std::max(x - kHalfArrow, panel.left());
   const qreal right = std::min(x + kHalfArrow, panel.right());
   QPolygonF arrow{{left, inside}, {x, base + up * (kArrowHeight - 1)}, {right, inside}};
-  // Over a corner, it stands on the side below.
+  // Over a rounded corner, the arrow continues down to the side of the panel.
   const qreal foot = base - up * kCornerRadius;
   if (right > panel.right() - kCornerRadius) arrow << QPointF(panel.right(), foot);
   if (left < panel.left() + kCornerRadius) arrow << QPointF(panel.left(), foot);
@@ -236,7 +239,7 @@ QPixmap Popover::paintedFrame() const {
   const QPainterPath path = outline(0.5);  // a line of one pixel, sharp
   QPixmap frame((QSizeF(size()) * devicePixelRatioF()).toSize());
   frame.setDevicePixelRatio(devicePixelRatioF());
-  // Without a compositor, what the smooth edge lets through would be black.
+  // Without a compositor, the translucent pixels of the smooth edge would be black.
   frame.fill(_abilities.canBeTranslucent ? QColor(Qt::transparent) : look.border);
   QPainter painter(&frame);
   painter.setRenderHint(QPainter::Antialiasing);

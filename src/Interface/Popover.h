@@ -1,12 +1,12 @@
 #pragma once
 
-// A frameless window that hangs from a place on the screen, with an arrow that points at it.
+// A frameless window that is attached to a place on the screen, with an arrow that points there.
 //
 //   popover.setContentView(view);
 //   popover.setBehavior(Popover::Behavior::Transient);
 //   popover.showRelativeTo(statusItem.anchor(), Qt::BottomEdge);
 //
-// It takes the size that its content asks for, follows it when that changes, and never leaves the
+// It takes the size that its content asks for, follows changes of that size, and never leaves the
 // screen.
 
 #include <QPainterPath>
@@ -24,7 +24,7 @@ class PopoverDelegate {
  public:
   virtual ~PopoverDelegate() = default;
 
-  /// Asked when a person drags the popover: whether it may be moved away from its place.
+  /// Called when the user drags the popover: whether it may be moved away from its place.
   virtual bool popoverShouldDetach(Popover *popover) = 0;
   virtual void popoverDidShow() = 0;
   virtual void popoverWillClose() = 0;
@@ -44,36 +44,35 @@ class Popover : public QWidget {
   /// Not owned. Null for none.
   void setDelegate(PopoverDelegate *delegate) { _delegate = delegate; }
 
-  /// Tells what windows can do there. Not owned, and must live as long as the popover. Without one,
-  /// everything can be done.
+  /// Tells what windows can do on this desktop. Not owned, and must live as long as the popover.
+  /// Without a desktop, everything is assumed to be possible.
   void setDesktop(const Desktop *desktop) { _desktop = desktop; }
 
   void setBehavior(Behavior behavior) { _behavior = behavior; }
 
-  /// Whether it appears softly, where the desktop can show that.
+  /// Whether the popover fades in, where the desktop supports that.
   void setAnimates(bool animates) { _animates = animates; }
 
-  /// Takes the view over and destroys the one before.
+  /// Takes ownership of the view and destroys the previous one.
   void setContentView(QWidget *view);
 
-  /// Shows the popover below the anchor, a rectangle in screen coordinates, or over it with
-  /// `Qt::TopEdge`; on the other side where there is no room. A null anchor: where trays are as a rule
-  /// on the screen that has the pointer, without an arrow. Where the desktop places windows itself, it
-  /// has no arrow.
-  /// One that is shown already moves there.
+  /// Shows the popover below the anchor, a rectangle in screen coordinates, or above it with
+  /// `Qt::TopEdge`; on the other side where there is no room. With a null anchor: at the usual place
+  /// of trays on the screen that has the pointer, without an arrow. Where the desktop places windows
+  /// itself, there is no arrow either. A popover that is shown already moves to the new place.
   void showRelativeTo(const QRect &anchor, Qt::Edge preferredEdge);
 
   // close() closes it, as Escape and the window manager do.
   bool isShown() const { return isVisible(); }
 
-  /// While held open, a transient popover does not close because another program becomes the active
-  /// one: that may be a password prompt that the popover's own request has brought up.
+  /// While held open, a transient popover does not close when another program becomes active: that
+  /// program may be the password prompt for the popover's own request.
   void setHeldOpen(bool held) { _heldOpen = held; }
 
   PopoverPlacement placement() const { return _placement; }
 
  signals:
-  /// `showRelativeTo` is about to open it, and has not looked at the content's size yet.
+  /// `showRelativeTo` is about to open the popover and has not read the content's size yet.
   void aboutToShow();
 
  protected:
@@ -87,7 +86,7 @@ class Popover : public QWidget {
   void showEvent(QShowEvent *event) override;
 
  private:
-  /// What its frame depends on, the colours apart.
+  /// What the painted frame depends on, except for the colours.
   struct Shape {
     QSize size;
     std::optional<Qt::Edge> arrowEdge;
@@ -112,7 +111,7 @@ class Popover : public QWidget {
   QRect _anchor;
   Qt::Edge _preferredEdge = Qt::BottomEdge;
   PopoverPlacement _placement;
-  QRect _available;  // of the screen, to windows
+  QRect _available;  // the screen's area that is available to windows
   QVariantAnimation _appearance;
   Behavior _behavior = Behavior::ApplicationDefined;
   bool _animates = false;
@@ -120,5 +119,5 @@ class Popover : public QWidget {
   const Desktop *_desktop = nullptr;
   WindowAbilities _abilities;
   Shape _shape;
-  QPixmap _frame;  // the shadow is dear; null until it is painted for this shape
+  QPixmap _frame;  // cached for this shape, because painting is slow; null until painted
 };

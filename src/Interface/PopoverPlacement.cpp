@@ -4,12 +4,12 @@
 
 namespace {
 
-// The part that fits wins over the wish; what does not fit at all starts at the near edge.
+// `low` wins when the range is empty, so a panel that does not fit starts at the near edge.
 int clamped(int wished, int low, int high) {
   return std::max(low, std::min(wished, high));
 }
 
-// Where the panel may be, as the places of its top left corner.
+// The possible positions of the panel's top left corner.
 QRect roomFor(const QSize &panel, const QRect &available, const PopoverMetrics &metrics) {
   const int aboveAndBelow = std::max(metrics.screenMargin, metrics.arrowHeight);
   const QRect within = available.adjusted(metrics.screenMargin, aboveAndBelow,

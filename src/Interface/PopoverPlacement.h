@@ -14,20 +14,21 @@ struct PopoverPlacement {
 
 struct PopoverMetrics {
   int arrowHeight;   // from the panel's edge to the tip
-  int arrowInset;    // the nearest that the tip comes to a corner
-  int screenMargin;  // what stays free between the panel's sides and the edge of the screen
+  int arrowInset;    // the tip's least distance from a corner
+  int screenMargin;  // the free space between the panel's sides and the edge of the screen
 };
 
 struct PopoverScreen {
   QRect whole;
-  QRect available;  // what bars leave to windows
+  QRect available;  // the area that bars leave to windows
 };
 
-/// Places a panel of this size at the anchor, on its `preferredEdge` (top or bottom), or on the
-/// other side when only that one has room. The panel and its arrow lie within what is available where
-/// they fit. An anchor in a bar at the side of the screen has it beside it, without an arrow. A null
-/// one has it, without an arrow, at the end of the screen's widest bar, where trays are as a rule
-/// (`endsAtRight` in a bar along the top or bottom), or in the middle where there is no bar.
+/// Places a panel of this size at the anchor, on the anchor's `preferredEdge` (top or bottom), or on
+/// the other side when only that side has room. The panel and its arrow lie within the available area
+/// where they fit. For an anchor in a bar at the side of the screen, the panel is beside the anchor,
+/// without an arrow. For a null anchor, the panel is without an arrow at the end of the screen's
+/// widest bar, the usual place of trays (`endsAtRight` in a bar along the top or bottom), or in the
+/// middle where there is no bar.
 PopoverPlacement placePopover(const QSize &panel, const QRect &anchor, Qt::Edge preferredEdge,
                               const PopoverScreen &screen, const PopoverMetrics &metrics,
                               bool endsAtRight = true);

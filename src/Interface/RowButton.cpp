@@ -17,7 +17,7 @@ namespace {
 constexpr int kFrameMilliseconds = 16;
 constexpr qint64 kTurnMilliseconds = 900;
 
-// Where the spinner stands now: a function of the time, so that all spinners turn as one.
+// The spinner's present angle: a function of the time, so that all spinners turn together.
 int spinnerAngle() {
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
   const qint64 milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
@@ -28,7 +28,7 @@ int spinnerAngle() {
 
 RowButton::RowButton(QWidget *parent) : QPushButton(parent) {
   Style::applied(this);
-  // The table leads the keyboard from button to button, also to rows that have no cell yet.
+  // The table moves the focus from button to button, also to rows that have no cell yet.
   setFocusPolicy(Qt::ClickFocus);
   connect(this, &QPushButton::clicked, this, &RowButton::act);
 }
@@ -48,7 +48,7 @@ void RowButton::setAction(Action action) {
 void RowButton::setBusy(bool busy) {
   if (busy == _busy) return;
   _busy = busy;
-  // The spinner's words, for those who do not see it.
+  // Tells screen readers what the spinner shows.
   setAccessibleDescription(busy ? tr("Working") : QString());
   updateSpinner();
   update();
@@ -61,7 +61,7 @@ void RowButton::setProminent(bool prominent) {
 }
 
 void RowButton::act() {
-  // The action may put another one in its own place, or outlive the button.
+  // The action may replace itself on the button, or delete the button.
   const Action action = _action;
   if (!action) return;
   const QPointer<RowButton> self(this);
@@ -79,7 +79,7 @@ bool RowButton::event(QEvent *event) {
   if (event->type() != QEvent::ToolTip) return QPushButton::event(event);
   const int room = width() - 2 * Look(this).scaled(10);
   if (fits(_title, QFontMetrics(Look(this).titleFont()), room)) {
-    event->ignore();  // the row's own tooltip is the better one
+    event->ignore();  // the row's own tooltip says more
   } else {
     showPlainToolTip(this, static_cast<QHelpEvent *>(event)->globalPos(), {_title});
   }
@@ -103,7 +103,7 @@ void RowButton::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_Down:
     case Qt::Key_Left:
     case Qt::Key_Right:
-      event->ignore();  // they move in the table, not among the buttons
+      event->ignore();  // the arrow keys move in the table, not among the buttons
       return;
     default:
       QPushButton::keyPressEvent(event);
@@ -111,7 +111,7 @@ void RowButton::keyPressEvent(QKeyEvent *event) {
 }
 
 void RowButton::mouseDoubleClickEvent(QMouseEvent *event) {
-  // The first press has been acted on, and the row may show something else by now.
+  // The first press has already acted, and the row may show something else by now.
   event->accept();
 }
 
@@ -120,8 +120,8 @@ void RowButton::timerEvent(QTimerEvent *event) {
     update();
     return;
   }
-  // A screen reader's Press clicks a moment later, unless it was cancelled or the input is shut out
-  // since.
+  // A screen reader's Press causes the click a moment later. No click if the press was cancelled or
+  // an input gate was closed in between.
   const QSignalBlocker blocker(!isDown() || InputGate::isClosed() ? this : nullptr);
   QPushButton::timerEvent(event);
 }
@@ -152,7 +152,7 @@ void RowButton::paintEvent(QPaintEvent *) {
   option.features.setFlag(QStyleOptionButton::DefaultButton, isProminent());
   style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
   option.text = QString(shown).replace(u'&', QLatin1String("&&"));
-  option.direction = Qt::LeftToRight;  // whatever the names in it are written in
+  option.direction = Qt::LeftToRight;  // whatever the direction of the names in it
   option.rect.adjust(shift, 0, 0, 0);
   option.state.setFlag(QStyle::State_Enabled, isEnabled() && !_busy);
   style()->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, this);
@@ -162,7 +162,7 @@ void RowButton::paintEvent(QPaintEvent *) {
 }
 
 void RowButton::paintSpinner(QPainter &painter, const Look &look, const QRectF &place) const {
-  constexpr int kSixteenths = 16;  // of a degree, the unit of arcs
+  constexpr int kSixteenths = 16;  // arcs are measured in sixteenths of a degree
   const QRectF ring = place.adjusted(1, 1, -1, -1);
   painter.setPen(QPen(look.border, 2));
   painter.drawEllipse(ring);

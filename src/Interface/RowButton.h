@@ -7,7 +7,7 @@
 //   button->setProminent(true);
 //   button->setAction([this](RowButton *sender) { mountOrUmount(sender); });
 //
-// Rows are recycled, so a press never outlives the title that it was meant for.
+// Rows are recycled, so a press is cancelled when the title changes.
 
 #include <QBasicTimer>
 #include <QPushButton>
@@ -25,11 +25,11 @@ class RowButton : public QPushButton {
 
   QString title() const { return _title; }
 
-  /// Cancels a press that is under way if the title is another one.
+  /// Cancels a press that is under way if the new title differs.
   void setTitle(const QString &title);
 
-  /// What a click does, in place of what it did before: the mouse, Space, Return in a popover, or a
-  /// screen reader's Press. The second press of a double click and a key's repetition are no clicks.
+  /// Replaces the action of a click: the mouse, Space, Return in a popover, or a screen reader's
+  /// Press. The second press of a double click and a key's repetition are not clicks.
   void setAction(Action action);
 
   /// Whether the action has been called and has not returned.
@@ -39,7 +39,7 @@ class RowButton : public QPushButton {
   void setBusy(bool busy);
   bool isBusy() const { return _busy; }
 
-  /// The accent look, for the action that the row is there for.
+  /// The accent look, for the main action of the row.
   void setProminent(bool prominent);
 
   QSize sizeHint() const override;

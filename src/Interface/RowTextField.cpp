@@ -56,9 +56,9 @@ void RowTextField::paintEvent(QPaintEvent *) {
     painter.setPen(line == 0 ? look.text : look.dimText);
     const QFontMetrics metrics = painter.fontMetrics();
     const QRect place(0, top, width(), metrics.lineSpacing());
-    // Marks can be piled on a letter to any height.
+    // Combining marks can be piled on a letter to any height.
     painter.setClipRect(place);
-    // A line keeps its direction whatever the names in it are written in.
+    // The line's direction does not depend on the names in it.
     painter.drawText(
         place, side | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight,
         metrics.elidedText(shown[line], line == 0 ? Qt::ElideMiddle : Qt::ElideRight, width()));

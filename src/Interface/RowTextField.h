@@ -1,9 +1,9 @@
 #pragma once
 
-// The text of a row: a few lines, the first of them semi-bold, the others smaller and dimmer. A line
-// that is too long is shortened: the first in its middle, because what tells the rows apart stands
-// at its end, the others at their ends. What is painted is a harmless copy: names come from disks
-// that strangers have written, and a line break in a name makes no line.
+// The text of a row: a few lines, the first one semi-bold, the others smaller and dimmer. A line
+// that is too long is shortened: the first in its middle, because its end distinguishes the rows,
+// the others at their ends. The painted text is a harmless copy, because names on disks are not
+// trusted; a line break in a name does not make a new line.
 
 #include <QStringList>
 #include <QWidget>
@@ -14,12 +14,12 @@ class RowTextField : public QWidget {
  public:
   explicit RowTextField(QWidget *parent = nullptr);
 
-  /// The lines as they were given, parted by "\n".
+  /// The original lines, separated by "\n".
   QString stringValue() const { return _lines.join(u'\n'); }
   void setLines(const QStringList &lines);
   QStringList lines() const { return _lines; }
 
-  /// The lines as they are painted when there is room.
+  /// The lines as they are painted when there is room for all characters.
   QStringList printableLines() const;
 
   /// Whether any line is shortened at the present width.

@@ -41,10 +41,10 @@ void StatusItem::activated() {
   const auto isWithin = [now = _clock.now()](const auto &moment, std::chrono::milliseconds time) {
     return moment && now - *moment < time;
   };
-  // The desktop may have closed the popover because of this very click.
+  // This click may also have made the desktop close the popover.
   if (isWithin(_closedAt, kToggleGuard)) return;
   if (!_isOpen) return emit action();
-  // The second click of a double click wants what the first one wanted.
+  // The second click of a double click must not undo the first one.
   const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
   if (!isWithin(_openedAt, doubleClick)) emit dismissal();
 }

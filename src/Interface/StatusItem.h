@@ -1,7 +1,7 @@
 #pragma once
 
-// The program's item in the desktop's tray, from which the popover hangs: what a click on it means,
-// and how it looks while the popover is open.
+// The program's item in the desktop's tray, where the popover appears: what a click on the item
+// means, and how the item looks while the popover is open.
 
 #include <QObject>
 #include <QRect>
@@ -22,24 +22,24 @@ class StatusItem : public QObject {
   StatusItem(std::unique_ptr<TrayItem> trayItem, const Clock &clock);
   ~StatusItem() override;
 
-  /// The item shows from its first image on.
+  /// The item is shown when it has its first image.
   void setImage(const QIcon &image);
 
-  /// Whether what hangs from it is open; the item is highlighted then.
+  /// Whether the popover is open; the item is highlighted then.
   void setOpen(bool open);
 
   /// The menu of a right click. Not owned.
   void setMenu(QMenu *menu);
 
-  /// The item's place on the screen; null where the desktop does not tell.
+  /// The item's place on the screen; null where the desktop does not report it.
   QRect anchor() const;
 
   TrayItem &trayItem() { return *_trayItem; }
 
  signals:
-  /// A person has clicked the item to open what hangs from it.
+  /// The user has clicked the item to open the popover.
   void action();
-  /// A person has clicked the item while what hangs from it is open.
+  /// The user has clicked the item while the popover is open.
   void dismissal();
 
  private:

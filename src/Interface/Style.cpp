@@ -16,12 +16,12 @@ constexpr int kPadding = 10;
 constexpr int kScrollBarWidth = 12;
 constexpr int kTextFlags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextHideMnemonic;
 
-/// The keyboard is there, and is in use.
+/// Whether the widget has the focus and the keyboard is in use.
 bool isRinged(const QStyleOption *option) {
   return option->state.testFlags(QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange);
 }
 
-/// What the pointer makes of a control, laid over it.
+/// The tint for a control that is pressed or under the pointer.
 QColor tint(const Look &look, const QStyleOption *option) {
   if (!option->state.testFlag(QStyle::State_Enabled)) return Qt::transparent;
   if (option->state.testFlag(QStyle::State_Sunken)) return look.pressed;
@@ -82,7 +82,7 @@ void paintPushButtonFrame(QPainter *painter, const Look &look, const QStyleOptio
   const bool isEnabled = option->state.testFlag(QStyle::State_Enabled);
   const bool isFlat = option->features.testFlag(QStyleOptionButton::Flat);
   const bool isDefault = option->features.testFlag(QStyleOptionButton::DefaultButton);
-  // The ring stands off the frame, which may have the same colour.
+  // The ring is apart from the frame, which may have the same colour.
   const qreal inset = isRinged(option) ? 3.5 : 1.5;
   const QRectF frame = QRectF(option->rect).adjusted(inset, inset, -inset, -inset);
   const qreal radius = look.scaled(7) - inset + 1.5;
@@ -113,7 +113,7 @@ QSize textSize(const QFont &font, const QStyleOption *option) {
 
 Style *Style::shared() {
   static Style *const style = [] {
-    auto *made = new Style(QStringLiteral("fusion"));  // it is always there
+    auto *made = new Style(QStringLiteral("fusion"));  // Qt always has this style
     made->setParent(qApp);
     return made;
   }();
@@ -141,7 +141,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
   if (type == CT_CheckBox) {
     const QSize text = textSize(widget->font(), option);
     const int side = look.scaled(kBoxSide);
-    // A ring has room around the text.
+    // Leaves room for a focus ring around the text.
     return {side + look.scaled(kBoxGap) + text.width() + 1,
             std::max(side, text.height()) + look.scaled(4)};
   }

@@ -1,13 +1,13 @@
 #pragma once
 
-// How the popover's stock widgets look: check boxes, push buttons (flat ones are mere words until
-// the pointer or the keyboard comes to them), slim scroll bars without arrows, and frames that are
-// hairlines. Desktops' own styles paint for windows of their own colours; on the popover's ground
-// the boxes would lose their outlines in the dark.
+// How the popover's stock widgets look: check boxes, push buttons (flat ones show only their text
+// until they have the pointer or the focus), slim scroll bars without arrows, and frames that are
+// hairlines. Desktops' own styles are made for windows of their own colours; in the dark, check
+// boxes would lose their outlines on the popover's background.
 //
 //   auto *button = Style::applied(new QPushButton(tr("Quit")));
 //
-// It is meant for single widgets: dialogs look as the desktop likes them.
+// Apply it to single widgets: dialogs keep the desktop's style.
 
 #include <QProxyStyle>
 
@@ -15,7 +15,7 @@ class Style : public QProxyStyle {
   Q_OBJECT
 
  public:
-  /// The widget, which has the style from now on.
+  /// Gives the style to the widget, and returns the widget.
   template <typename Widget>
   static Widget *applied(Widget *widget) {
     widget->setStyle(shared());

@@ -7,7 +7,7 @@
 
 TableCellView::TableCellView(QWidget *parent)
     : QWidget(parent), _textField(new RowTextField(this)), _imageView(new ImageView(this)) {
-  // Screen readers remember names, and this one is another partition's after each recycling.
+  // Screen readers cache names, and a recycled cell shows another partition.
   connect(_textField, &RowTextField::stringValueChanged, this, [this] {
     QAccessibleEvent event(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);

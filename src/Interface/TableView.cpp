@@ -55,7 +55,7 @@ void TableView::restoreFocus(const QString &rowKey, qsizetype control) {
     controls[std::min(control, controls.size() - 1)]->setFocus(Qt::OtherFocusReason);
     return;
   }
-  // Another partition's button must not inherit the next press of a key.
+  // The next key press must not go to another partition's button.
   setFocus(Qt::OtherFocusReason);
 }
 
@@ -67,8 +67,8 @@ TableCellView *TableView::makeView(const QString &identifier) {
 }
 
 TableCellView *TableView::takeReusable() {
-  // The cell that the row had before a reload comes first: most rows have not changed, and what a
-  // person is about to press stays the same widget.
+  // The row's cell from before the reload comes first: most rows have not changed, and the widget
+  // that the user is about to press stays the same.
   const auto former = _formerCells.find(_rowBeingFilled);
   if (former != _formerCells.end() && former->second->isReusable()) {
     return _formerCells.extract(former).mapped();
@@ -86,7 +86,7 @@ void TableView::letGo(TableCellView *cell) {
 }
 
 void TableView::dropRetired() {
-  // `deleteLater` alone would strike in the event loop in which a button's action is waiting.
+  // `deleteLater` alone would delete the cell in the nested event loop of a button's action.
   std::erase_if(_retired, [](TableCellView *cell) {
     if (cell->isActing()) return false;
     cell->deleteLater();
@@ -94,7 +94,7 @@ void TableView::dropRetired() {
   });
 }
 
-// Rows that nobody has seen yet cost nothing.
+// Until the table is first shown, rows have no cells.
 void TableView::layOut() {
   if (!_wasShown) return;
   updateScrollBar();
@@ -131,7 +131,7 @@ void TableView::fillRow(qint64 row) {
   _cells[row] = cell;
   cell->setGeometry(placeOf(row));
   cell->show();
-  _scrollBar->raise();  // it lies on the rows' margin
+  _scrollBar->raise();  // the scroll bar overlaps the rows' margin
   _delegate->tableView(this, cell, row);
 }
 
@@ -145,7 +145,7 @@ int TableView::rowHeight() const {
 }
 
 int TableView::viewHeight() const {
-  // Before it is shown the table has no size worth mention; it has its rows ready all the same.
+  // Before the table is shown its height is meaningless, but its rows must be ready.
   return isVisible() ? height() : sizeHint().height();
 }
 
@@ -154,7 +154,7 @@ qint64 TableView::firstRowInView() const {
 }
 
 qint64 TableView::lastRowInView() const {
-  // The height that the table is about to get, when rows have come, counts already.
+  // Counts the height that the table is about to get for new rows, too.
   const int viewed = std::max(viewHeight(), sizeHint().height());
   const qint64 bottom = qint64{_scrollBar->value()} + viewed - 1;
   return std::min(_numberOfRows - 1, bottom / rowHeight());
@@ -166,7 +166,7 @@ void TableView::updateScrollBar() {
   _scrollBar->setRange(0,
                        static_cast<int>(std::min<qint64>(hidden, std::numeric_limits<int>::max())));
   _scrollBar->setPageStep(viewHeight());
-  _scrollBar->setSingleStep(rowHeight() / 3);  // a notch of the wheel is three of these
+  _scrollBar->setSingleStep(rowHeight() / 3);  // the wheel scrolls three steps for a notch
   const int barWidth = _scrollBar->sizeHint().width();
   _scrollBar->setGeometry(width() - barWidth, 0, barWidth, height());
   _scrollBar->setVisible(hidden > 0);

@@ -1,8 +1,7 @@
 #pragma once
 
-// A list of rows of one height and one column. It asks its data source how many rows
-// there are and its delegate for the cell of each row that is in view; rows out of view have no
-// cell.
+// A list with rows of one height and one column. The data source gives the number of rows, and the
+// delegate gives the cell of each row that is in view; rows out of view have no cell.
 //
 //   table.setPrototype(u"MainCell"_s, [](QWidget *parent) { return new Cell(parent); });
 //   table.setDelegate(&delegate);
@@ -42,7 +41,7 @@ class TableViewDelegate {
   /// A cell has been put into view for a row.
   virtual void tableView(TableView *tableView, QWidget *didAddRowView, qint64 forRow) = 0;
 
-  /// A person has selected another row. Never called by a reload.
+  /// The user has selected another row. Never called by a reload.
   virtual void tableViewSelectionDidChange(TableView *sender) = 0;
 };
 
@@ -57,18 +56,18 @@ class TableView : public QWidget {
   void setDelegate(TableViewDelegate *delegate) { _delegate = delegate; }
   void setDataSource(TableViewDataSource *dataSource) { _dataSource = dataSource; }
 
-  /// Whether a group's heading stays in view while its rows scroll. There are no groups as yet.
+  /// Whether a group's heading stays in view while its rows scroll. There are no groups yet.
   void setFloatsGroupRows(bool floats) { _floatsGroupRows = floats; }
 
-  /// Asks for the number of rows and for every row in view anew. Keeps the scroll position, the
+  /// Asks again for the number of rows and for every row in view. Keeps the scroll position, the
   /// selected index and the keyboard focus where the rows allow; destroys no button that is in its
   /// own action.
   void reloadData();
 
-  /// A cell, recycled or new, for the delegate to fill in and return. Null for an identifier that
-  /// is not the prototype's. The table owns it.
+  /// A cell, recycled or new, for the delegate to fill in and return. Null if the identifier is not
+  /// the prototype's. The table owns the cell.
   TableCellView *makeView(const QString &identifier);
-  /// How the cells of its column are made.
+  /// Sets how the cells of its column are made.
   void setPrototype(const QString &identifier, Prototype prototype);
 
   qint64 numberOfRows() const { return _numberOfRows; }
@@ -81,7 +80,7 @@ class TableView : public QWidget {
   /// The cells in view, from the top. A row without a cell is left out.
   std::vector<TableCellView *> visibleCells() const;
 
-  /// Null when the row is not in view, or empty.
+  /// Null when the row is not in view or has no cell.
   TableCellView *cellAtRow(qint64 row) const;
 
   int rowHeight() const;
@@ -105,7 +104,7 @@ class TableView : public QWidget {
   void wheelEvent(QWheelEvent *event) override;
 
  private:
-  // A place that the keyboard can be at: the table itself (row -1) or one control of a row.
+  // A possible place of the keyboard focus: the table itself (row -1) or one control of a row.
   struct Stop {
     qint64 row = -1;
     qsizetype control = -1;
@@ -135,11 +134,11 @@ class TableView : public QWidget {
   TableColumn _column;
   Prototype _prototype;
   Cells _cells;                             // in view, by row
-  std::vector<TableCellView *> _spare;      // hidden, waiting to be used again
-  std::vector<TableCellView *> _retired;    // not to be used again, still in their own action
-  std::vector<TableCellView *> _handedOut;  // made for the row that is being asked for
+  std::vector<TableCellView *> _spare;      // hidden, to be reused
+  std::vector<TableCellView *> _retired;    // not to be reused, still in their own action
+  std::vector<TableCellView *> _handedOut;  // made for the row that is being filled
   qint64 _rowBeingFilled = -1;
-  Cells _formerCells;  // during a reload: what each row showed before it
+  Cells _formerCells;  // during a reload: the cell that each row had before
   bool _isReloading = false;
   bool _wasShown = false;
   qint64 _numberOfRows = 0;

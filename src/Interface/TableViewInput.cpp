@@ -1,5 +1,4 @@
-// The person's side of the table: pointer, wheel, keyboard and the way of the focus through the
-// rows.
+// The table's input: pointer, wheel, keyboard, and how the focus moves through the rows.
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -69,7 +68,7 @@ void TableView::changeSelection(qint64 row) {
 void TableView::focusInEvent(QFocusEvent *event) {
   QWidget::focusInEvent(event);
   update();
-  // Coming back from what follows the table, the keyboard meets the last button first.
+  // When Shift+Tab moves the focus into the table, it goes to the last button.
   if (event->reason() == Qt::BacktabFocusReason) focusRowFrom(_numberOfRows - 1, false);
 }
 

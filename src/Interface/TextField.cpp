@@ -41,8 +41,8 @@ void TextField::setAnimatedStringValue(const QString &text) {
 }
 
 QVariantAnimation *TextField::fadeTo(qreal opacity, int milliseconds, QEasingCurve::Type easing) {
-  // One animation for each fade: a second one on the same property would end the first without a
-  // word, and its text would be lost.
+  // One animation for each fade: a second animation of the same property would end the first one
+  // without a signal, and the first one's text would be lost.
   auto *fade = new QVariantAnimation(this);
   fade->setDuration(milliseconds);
   fade->setEasingCurve(easing);

@@ -1,8 +1,8 @@
 #pragma once
 
-// A label of one line that can change its text by fading. Plain text only, shortened in its middle
-// when there is no room, because what has happened may stand behind a long path; the whole is in
-// the tooltip. Its height never changes, so nothing around it moves.
+// A label of one line that can change its text by fading. Plain text only. When there is no room,
+// the text is shortened in its middle, because its end may be the important part after a long path;
+// the tooltip has the whole text. The height never changes, so nothing around the label moves.
 
 #include <QEasingCurve>
 #include <QLabel>
@@ -23,15 +23,15 @@ class TextField : public QLabel {
   /// Shows the text at once. A fade that is under way goes on.
   void setStringValue(const QString &text);
 
-  /// Fades the present text out (0.3 s), changes it, and fades the new one in (1.0 s). Returns at
-  /// once; does nothing when the text is the one that is shown now. Calls in quick succession each
-  /// run their course, and the last to change the text decides what is shown.
+  /// Fades the present text out (0.3 s), changes it, and fades the new text in (1.0 s). Returns at
+  /// once; does nothing when the text is already shown. Each of several quick calls runs its full
+  /// course, and the last one to change the text decides what is shown.
   void setAnimatedStringValue(const QString &text);
 
-  /// Says more in the tooltip while the field shows this very text.
+  /// Adds a text to the tooltip while the field shows `ofText`.
   void setDetail(const QString &detail, const QString &ofText);
 
-  /// Has screen readers say each new text at once.
+  /// Makes screen readers read each new text at once.
   void setAnnounced();
 
   TextColor textColor() const { return _textColor; }
@@ -55,5 +55,5 @@ class TextField : public QLabel {
   TextColor _textColor = TextColor::Normal;
   Announcement *_announcement = nullptr;
   qreal _opacity = 1.0;
-  const QVariantAnimation *_latestFade = nullptr;  // it alone decides the opacity
+  const QVariantAnimation *_latestFade = nullptr;  // only this one changes the opacity
 };

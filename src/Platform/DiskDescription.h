@@ -5,9 +5,8 @@
 //   const auto description = platform.diskService().descriptionOfMedia(u"disk0s1"_s);
 //   const QString name = description->value(kDADiskDescriptionMediaNameKey).toString();
 //
-// A key that is not in the record is a thing that the service does not know: an unmounted volume
-// has no volume path and no volume name, an unlabelled volume has no volume name. Copies share
-// their data.
+// A key that is not in the record is not known to the service: an unmounted volume has no volume
+// path and no volume name, an unlabelled volume has no volume name. Copies share their data.
 
 #include <QMetaType>
 #include <QString>
@@ -16,8 +15,8 @@
 
 using DiskDescription = QVariantHash;
 
-// In a namespace, because variables of a Mac's frameworks go by these names, and a linker would take
-// them for the same.
+// In a namespace, because a Mac's frameworks have variables of these names, and a linker would merge
+// them.
 namespace disk_service {
 
 // The media: a whole disk or a partition, present whether it is mounted or not.
@@ -36,12 +35,12 @@ inline const QString kDADiskDescriptionMediaEjectableKey =
 inline const QString kDADiskDescriptionMediaIconKey =
     QStringLiteral("DAMediaIcon");  // QVariantMap, under the two keys below
 
-// Which picture stands for the media: a driver bundle and the name of a file among its resources.
+// The picture for the media: a driver bundle and the name of a file among its resources.
 inline const QString kMediaIconBundleKey = QStringLiteral("CFBundleIdentifier");  // QString
 inline const QString kMediaIconFileKey = QStringLiteral("IOBundleResourceFile");  // QString
 
-// The volume on it. Kind and UUID are known from the file system's own header, name and path while
-// mounted.
+// The volume on the media. Kind and UUID are known from the file system's own header, name and path
+// only while the volume is mounted.
 inline const QString kDADiskDescriptionVolumeNameKey = QStringLiteral("DAVolumeName");  // QString
 inline const QString kDADiskDescriptionVolumePathKey =
     QStringLiteral("DAVolumePath");  // QUrl, a local file
@@ -54,25 +53,25 @@ inline const QString kDADiskDescriptionDeviceProtocolKey =
 inline const QString kDADiskDescriptionDeviceInternalKey =
     QStringLiteral("DADeviceInternal");  // bool
 
-/// Our own: the node by which this system's other tools know the media, such as "/dev/nvme0n1p1".
-/// QString.
+/// The program's own key: the device node that this system's other tools use, such as
+/// "/dev/nvme0n1p1". QString.
 inline const QString kDiskDescriptionDeviceNodeKey = QStringLiteral("KeldraDeviceNode");
 
 }  // namespace disk_service
 
 using namespace disk_service;
 
-/// A universally unique identifier as the disk service hands it out.
+/// A universally unique identifier as the disk service returns it.
 class DiskUUID {
  public:
-  /// The nil UUID, which no disk has; a value in a record needs one to begin with.
+  /// The nil UUID, which no disk has; QVariant needs a default constructor.
   DiskUUID() : DiskUUID(QStringLiteral("00000000-0000-0000-0000-000000000000")) {}
 
-  /// Absent unless the text is a canonical UUID of 36 characters: a FAT serial number is none.
+  /// Absent unless the text is a canonical UUID of 36 characters; a FAT serial number is not one.
   static std::optional<DiskUUID> fromText(const QString &text);
 
-  /// How the service prints the value: an address-bearing prefix that ends in "> ", then the UUID
-  /// in capitals.
+  /// How the service prints the value: a prefix with an address that ends in "> ", then the UUID in
+  /// capitals.
   QString description() const;
 
   bool operator==(const DiskUUID &) const = default;

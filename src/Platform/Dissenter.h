@@ -7,7 +7,7 @@
 
 using DissenterStatus = quint32;
 
-// In a namespace for the sake of the backend on a Mac, whose frameworks have the same names.
+// In a namespace, because a Mac's frameworks have the same names.
 namespace disk_service {
 
 inline constexpr DissenterStatus kDAReturnSuccess = 0;

@@ -1,14 +1,14 @@
 #pragma once
 
-// What starts when the user logs in, and what the program remembers for its user: two roles of the
-// seam (see Platform.h) that have nothing to do with disks.
+// The programs that start when the user logs in, and the program's settings of the user: two roles
+// of the seam (see Platform.h) that do not concern disks.
 
 #include <QString>
 #include <QVariant>
 #include <QVector>
 #include <optional>
 
-/// The user's list of programs that start at login, with entries of others among them.
+/// The user's list of programs that start at login, including other programs.
 class LoginItems {
  public:
   struct Item {
@@ -19,16 +19,16 @@ class LoginItems {
 
   virtual ~LoginItems() = default;
 
-  /// The path of this program, as an item for it has it for a location.
+  /// The path of this program, in the form in which an item has it as its location.
   virtual QString ownLocation() const = 0;
 
-  /// The list as it is now, in its order. Absent when it cannot be had.
+  /// The present list, in its own order. Absent when the list cannot be read.
   virtual std::optional<QVector<Item>> snapshot() const = 0;
 
-  /// Adds an item for this program at the end. Leaves the list as it is when that fails.
+  /// Adds an item for this program at the end. On failure the list is unchanged.
   virtual void insertOwnItem() = 0;
 
-  /// Leaves the list as it is when the item is not there, or cannot be removed.
+  /// Leaves the list unchanged when the item is not in it, or cannot be removed.
   virtual void remove(const Item &item) = 0;
 };
 
@@ -37,11 +37,11 @@ class UserDefaults {
  public:
   virtual ~UserDefaults() = default;
 
-  /// Whether it can be told what is stored.
+  /// Whether the stored settings can be read.
   virtual bool canBeRead() const { return true; }
   /// Invalid when nothing is stored under the key.
   virtual QVariant object(const QString &key) const = 0;
   virtual void setBool(const QString &key, bool value) = 0;
-  /// Returns when what was set is on the disk, or cannot be put there.
+  /// Blocks until the settings are on the disk, or cannot be written.
   virtual void synchronize() = 0;
 };

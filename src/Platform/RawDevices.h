@@ -1,7 +1,7 @@
 #pragma once
 
-// What neither the disk service nor its descriptions tell, but the mounted file system or the
-// device itself: a role of the seam (see Platform.h).
+// What only the mounted file system or the device itself reports, not the disk service: a role of
+// the seam (see Platform.h).
 
 #include <QString>
 #include <optional>
@@ -13,12 +13,12 @@ class RawDevices {
   /// Whether devices may be opened: the real user of this process is root.
   virtual bool isPrivileged() const = 0;
 
-  /// Which one of its kind the file system is that is mounted at this path: 0, 1 and 2 are FAT12,
-  /// FAT16 and FAT32. Absent when that cannot be told.
+  /// The variant of the file system that is mounted at this path: 0, 1 and 2 are FAT12, FAT16 and
+  /// FAT32. Absent when it cannot be determined.
   virtual std::optional<quint32> fileSystemSubtype(const QString &mountPoint) const = 0;
 
-  // In bytes, of the disk of this BSD name. Absent when it cannot be opened or does not say. The
-  // device is opened for this one question, which may have to wait until it has woken up.
+  // In bytes, of the disk of this BSD name. Absent when the device cannot be opened or does not
+  // report the size. Each call opens the device and may block until the device has woken up.
 
   virtual std::optional<quint32> physicalBlockSize(const QString &bsdName) const = 0;
   virtual std::optional<quint32> logicalBlockSize(const QString &bsdName) const = 0;

@@ -1,20 +1,20 @@
 #pragma once
 
-// Programs of the operating system: a role of the seam (see Platform.h). On an old system they do
-// what the disk service does on others.
+// Programs of the operating system: a role of the seam (see Platform.h). On an old system they
+// replace the disk service.
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <optional>
 
-/// What became of a program.
+/// The result of running a program.
 struct ProgramRun {
-  /// Why it could not be started, in the system's words; absent when it ran.
+  /// Why the program could not be started, in the system's words; absent when it ran.
   std::optional<QString> problem;
-  /// Not 0 either for a program that did not run or that a signal ended.
+  /// Also not 0 for a program that did not run or that a signal ended.
   int exitStatus = -1;
-  /// What one read of the pipe gives that its standard output is: the first 64 KiB.
+  /// The first 64 KiB of the standard output, which one read of the pipe returns.
   QByteArray output;
 };
 
@@ -22,7 +22,7 @@ class SystemPrograms {
  public:
   virtual ~SystemPrograms() = default;
 
-  /// Runs the program at this path with exactly these arguments and nothing to read, and waits
-  /// until it has ended. Blocks, for as long as that takes, and serves nothing meanwhile.
+  /// Runs the program at this path with exactly these arguments and an empty standard input, and
+  /// waits until it exits. Blocks for that time without serving the event loop.
   virtual ProgramRun run(const QString &path, const QStringList &arguments) = 0;
 };

@@ -11,19 +11,17 @@
 
 class QApplication;
 
-/// What this machine wants of a process before anything else is done in it: the first call in main.
-/// May start the program once more in its own place, or find that this process was started for ends of the
-/// program's own, and not return.
+/// Prepares the process for this machine; the first call in main. May replace the process by a new start
+/// of the program, or not return when this process was started as one of the program's helpers.
 void prepareProcess(char **arguments);
 
-/// The application object, on the window system that serves the program best. A person's own choice counts for
-/// more, and programs that are started from it choose for themselves.
+/// The application object, on the window system that suits the program best. The user's own choice has
+/// priority, and child programs do not inherit the program's choice.
 std::unique_ptr<QApplication> makeApplication(int &argc, char **argv);
 
-/// Returns at once: what is there becomes known when the event loop turns. Needs a
-/// QCoreApplication.
+/// Returns at once; disks become known when the event loop runs. Needs a QCoreApplication.
 std::unique_ptr<Platform> makePlatform();
 
-/// The desktop of this session, on which the program goes by `serviceName`
+/// The desktop of this session, on which the program has the name `serviceName`
 /// ("com.brinmoor.Keldra"). Needs a QApplication.
 std::unique_ptr<Desktop> makeDesktop(const QString &serviceName);

@@ -1,11 +1,11 @@
 #pragma once
 
-// What lies on mounted volumes, their mount points included: a role of the seam (see Platform.h).
+// Files on mounted volumes, including the mount points: a role of the seam (see Platform.h).
 //
-// A volume may answer late or never: its disk is dying, its server is gone. On Linux, all that is asked in one
-// turn of the event loop waits 100 ms together, and a volume that was late is not waited for again until it has
-// answered. Its answer is then kept for a notification without a path, which is posted at once: whoever asks the
-// same again because of it has the answer. On other systems questions block for as long as the volume takes.
+// A volume may answer late or never, because its disk fails or its server is gone. On Linux, all calls in one
+// turn of the event loop wait 100 ms together, and a late volume is not waited for again until it has answered.
+// That answer is kept during a notification without a path, which is posted at once: a caller that repeats its
+// question then gets the answer. On other systems calls block for as long as the volume takes.
 
 #include <QImage>
 #include <QList>
@@ -16,7 +16,7 @@
 
 struct FolderEntry {
   QString name;
-  /// A link to a folder is none.
+  /// False for a link to a folder.
   bool isFolder = false;
 };
 
@@ -24,11 +24,11 @@ struct LookAtPath {
   enum class Access {
     Unknown,  // the volume has not answered in time
     Nothing,  // nothing is there
-    Closed,   // it is no folder that this user may look into, or lies in one that he may not
+    Closed,   // not a folder that this user may read, or inside one that is closed
     Open,
   };
   Access access = Access::Unknown;
-  /// Where it is when all links are followed. Empty unless it can be told that something is there.
+  /// The path with all links resolved. Empty unless something is known to exist there.
   QString realPath;
 };
 
@@ -40,20 +40,21 @@ class VolumeFiles {
 
   virtual LookAtPath look(const QString &path) = 0;
 
-  /// Hidden ones too, in no order. Absent when the folder cannot be listed, or has not answered in time.
+  /// Includes hidden entries; in no order. Absent when the folder cannot be listed, or has not answered
+  /// in time.
   virtual std::optional<QList<FolderEntry>> entries(const QString &folder) = 0;
 
-  /// Nothing happens when it is there already or cannot be made.
+  /// Does nothing when the folder exists already or cannot be made.
   virtual void makeFolder(const QString &path, Parents parents) = 0;
 
-  /// The largest picture in an icon file, null when what the file holds does not decode. Absent when there is
-  /// nothing to read: no such file, a link, no plain file, one that this user may not read or far larger than
-  /// any icon, or when the volume has not answered in time.
+  /// The largest picture in an icon file; null when the content does not decode. Absent when there is nothing
+  /// to read: no such file, a link, not a plain file, one that this user may not read or far larger than any
+  /// icon, or when the volume has not answered in time.
   virtual std::optional<QImage> image(const QString &path) = 0;
 
-  /// Hands out "name (process number)" of each process that has a file or folder below this mount point open,
-  /// runs from there or works there, as far as the system lets this user know. `answer` is called once, inside
-  /// the call or from the event loop, and not at all when this object ends before that.
+  /// Gives `answer` "name (process number)" of each process that has a file or folder below this mount point
+  /// open, runs from there or has its working directory there, as far as the system lets this user know.
+  /// `answer` is called once, inside the call or from the event loop, but not after this object is destroyed.
   virtual void findProcessesUsing(const QString &mountPoint,
                                   std::function<void(const QStringList &)> answer) = 0;
 };

@@ -11,8 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// JSON leaves most characters as they are, and outside of its quotes there are none but harmless
-/// ones.
+/// JSON leaves most characters as they are. Outside of its quotes all characters are harmless.
 QString escaped(const QString &json) {
   QString result;
   for (qsizetype index = 0; index < json.size(); ++index) {

@@ -8,7 +8,7 @@ struct Operation;
 class QJsonValue;
 
 /// Lines for a person: a text in quotes, so that the text "absent" is not taken for the word absent;
-/// a text that stands for a failure is marked; YES or NO.
+/// a text that stands for a failure is marked; "YES" or "NO".
 QString plainAnswer(const Operation &operation, const QJsonValue &answer);
 
 /// One JSON object on a line, with the keys "operation", "argument" (if it takes one), "answer"

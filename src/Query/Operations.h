@@ -13,11 +13,11 @@ struct Operation {
   QString name;
   Takes takes;
   QString sentence;
-  /// The texts that stand for a failure when this operation answers them.
+  /// The answers of this operation that stand for a failure.
   QStringList sentinels;
   /// Null for an absent answer. A picture is its size, "256x256"; a UUID and a path are texts.
   std::function<QJsonValue(const QString &argument)> answer;
 };
 
-/// All of them, in the order in which a person might read about them.
+/// All of them, in a sensible order for the help text.
 const QVector<Operation> &operations();

@@ -52,7 +52,7 @@ void describe(QCommandLineParser &parser) {
                                u"[REFERENCE]"_s);
 }
 
-/// What the words of the command name, or what is wrong with them.
+/// The operation that the command line names, or what is wrong with it.
 std::variant<Operation, QString> operationOf(const QStringList &words) {
   if (words.isEmpty()) return u"an operation is needed"_s;
   for (const Operation &operation : operations()) {
@@ -73,7 +73,7 @@ std::variant<std::unique_ptr<Platform>, QString> platformOf(const QCommandLinePa
                                              std::make_unique<SystemClock>());
 }
 
-/// False when no service answers, or none within this time.
+/// False when no service answers within this time.
 bool waitForService(Platform &platform, std::chrono::milliseconds patience) {
   using enum DiskService::Presence;
   bool finished = platform.diskService().presence() != Asking;

@@ -1,6 +1,6 @@
 #pragma once
 
-// One question to this machine, or to the machine of a file, from the command line.
+// Answers one question about this machine, or about the machine that a file describes.
 //
 //   const QueryResult result = runQuery({u"keldra-query"_s, u"isGPT"_s, u"disk0"_s}, makePlatform);
 
@@ -14,7 +14,7 @@
 struct QueryResult {
   enum Status { Answered = 0, Absent = 1, Misuse = 2, NoService = 3 };
   Status status = Answered;  // the exit status
-  QString output;            // texts from elsewhere have their harmful characters escaped
+  QString output;            // harmful characters from outside are escaped
   QString errors;
 };
 

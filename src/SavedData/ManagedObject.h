@@ -6,8 +6,8 @@
 
 using ObjectID = QUuid;
 
-/// One object of the store: of which kind it is, and what is known of it. A value, without ties to the
-/// store or to a context.
+/// One object of the store: its entity and its values. A value type, not tied to the store or to a
+/// context.
 struct ManagedObject {
   QString entity;
   QMap<QString, QString> values;  // by attribute; an attribute without a value is left out

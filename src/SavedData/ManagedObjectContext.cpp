@@ -42,7 +42,7 @@ std::optional<ObjectID> ManagedObjectContext::insertObject(const QString &entity
 
 bool ManagedObjectContext::setValue(const ObjectID &id, const QString &attribute,
                                     const QString &value) {
-  // An object that is not there is of an entity without attributes.
+  // For an unknown id, `value` gives an object whose entity has no attributes.
   if (!_coordinator.model().hasAttribute(_objects.value(id).entity, attribute)) return false;
   ManagedObjects after = _objects;
   after[id].values.insert(attribute, value);

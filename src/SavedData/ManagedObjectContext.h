@@ -1,7 +1,6 @@
 #pragma once
 
-// Where the store's objects are changed. What is changed is saved by `save` and by nothing else, and can be
-// undone one by one.
+// Changes the store's objects. Only `save` writes the changes. Each change can be undone.
 //
 //   const auto note = context.insertObject(u"Partition"_s);
 //   context.setValue(*note, u"note"_s, u"Windows is on this one"_s);
@@ -18,13 +17,13 @@
 
 class PersistentStoreCoordinator;
 
-/// Something that a person edits a value in before the object gets it, a text field for example.
+/// A widget, such as a text field, that edits a value before the object gets the result.
 class Editor {
  public:
   virtual ~Editor() = default;
 
-  /// Gives the object what has been edited so far. False when that is not possible: the person may
-  /// have typed what cannot be.
+  /// Gives the edited value to the object. False when that is not possible, for example when the
+  /// input is not valid.
   virtual bool commitEditing() = 0;
 };
 
@@ -35,24 +34,25 @@ class ManagedObjectContext {
 
   const ManagedObjects &objects() const { return _objects; }
 
-  // Changes. Absent or false, and nothing is changed, for an entity, an object or an attribute that is
-  // not there.
+  // Changes. For an unknown entity, object or attribute nothing is changed, and the result is absent
+  // or false.
   std::optional<ObjectID> insertObject(const QString &entity);
   bool setValue(const ObjectID &id, const QString &attribute, const QString &value);
   bool deleteObject(const ObjectID &id);
 
   /// Whether there is anything to save.
   bool hasChanges() const;
-  /// When it fails, the changes are still there, and the store is as it was. Blocks.
+  /// On failure the changes are kept and the store is unchanged. Blocks.
   std::optional<Error> save();
 
-  // Editors are not owned. One that ends while it is editing says so before, but not while it commits.
+  // Editors are not owned. An editor that is destroyed while editing reports the end first, but must
+  // not do so while it commits.
   void objectDidBeginEditing(Editor *editor) { _editors.append(editor); }
   void objectDidEndEditing(Editor *editor) { _editors.removeAll(editor); }
   /// Asks each editor to commit. False as soon as one refuses.
   bool commitEditing();
 
-  /// Undoes and repeats the changes. Saving is not undone: what is undone after it is a change.
+  /// Undoes and redoes changes. A save is not undone: an undo after a save is a new change.
   QUndoStack &undoManager() { return _undoManager; }
 
  private:

@@ -1,7 +1,7 @@
 #pragma once
 
-// Which kinds of objects there can be, and what can be known of each: texts, all of them. A model file
-// is a JSON object with the names of each entity's attributes:
+// Which kinds of objects (entities) exist, and the attributes of each. All values are texts. A model
+// file is a JSON object with the names of each entity's attributes:
 //
 //   { "Partition": ["uuid", "note"] }
 
@@ -10,7 +10,7 @@
 
 class ManagedObjectModel {
  public:
-  /// Reads a file that ships with the program. What cannot be made out is not in the model.
+  /// Reads a file that ships with the program. Entries that cannot be parsed are left out.
   explicit ManagedObjectModel(const QString &fileName);
 
   bool hasEntity(const QString &entity) const { return _attributes.contains(entity); }

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Far more than a person's notes.
+// Far more than a user's notes need.
 constexpr qint64 kLargestStore = 1024 * 1024;
 
 Error notWritten(const QString &reason) {
@@ -19,7 +19,7 @@ Error notWritten(const QString &reason) {
           u"The saved data could not be written: %1"_s.arg(reason)};
 }
 
-/// What it cannot keep is an error of the reader's: saving would lose it.
+/// Unknown elements are errors: a save would lose them.
 ManagedObjects readObjects(QXmlStreamReader &xml, const ManagedObjectModel &model) {
   ManagedObjects objects;
   const auto expect = [&xml](QLatin1StringView name, bool isSound) {
@@ -39,7 +39,7 @@ ManagedObjects readObjects(QXmlStreamReader &xml, const ManagedObjectModel &mode
     }
     objects.insert(id, object);
   }
-  // What follows the last tag must be nothing.
+  // Reports anything after the last tag as an error.
   while (!xml.atEnd()) xml.readNext();
   return objects;
 }

@@ -20,9 +20,9 @@ class PersistentStoreCoordinator {
   /// The model must outlive the coordinator.
   explicit PersistentStoreCoordinator(const ManagedObjectModel &model) : _model(model) {}
 
-  /// Reads the file; where there is none, the store is empty and the first save makes it. When it
-  /// cannot be read, or holds anything else than the above, the file stays as it is, and the
-  /// coordinator without a store. Blocks.
+  /// Reads the file. Where there is none, the store is empty and the first save creates the file.
+  /// When the file cannot be read, or has any other content than the above, the file is not changed
+  /// and the coordinator has no store. Blocks.
   std::optional<Error> addXMLStore(const QString &path);
 
   const ManagedObjectModel &model() const { return _model; }
@@ -30,9 +30,9 @@ class PersistentStoreCoordinator {
   /// What the store holds.
   const ManagedObjects &objects() const { return _objects; }
 
-  /// Puts these in the place of what the store holds. On the disk are the ones or the others at any
-  /// moment, whatever happens meanwhile. Texts with characters that XML does not know, such as
-  /// escapes, are refused. Blocks until they are there.
+  /// Replaces what the store holds. At any moment the disk has all the old or all the new objects,
+  /// even after a crash. Texts with characters that XML does not allow, such as escapes, are
+  /// refused. Blocks until the objects are on the disk.
   std::optional<Error> save(const ManagedObjects &objects);
 
  private:

@@ -5,7 +5,7 @@
 
 using TextColor = TextField::TextColor;
 
-TEST(DiskEvents, WhatOthersDoIsFollowedAndSaidInBlue) {
+TEST(DiskEvents, ChangesByOtherProgramsAreShownInBlue) {
   TestMachine machine(twoEspMachine());
   machine.platform.mountFromOutside("disk1s1");
   EXPECT_EQ(machine.status(), "disk1s1 mouted at " + machine.folder("EFI"));
@@ -13,16 +13,16 @@ TEST(DiskEvents, WhatOthersDoIsFollowedAndSaidInBlue) {
   machine.platform.rename("disk1s1", "Boot");
   EXPECT_EQ(machine.status(), machine.folder("EFI") + " renamed!");
 
-  machine.platform.unmountFromOutside("disk1s2");  // not in the list, but on a disk that is
+  machine.platform.unmountFromOutside("disk1s2");  // not listed; another one of its disk is
   EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
   EXPECT_TRUE(machine.text(1).endsWith("WDC Blue: Boot, Basic data"));
 
   machine.platform.pull(1);
   machine.platform.plugBack(1);
-  EXPECT_EQ(machine.status(), machine.folder("EFI") + " umounted!") << "a plug is no news";
+  EXPECT_EQ(machine.status(), machine.folder("EFI") + " umounted!") << "a plug has no message";
 }
 
-TEST(DiskEvents, AForcedUnmountThatMayLoseSomethingSaysSo) {
+TEST(DiskEvents, AForcedUnmountThatMayLoseDataNotifiesTheUser) {
   TestMachine machine(twoEspMachine());
   machine.platform.workspaceNotificationCenter().post(
       {kVolumeUnwrittenNotification, nullptr, {{kNSDevicePathKey, "/media/a"}}});
@@ -30,7 +30,7 @@ TEST(DiskEvents, AForcedUnmountThatMayLoseSomethingSaysSo) {
   EXPECT_TRUE(machine.desktop.notifications[0].contains("/media/a did not answer"));
 }
 
-TEST(DiskEvents, MessagesFollowAndOnlyARefusalsColourDoesNotWait) {
+TEST(DiskEvents, MessagesAreQueuedButARefusalChangesTheColourAtOnce) {
   TestMachine machine(twoEspMachine());
   TextField *field = machine.interface.statusTextField();
   field->setStringValue("before");

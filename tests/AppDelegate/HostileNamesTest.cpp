@@ -1,4 +1,4 @@
-// Names come from disks that strangers have written.
+// Names on disks are not trusted.
 
 #include <gtest/gtest.h>
 
@@ -30,7 +30,7 @@ const QStringList kHostileNames = {
     QString(10240, 'x'),
 };
 
-/// A disk0 with an ordinary ESP, and a disk1 whose own and only partition's names are this one.
+/// A disk0 with an ordinary ESP, and a disk1 with one partition; disk and partition have this name.
 QByteArray machineWith(const QString &name, const QString &mountPoint = {}) {
   const auto quoted = [](const QString &text) {
     return QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
@@ -43,7 +43,7 @@ QByteArray machineWith(const QString &name, const QString &mountPoint = {}) {
       .replace("NAME", quoted(name));
 }
 
-/// What is drawn of the row's text.
+/// The painted text of the row.
 QImage painted(const QByteArray &json) {
   TestMachine machine(json);
   machine.tickShowAll();
@@ -52,10 +52,10 @@ QImage painted(const QByteArray &json) {
 
 }  // namespace
 
-TEST(HostileNames, KeepToTheirRowAndMakeNoButtonActOnAnother) {
+TEST(HostileNames, StayInTheirRowAndNoButtonActsOnAnotherPartition) {
   for (const QString &name : kHostileNames) {
     SCOPED_TRACE(name.left(70).toStdString());
-    // Where no folder can have such a name, the service chooses another.
+    // A name that no folder can have makes the service choose another.
     const bool isFolderName =
         name.size() < 80 && !name.contains('/') && !name.contains(QChar(0)) && name.isValidUtf16();
     TestMachine machine(machineWith(name, isFolderName ? name : "chosen"));
@@ -83,7 +83,7 @@ TEST(HostileNames, KeepToTheirRowAndMakeNoButtonActOnAnother) {
   }
 }
 
-TEST(HostileNames, ArePaintedWithinTheirLineAndLeaveThePartitionsOwnNameInSight) {
+TEST(HostileNames, ArePaintedWithinTheirLineAndDoNotHideTheBsdName) {
   for (const char *kind : {"\n", "\u202E", "\u2028", "\t"}) {
     const QString name = QStringLiteral("ESP on disk0s1%1parent of disk0,");
     EXPECT_EQ(painted(machineWith(name.arg(kind))), painted(machineWith(name.arg("\uFFFD"))))
@@ -99,7 +99,7 @@ TEST(HostileNames, ArePaintedWithinTheirLineAndLeaveThePartitionsOwnNameInSight)
                                                           "slice\": 7, \"media\": \"ESP on")));
 }
 
-TEST(HostileNames, AreNoRichTextInTooltips) {
+TEST(HostileNames, AreNotRichTextInTooltips) {
   const QString name = "<b>&amp;\n" + QString(400, 'x') + "\u202E";
   TestMachine machine(machineWith(name, "/mnt/" + name.left(200)));
   machine.tickShowAll();
@@ -115,7 +115,7 @@ TEST(HostileNames, AreNoRichTextInTooltips) {
   }
 }
 
-TEST(HostileNames, CarryNoMarkupToTheDesktop) {
+TEST(HostileNames, PassNoMarkupToTheDesktop) {
   EXPECT_EQ(withoutMarkup("<a href='x'>y</a> &amp;\n\u202E"),
             "‹a href='x'›y‹/a› ＆amp;\uFFFD\uFFFD");
   EXPECT_LE(withoutMarkup(QString(100000, 'x')).size(), 2000);
@@ -130,7 +130,7 @@ TEST(HostileNames, ForgeNoLineInTheLog) {
   EXPECT_EQ(logged, "a\\u000ab\\u2028c\\ue0041d\\u202e%s %1");
 }
 
-TEST(HostileNames, OfAnyLengthArePaintedAtOnce) {
+TEST(HostileNames, OfAnyLengthArePaintedQuickly) {
   TestMachine machine(machineWith(QString(1000000, 'x'), "/mnt/" + QString(1000000, 'y')));
   machine.tickShowAll();
   QElapsedTimer timer;

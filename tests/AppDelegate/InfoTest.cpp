@@ -8,7 +8,7 @@
 #include "support/OpenedFolders.h"
 #include "support/TestMachine.h"
 
-TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
+TEST(Info, ShowsAndCopiesTheFactsForABugReport) {
   TestMachine machine(twoEspMachine());
   QTest::mouseClick(machine.interface.infoButton(), Qt::LeftButton);
   InfoWindow *window = machine.interface.infoWindow();
@@ -25,7 +25,7 @@ TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
   }
   machine.platform.setPresence(DiskService::Presence::Absent);
   machine.delegate.showInfo();
-  EXPECT_TRUE(window->text().contains("a simulated machine, not there")) << "asked anew";
+  EXPECT_TRUE(window->text().contains("a simulated machine, not there")) << "outdated facts";
 
   machine.settle();
   const QSize size = window->size();
@@ -37,7 +37,7 @@ TEST(Info, ShowsAndCopiesWhatAReportNeeds) {
   QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
   const auto *value = qobject_cast<QLabel *>(window->focusWidget());
   ASSERT_NE(value, nullptr);
-  EXPECT_EQ(value->selectedText(), "Keldra v1.6") << "by the keyboard";
+  EXPECT_EQ(value->selectedText(), "Keldra v1.6") << "selected by the keyboard focus";
   QTest::keyClick(window, Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
 }

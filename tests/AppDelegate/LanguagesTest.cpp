@@ -25,7 +25,7 @@ void expectRoomForWords(const QWidget &window) {
 
 }  // namespace
 
-TEST(Languages, HaveRoomForTheirWordsInTheirDirection) {
+TEST(Languages, FitIntoTheWindowsInTheirDirection) {
   const int usualWidth = TestMachine(twoEspMachine()).interface.popover()->width();
   for (const QString &file : QDir(":/translations").entryList()) {
     const QLocale locale(file.chopped(3).section('_', 1));

@@ -18,7 +18,7 @@ class LaunchAtLogin : public testing::Test {
 
 }  // namespace
 
-TEST_F(LaunchAtLogin, StaysAsItIsWhereTheChoiceCannotBeRead) {
+TEST_F(LaunchAtLogin, IsNotChangedWhenTheStoredChoiceCannotBeRead) {
   machine.platform.userDefaults().setCanBeRead(false);
   for (const bool isOn : {true, false}) {
     set(isOn ? CheckBox::kOn : CheckBox::kOff);
@@ -29,7 +29,7 @@ TEST_F(LaunchAtLogin, StaysAsItIsWhereTheChoiceCannotBeRead) {
   }
 }
 
-TEST_F(LaunchAtLogin, IsTurnedOnByTheFirstStartAndThenByItsBox) {
+TEST_F(LaunchAtLogin, IsTurnedOnByTheFirstStartAndLaterByTheCheckBox) {
   EXPECT_EQ(machine.interface.runAtLoadCheck()->state(), CheckBox::kOn);
   EXPECT_TRUE(machine.delegate.isLaunchAtStartup() && stored());
   QTest::mouseClick(machine.interface.runAtLoadCheck(), Qt::LeftButton, {}, {8, 8});
@@ -41,20 +41,20 @@ TEST_F(LaunchAtLogin, IsTurnedOnByTheFirstStartAndThenByItsBox) {
   EXPECT_EQ(count(), 1) << "on twice adds one item";
 }
 
-TEST_F(LaunchAtLogin, LeavesItemsOfOthersAndTakesOneDuplicateAtATime) {
+TEST_F(LaunchAtLogin, KeepsItemsOfOthersAndRemovesOneDuplicateAtATime) {
   set(CheckBox::kOff);
   SimulatedLoginItems &items = machine.platform.loginItems();
   items.insert(std::nullopt);
   items.insert("/opt/moved/keldra");
   for (int time = 0; time < 2; ++time) items.insert(items.ownLocation());
   set(CheckBox::kOff);
-  EXPECT_TRUE(machine.delegate.isLaunchAtStartup()) << "the second one of ours";
+  EXPECT_TRUE(machine.delegate.isLaunchAtStartup()) << "the second own item";
   set(CheckBox::kOff);
   EXPECT_FALSE(machine.delegate.isLaunchAtStartup());
   EXPECT_EQ(count(), 2);
 }
 
-TEST_F(LaunchAtLogin, ATextCountsByItsFirstCharacterBehindBlanksSignAndZeros) {
+TEST_F(LaunchAtLogin, ReadsAStoredTextByItsFirstSignificantCharacter) {
   const std::pair<const char *, bool> kRows[] = {{"no", false}, {"off", false}, {"-0", false},
                                                  {"Yes", true}, {" +07", true}, {"true", true}};
   for (const auto &[text, isOn] : kRows) {

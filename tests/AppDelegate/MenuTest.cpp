@@ -4,7 +4,7 @@
 
 #include "support/TestMachine.h"
 
-TEST(Menu, DoesWhatTheRowsDoAndTellsTheOutcomeToWhoeverDoesNotSeeThePopover) {
+TEST(Menu, ActsLikeTheRowsAndNotifiesWhileThePopoverIsClosed) {
   TestMachine machine(twoEspMachine());
   machine.interface.popover()->close();
   const auto choose = [&](const QString &title) {
@@ -26,5 +26,5 @@ TEST(Menu, DoesWhatTheRowsDoAndTellsTheOutcomeToWhoeverDoesNotSeeThePopover) {
   machine.delegate.showPopover();
   choose("mount disk1s1");
   EXPECT_EQ(machine.mountButton(1)->title(), "umount disk1s1");
-  EXPECT_EQ(machine.desktop.notifications.size(), 2) << "seen there";
+  EXPECT_EQ(machine.desktop.notifications.size(), 2) << "no notification while the popover is open";
 }

@@ -8,7 +8,7 @@
 #include "support/Files.h"
 #include "support/TestMachine.h"
 
-TEST(PartitionList, SaysWhyItIsNotCompleteUntilItIs) {
+TEST(PartitionList, SaysWhyItIsIncompleteUntilARefreshSucceeds) {
   TestMachine machine(twoEspMachine());
   const Notice *notice = machine.interface.listNotice();
   machine.platform.mountFromOutside("disk1s1");
@@ -22,7 +22,7 @@ TEST(PartitionList, SaysWhyItIsNotCompleteUntilItIs) {
   EXPECT_TRUE(notice->isVisible());
   EXPECT_TRUE(notice->text().contains("disk1s1")) << notice->text().toStdString();
   EXPECT_EQ(machine.mountButton(0)->title(), "mount disk0s1") << "the rows stay as they were";
-  EXPECT_EQ(machine.listed(), QStringList("disk0s1")) << "those before it are known";
+  EXPECT_EQ(machine.listed(), QStringList("disk0s1")) << "the records before the failure are kept";
   EXPECT_THROW(machine.delegate.refreshLists(), std::invalid_argument);
 
   QFile::remove(icon);

@@ -14,7 +14,7 @@ using TextColor = TextField::TextColor;
 
 class RowActions : public testing::Test {
  protected:
-  /// Clicks the first row's button. The answer takes its time, so that this happens meanwhile.
+  /// Clicks the first row's button, and does `work` while the service delays its answer.
   void clickAndMeanwhile(const std::function<void()> &work) {
     machine.platform.setDelay("disk0s1", std::chrono::milliseconds(20));
     QTimer::singleShot(5, qApp, work);
@@ -32,7 +32,7 @@ class RowActions : public testing::Test {
 
 }  // namespace
 
-TEST_F(RowActions, ARefusalIsRedAndTakesItsFiveSeconds) {
+TEST_F(RowActions, ARefusalIsRedAndTakesFiveSeconds) {
   machine.platform.setRefusals("disk0s1", kDAReturnNotPrivileged, std::nullopt);
   const auto before = machine.clock->elapsed();
   machine.click(machine.mountButton(0));
@@ -41,7 +41,7 @@ TEST_F(RowActions, ARefusalIsRedAndTakesItsFiveSeconds) {
   EXPECT_GE(machine.clock->elapsed() - before, std::chrono::seconds(5));
 }
 
-TEST_F(RowActions, ABoxThatIsMixedForcesToo) {
+TEST_F(RowActions, AMixedForceBoxForcesTheUnmount) {
   machine.tickShowAll();
   machine.platform.setRefusals("disk1s2", std::nullopt, kDAReturnBusy);
   machine.interface.forceUmountCheck()->setTristate(true);
@@ -50,7 +50,7 @@ TEST_F(RowActions, ABoxThatIsMixedForcesToo) {
   EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
 }
 
-TEST_F(RowActions, WhileTheServiceWorksTheRowIsBusyAndInputIsLost) {
+TEST_F(RowActions, WhileTheServiceWorksTheRowIsBusyAndInputIsDiscarded) {
   const auto isOffered = [&] { return machine.interface.menu()->actions()[3]->isEnabled(); };
   bool wasBusy = false;
   bool wasOffered = true;
@@ -61,7 +61,7 @@ TEST_F(RowActions, WhileTheServiceWorksTheRowIsBusyAndInputIsLost) {
     QTest::mouseClick(machine.mountButton(0), Qt::LeftButton);
     machine.mountButton(0)->click();  // as a screen reader does
     machine.desktop.actElsewhere();
-    while (machine.clock->now() < std::chrono::minutes(1)) continue;  // or it is a double click
+    while (machine.clock->now() < std::chrono::minutes(1)) continue;  // not a double click
     machine.desktop.clickItem();
   });
   EXPECT_TRUE(wasBusy);
@@ -86,7 +86,7 @@ TEST_F(RowActions, MessagesWaitUntilTheActionIsOverAndItsRefusalStaysRed) {
   EXPECT_EQ(machine.statusColor(), TextColor::Red);
 }
 
-TEST_F(RowActions, TitlesAreReadBackWordByWordAndPathsAreCutAtTheWordOpen) {
+TEST_F(RowActions, TitlesAreSplitIntoWordsAndPathsEndAtTheWordOpen) {
   button.setTitle("whatever disk1s2 more");
   machine.delegate.mountOrUmount(&button);
   EXPECT_EQ(machine.status(), machine.folder("Data") + " umounted!");
@@ -96,7 +96,7 @@ TEST_F(RowActions, TitlesAreReadBackWordByWordAndPathsAreCutAtTheWordOpen) {
   EXPECT_EQ(opened.paths, QStringList("/usr/"));
 }
 
-TEST_F(RowActions, AFolderThatMayNotBeReadOrIsGoneIsSaidAndNotOpened) {
+TEST_F(RowActions, AnUnreadableOrMissingFolderIsReportedAndNotOpened) {
   const QString folder = machine.folder("Data");
   QFile::setPermissions(folder, {});
   {
@@ -111,7 +111,7 @@ TEST_F(RowActions, AFolderThatMayNotBeReadOrIsGoneIsSaidAndNotOpened) {
   EXPECT_EQ(opened.paths, QStringList());
 }
 
-TEST(RefusedRowAction, AsBusyNamesWhoUsesTheVolume) {
+TEST(RefusedRowAction, NamesTheProcessesThatUseABusyVolume) {
   TestMachine machine(R"json({ "disks": [ { "unit": 0, "partitions": [ { "slice": 1,
     "media": "EFI System Partition", "refuse": { "unmount": "busy" },
     "volume": { "kind": "msdos", "mountPoint": "EFI", "usedBy": ["a (1)", "b<i> (2)", "%1%2 (3)",
@@ -127,9 +127,9 @@ TEST(RefusedRowAction, AsBusyNamesWhoUsesTheVolume) {
   machine.interface.popover()->close();
   button->click();
   machine.settle();
-  ASSERT_EQ(machine.desktop.notifications.size(), 1) << "not of what was seen";
+  ASSERT_EQ(machine.desktop.notifications.size(), 1) << "no notification while the popover is open";
   EXPECT_TRUE(machine.desktop.notifications[0].startsWith(refusal + "\nIn use by a (1)"));
   machine.platform.rename("disk0s1", "Other");
   machine.status();
-  EXPECT_FALSE(toolTipOf(statusLine).contains("In use")) << "it belongs to the refusal";
+  EXPECT_FALSE(toolTipOf(statusLine).contains("In use")) << "an outdated detail";
 }

@@ -3,7 +3,7 @@
 #include "Interface/ImageView.h"
 #include "support/TestMachine.h"
 
-TEST(Rows, SayWhatAPartitionIsAndWhereItLies) {
+TEST(Rows, ShowAPartitionsNameDiskAndMountPoint) {
   TestMachine machine(twoEspMachine());
   machine.tickShowAll();
   const QString disk0 =
@@ -16,7 +16,7 @@ TEST(Rows, SayWhatAPartitionIsAndWhereItLies) {
   EXPECT_EQ(machine.text(5), "FAT on disk2s1\nparent of disk2,\nStick: FAT");
 }
 
-TEST(Rows, RefuseRowsAndColumnsThatAreNotThere) {
+TEST(Rows, RefuseRowsAndColumnsThatDoNotExist) {
   TestMachine machine(twoEspMachine());
   TableView *table = machine.interface.tableView();
   EXPECT_EQ(machine.delegate.tableView(table, TableColumn{"Other"}, 0), nullptr);
@@ -24,7 +24,7 @@ TEST(Rows, RefuseRowsAndColumnsThatAreNotThere) {
   EXPECT_EQ(machine.delegate.tableView(table, TableColumn{"MainCell"}, -1), nullptr);
 }
 
-TEST(Rows, SelectionIsRememberedAndARefreshLeavesIt) {
+TEST(Rows, SelectionIsStoredAndKeptByARefresh) {
   TestMachine machine(twoEspMachine());
   EXPECT_EQ(machine.delegate.lastSelectedRow(), -1);
   machine.interface.tableView()->setFocus();

@@ -18,7 +18,7 @@ class SavedDataTest : public testing::Test {
   ManagedObjectContext *context() { return machine.delegate.managedObjectContext(); }
 
   void change() { context()->setValue(*context()->insertObject("Partition"), "note", "mine"); }
-  /// Changes something, and makes it impossible to save it.
+  /// Makes a change and then makes it impossible to save.
   void changeInVain() {
     change();
     EXPECT_TRUE(QDir(folder).removeRecursively());
@@ -32,7 +32,7 @@ class SavedDataTest : public testing::Test {
   const QString store = folder + "/OSXCoreDataObjC.storedata";
 };
 
-TEST_F(SavedDataTest, IsMadeOnFirstUseAndReadByTheNextProgram) {
+TEST_F(SavedDataTest, IsCreatedOnFirstUseAndReadAfterARestart) {
   EXPECT_EQ(shouldTerminate(), TerminateReply::Now);
   EXPECT_FALSE(QFile::exists(folder)) << "a store that is not used leaves no trace";
   EXPECT_EQ(machine.delegate.windowWillReturnUndoManager(nullptr), &context()->undoManager());
@@ -42,10 +42,10 @@ TEST_F(SavedDataTest, IsMadeOnFirstUseAndReadByTheNextProgram) {
   EXPECT_EQ(next.managedObjectContext()->objects(), context()->objects());
   change();
   EXPECT_EQ(shouldTerminate(), TerminateReply::Now);
-  EXPECT_FALSE(context()->hasChanges()) << "it saves";
+  EXPECT_FALSE(context()->hasChanges()) << "the changes should be saved";
 }
 
-TEST_F(SavedDataTest, WhatCannotBeSetUpIsSaidAndTriedAnew) {
+TEST_F(SavedDataTest, AFailedSetUpIsReportedAndTriedAgain) {
   const std::pair<QString, QString> kRows[] = {
       {folder, "Expected a folder to store application data, found a file (" + folder + ")."},
       {store,
@@ -64,7 +64,7 @@ TEST_F(SavedDataTest, WhatCannotBeSetUpIsSaidAndTriedAnew) {
   EXPECT_NE(context(), nullptr);
 }
 
-TEST_F(SavedDataTest, TheAlertKeepsTheProgramByItsFirstButtonOnly) {
+TEST_F(SavedDataTest, OnlyTheFirstButtonOfTheAlertKeepsTheProgramRunning) {
   changeInVain();
   for (const QString answer : {"Quit anyway", "Cancel", "Escape"}) {
     Dialogs dialogs({"OK", answer});
@@ -76,7 +76,7 @@ TEST_F(SavedDataTest, TheAlertKeepsTheProgramByItsFirstButtonOnly) {
   }
 }
 
-TEST_F(SavedDataTest, AnEditorThatRefusesKeepsTheProgram) {
+TEST_F(SavedDataTest, AnEditorThatRefusesPreventsQuitting) {
   struct Refusing : Editor {
     bool commitEditing() override { return false; }
   } refusing;
@@ -85,13 +85,13 @@ TEST_F(SavedDataTest, AnEditorThatRefusesKeepsTheProgram) {
   testing::internal::CaptureStderr();
   EXPECT_EQ(shouldTerminate(), TerminateReply::Cancel);
   machine.delegate.saveAction();
-  EXPECT_TRUE(QFile::exists(store)) << "it goes on and saves";
+  EXPECT_TRUE(QFile::exists(store)) << "saveAction saves all the same";
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "AppDelegate:applicationShouldTerminate: unable to commit editing to terminate\n"
             "AppDelegate:saveAction: unable to commit editing before saving\n");
 }
 
-TEST_F(SavedDataTest, EveryWayOutGoesThroughTheAlertAndOpensOnlyOne) {
+TEST_F(SavedDataTest, EveryWayToQuitShowsTheAlertExactlyOnce) {
   quitWithTheSystem(machine.delegate);
   changeInVain();
   const std::function<void()> kWays[] = {
@@ -106,7 +106,7 @@ TEST_F(SavedDataTest, EveryWayOutGoesThroughTheAlertAndOpensOnlyOne) {
   }
 }
 
-TEST_F(SavedDataTest, IsAskedAboutWhileARowActionLastsTooLong) {
+TEST_F(SavedDataTest, QuittingDuringALongRowActionAsksAboutUnsavedData) {
   machine.platform.setDelay("disk0s1", std::chrono::milliseconds(5500));
   changeInVain();
   Dialogs dialogs({"OK", "Escape"});
@@ -117,11 +117,11 @@ TEST_F(SavedDataTest, IsAskedAboutWhileARowActionLastsTooLong) {
                      [&] { QTest::mouseClick(machine.interface.quitButton(), Qt::LeftButton); });
   machine.click(machine.mountButton(0));
   machine.settle();
-  EXPECT_EQ(dialogs.texts.size(), 2) << "once";
-  EXPECT_EQ(ends, QList<qsizetype>{2}) << "after it was asked";
+  EXPECT_EQ(dialogs.texts.size(), 2) << "one error dialog and one alert";
+  EXPECT_EQ(ends, QList<qsizetype>{2}) << "exits after the alert";
 }
 
-TEST_F(SavedDataTest, ASessionEndsWithWhatIsSavedAndIsKeptByWhatIsNot) {
+TEST_F(SavedDataTest, TheSessionEndsOnlyAfterASuccessfulSaveOrAnswer) {
   const auto mayEnd = [this](bool mayAsk) {
     return machine.delegate.sessionMayEnd([mayAsk] { return mayAsk; });
   };

@@ -11,10 +11,10 @@ class ShowPopoverTest : public testing::Test {
  protected:
   Popover &popover() { return *machine.interface.popover(); }
 
-  TestMachine machine{twoEspMachine()};  // opens it
+  TestMachine machine{twoEspMachine()};  // opens the popover
 };
 
-TEST_F(ShowPopoverTest, ActivityElsewhereClosesItAndNothingElseEndsTheMonitor) {
+TEST_F(ShowPopoverTest, OnlyActivityElsewhereClosesItAndDestroysTheMonitor) {
   popover().close();
   machine.delegate.showPopover();
   EXPECT_EQ(machine.desktop.monitors, 1);
@@ -26,14 +26,14 @@ TEST_F(ShowPopoverTest, ActivityElsewhereClosesItAndNothingElseEndsTheMonitor) {
   EXPECT_NE(machine.delegate.popoverTransiencyMonitor(), nullptr);
 }
 
-TEST_F(ShowPopoverTest, OpensWhereTheItemIsAndWithAnEmptyStatusLine) {
+TEST_F(ShowPopoverTest, OpensAtTheItemWithAnEmptyStatusLine) {
   machine.click(machine.mountButton(0));
   EXPECT_FALSE(machine.status().isEmpty());
   machine.desktop.item->shownAt = QRect();
   emit machine.desktop.reopened();
   machine.settle();
   EXPECT_EQ(machine.interface.statusTextField()->stringValue(), QString());
-  EXPECT_EQ(popover().placement().arrowEdge, std::nullopt) << "nobody knows where the item is";
+  EXPECT_EQ(popover().placement().arrowEdge, std::nullopt) << "the item's place is unknown";
   popover().close();
   machine.desktop.item->shownAt = QRect(400, 0, 24, 24);
   emit machine.desktop.reopened();
@@ -41,7 +41,7 @@ TEST_F(ShowPopoverTest, OpensWhereTheItemIsAndWithAnEmptyStatusLine) {
   EXPECT_TRUE(popover().placement().arrowEdge.has_value());
 }
 
-TEST_F(ShowPopoverTest, TheKeyboardComesToEverythingInOrderAndIsSeen) {
+TEST_F(ShowPopoverTest, TabReachesEveryControlInOrderWithAVisibleFocus) {
   QStringList met;
   QWidget *focused = machine.interface.tableView();
   for (int step = 0; step < 9; ++step) {
@@ -58,7 +58,7 @@ TEST_F(ShowPopoverTest, TheKeyboardComesToEverythingInOrderAndIsSeen) {
             "Partitions");
 }
 
-TEST(ProgramWithoutATray, SaysSoInThePopoverOnceUnlessTheSessionHasStartedIt) {
+TEST(ProgramWithoutATray, ShowsANoticeOnceUnlessTheSessionHasStartedIt) {
   for (const bool startedAtLogin : {true, false}) {
     SimulatedPlatform platform(machineOf(twoEspMachine()), std::make_unique<SteppingClock>());
     const CurrentPlatform current(platform);
@@ -72,10 +72,10 @@ TEST(ProgramWithoutATray, SaysSoInThePopoverOnceUnlessTheSessionHasStartedIt) {
     const auto isShown = [&] { return interface.popover()->isShown(); };
     EXPECT_EQ(QTest::qWaitFor(isShown, 2000), !startedAtLogin);
     EXPECT_EQ(interface.trayNotice()->text(), startedAtLogin ? "" : "Get a tray.");
-    EXPECT_EQ(interface.tableView()->visibleCells().empty(), startedAtLogin) << "nobody looks";
+    EXPECT_EQ(interface.tableView()->visibleCells().empty(), startedAtLogin) << "not at login";
     interface.popover()->close();
     delegate.showPopover();
-    EXPECT_FALSE(interface.trayNotice()->isVisible()) << "it has been said";
+    EXPECT_FALSE(interface.trayNotice()->isVisible()) << "the notice is shown once";
   }
 }
 

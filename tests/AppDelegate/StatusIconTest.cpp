@@ -4,7 +4,7 @@
 
 #include "support/TestMachine.h"
 
-TEST(StatusIcon, IsForADarkBarByATextInAnyMixOfCapitalsAndTwiceTheSizeOnDenseScreens) {
+TEST(StatusIcon, DependsOnTheInterfaceStyleAndTheScaleFactor) {
   EXPECT_TRUE(isDarkInterfaceStyle("dARK"));
   for (const QVariant &light :
        {QVariant(), QVariant("Light"), QVariant(1), QVariant(QByteArray("Dark"))}) {

@@ -17,7 +17,7 @@ class Finders : public testing::Test {
 
 }  // namespace
 
-TEST_F(Finders, TakeNamesDevicePathsAndMountPoints) {
+TEST_F(Finders, AcceptNamesDevicePathsAndMountPoints) {
   const QString path = machine.folder("Data");
   const QString link = machine.folder("link");
   ASSERT_TRUE(QFile::link(path, link));
@@ -32,7 +32,7 @@ TEST_F(Finders, TakeNamesDevicePathsAndMountPoints) {
   EXPECT_EQ(DA::findBSDdiskParent("disk1"), "disk1");
 }
 
-TEST_F(Finders, TellNoReferenceFromAnUnknownDiskByItsFirstLetters) {
+TEST_F(Finders, DistinguishInvalidReferencesFromUnknownDisks) {
   for (const char *reference :
        {"", "rdisk0s1", "Disk0s1", "dev/disk0s1", "N/A", "/no/such/path", "/dev/rdisk0s1"}) {
     EXPECT_EQ(getDAdiskDescriptionFromBSDorMountpoint(reference), std::nullopt) << reference;
@@ -43,7 +43,7 @@ TEST_F(Finders, TellNoReferenceFromAnUnknownDiskByItsFirstLetters) {
   }
 }
 
-TEST_F(Finders, AnswerForUnknownDisksWithTheirSentinels) {
+TEST_F(Finders, ReturnTheirSentinelsForUnknownDisks) {
   EXPECT_EQ(DA::findPartitionName("disk99"), std::nullopt);
   EXPECT_EQ(DA::findDiskUUID("disk99"), std::nullopt);
   EXPECT_EQ(DA::findBSDdiskParent("disk99"), "disk(null)");
@@ -53,7 +53,7 @@ TEST_F(Finders, AnswerForUnknownDisksWithTheirSentinels) {
   EXPECT_FALSE(DA::isGPT("disk99") || DA::isWritable("disk99") || DA::isMountPointValid("disk99"));
 }
 
-TEST_F(Finders, AskThePartitionOrItsDiskAsEachOneMust) {
+TEST_F(Finders, ReadThePartitionOrItsWholeDisk) {
   EXPECT_EQ(DA::findPartitionSchemeMap("disk1s1"), "GUID_partition_scheme");
   EXPECT_EQ(DA::findVolumeMediaContent("disk1s1"), "C12A7328-F81F-11D2-BA4B-00A0C93EC93B");
   EXPECT_EQ(DA::findDeviceProtocol("disk1s1"), "SATA");
@@ -61,14 +61,14 @@ TEST_F(Finders, AskThePartitionOrItsDiskAsEachOneMust) {
   EXPECT_FALSE(DA::isWritable("disk2s1"));
   EXPECT_EQ(DA::findVolumeUUID("disk1s2"), "AAAAAAAA-BBBB-4CCC-8DDD-EEEEEEEEEEEE");
   EXPECT_EQ(DA::findDiskUUID("disk1s2"), "11111111-2222-3333-4444-5555555555AA");
-  EXPECT_EQ(DA::findVolumeUUID("disk2s1"), "disk(null)") << "a FAT serial number is none";
+  EXPECT_EQ(DA::findVolumeUUID("disk2s1"), "disk(null)") << "a FAT serial number is not a UUID";
   EXPECT_EQ(DA::findMountPointName("disk1s2"), "Data");
   EXPECT_EQ(DA::findMountPointName("disk1s1"), "N/A") << "while it is not mounted";
   EXPECT_EQ(DA::findMountPoint("disk1s1"), std::nullopt);
   EXPECT_EQ(DA::getListOfMountedMedia(), QStringList({"Data", "System"}));
 }
 
-TEST(FindersOnOddMachines, KeepUnitsAndSlicesAboveNineApartAndTheSiblingLinesPunctuation) {
+TEST(FindersOnOddMachines, ReadNumbersAboveNineAndKeepPunctuationInNames) {
   const TestPlatform machine(R"json({ "disks": [
     { "unit": 1, "scheme": "GUID_partition_scheme", "partitions": [ { "slice": 2 },
       { "slice": 10, "media": "EFI System Partition" }, { "slice": 3, "media": "Same" } ] },

@@ -26,7 +26,7 @@ class Mounting : public testing::Test {
 
 }  // namespace
 
-TEST_F(Mounting, SaysYesWithoutAskingWhenThereIsNothingToDo) {
+TEST_F(Mounting, SucceedsWithoutARequestWhenThereIsNothingToDo) {
   machine.platform.setRefusals("disk1s2", kDAReturnError, kDAReturnError);
   EXPECT_TRUE(DiskArbitrator::mountPartition("disk1s2", std::nullopt));
   machine.platform.setRefusals("disk1s1", kDAReturnError, kDAReturnError);
@@ -34,7 +34,7 @@ TEST_F(Mounting, SaysYesWithoutAskingWhenThereIsNothingToDo) {
   EXPECT_TRUE(notes.isEmpty());
 }
 
-TEST_F(Mounting, MountsWhereTheServiceLikesOrAtAFolderThatItMakesAndIsNotOccupied) {
+TEST_F(Mounting, UsesTheServicesChoiceOrANewFolderThatIsNotInUse) {
   const QString deep = machine.folder("new/inner");
   EXPECT_TRUE(DiskArbitrator::mountPartition("disk0s1", deep));
   EXPECT_EQ(DiskArbitrator::findBSDName(deep), "disk0s1");

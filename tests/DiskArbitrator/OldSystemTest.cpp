@@ -31,7 +31,7 @@ class OldSystem : public testing::Test {
 TEST(DiskFree, ReadsTheLineThatBeginsWithTheDevice) {
   const std::pair<QString, std::optional<QString>> kCases[] = {
       {"head\n/dev/disk0s1 9 9 9 37% /Volumes/EFI 1\n", "/Volumes/EFI 1"},
-      {"/dev/disk0s1 9 37% 5 6 12% /\n", "5 6 12"},  // the second piece, whatever it is
+      {"/dev/disk0s1 9 37% 5 6 12% /\n", "5 6 12"},  // the second piece, whatever it contains
       {"/dev/disk0s10 9 1% /other\n/dev/disk0s1 9 2% /own\n", "/other"},
       {"/dev/disk0s1 9 9\n/dev/disk0s1 9 9 2% /later\n", std::nullopt},
       {"map /dev/disk0s1 9 2% /inner\n", std::nullopt},
@@ -41,26 +41,26 @@ TEST(DiskFree, ReadsTheLineThatBeginsWithTheDevice) {
   }
 }
 
-TEST_F(OldSystem, MountsAnESPOnTheFirstFolderThatTheRuleNames) {
+TEST_F(OldSystem, MountsAnESPOnTheFirstFreeFolder) {
   EXPECT_TRUE(DA::mountPartition("disk1s1", std::nullopt));
   EXPECT_EQ(mountedAt("disk1s1"), machine.folder("EFI"));
   EXPECT_EQ(DA::findMountPoint("disk1s1"), machine.folder("EFI"));
   EXPECT_TRUE(DA::umountPartition("disk1s1", false));
   EXPECT_EQ(mountedAt("disk1s1"), "");
 
-  makeFolder("EFI");  // empty, and yet passed over
+  makeFolder("EFI");  // skipped although empty
   makeFolder("EFI 1/in use");
   makeFolder("EFI 2/.hidden");
   EXPECT_TRUE(DA::mountPartition("disk1s1", QString("(null)")));
   EXPECT_EQ(mountedAt("disk1s1"), machine.folder("EFI 2"));
-  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("none/deep"))) << "only one is made";
-  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("Data//"))) << "it is in use";
+  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("none/deep"))) << "one level only";
+  EXPECT_FALSE(DA::mountPartition("disk0s1", machine.folder("Data//"))) << "the folder is in use";
   EXPECT_TRUE(DA::mountPartitionModeLegacy("disk1s2", machine.folder("Data")));
   EXPECT_TRUE(DA::mountPartition("disk0s1", machine.folder("%1 %2")));
   EXPECT_EQ(mountedAt("disk0s1"), machine.folder("%1 %2"));
 }
 
-TEST_F(OldSystem, TakesAnUnmountedESPForMountedAndLeavesTheRestToTheService) {
+TEST_F(OldSystem, TreatsEveryESPAsMountedAndOtherPartitionsByTheService) {
   EXPECT_EQ(DA::findMountPointName("disk1s1"), "EFI");
   EXPECT_EQ(DA::findMountPoint("disk1s1"), "N/A");
   EXPECT_TRUE(DA::isMountPointValid("disk1s1"));
@@ -68,13 +68,13 @@ TEST_F(OldSystem, TakesAnUnmountedESPForMountedAndLeavesTheRestToTheService) {
 
   machine.platform.setRefusals("disk1s2", std::nullopt, kDAReturnBusy);
   EXPECT_TRUE(DA::umountPartition("disk1s2", false));
-  EXPECT_EQ(DA::findMountPoint("disk1s2"), machine.folder("Data")) << "not by force";
+  EXPECT_EQ(DA::findMountPoint("disk1s2"), machine.folder("Data")) << "not forced";
 }
 
-TEST_F(OldSystem, ChoosesAFolderThatIsEmptyButForWhatIsHidden) {
+TEST_F(OldSystem, AcceptsAFolderWithHiddenEntriesOnly) {
   const QString folder = machine.folder("chosen");
   const auto isEmpty = [&] { return DA::chosenFolderIsEmpty(folder); };
-  EXPECT_FALSE(isEmpty()) << "it is not there";
+  EXPECT_FALSE(isEmpty()) << "the folder does not exist";
   makeFolder("chosen/.DS_Store");
   EXPECT_TRUE(isEmpty());
   QDir(folder).rmdir(".DS_Store");

@@ -22,7 +22,7 @@ QByteArray probedMachine(const QByteArray &more = {}) {
 
 }  // namespace
 
-TEST(FileSystemPersonality, TellsTheWidthOfAMountedFATAndTheKindOfOthers) {
+TEST(FileSystemPersonality, GivesTheWidthOfAMountedFATAndTheKindOfOthers) {
   const TestPlatform machine(probedMachine());
   const std::tuple<QString, QString, bool> kCases[] = {
       {"disk0s1", "Fat32", true},   {"/dev/disk0s2", "Fat16", true}, {"disk0s3", "Fat12", true},
@@ -34,10 +34,10 @@ TEST(FileSystemPersonality, TellsTheWidthOfAMountedFATAndTheKindOfOthers) {
   }
   const TestPlatform old(probedMachine(R"("productVersion": "10.8",)"));
   EXPECT_EQ(DA::findFileSystemPersonality("/dev/disk0s1"), "Fat32");
-  EXPECT_EQ(DA::findMountPointLegacy("disk0s1"), "N/A") << "it is not looked into";
+  EXPECT_EQ(DA::findMountPointLegacy("disk0s1"), "N/A") << "the partition must not be mounted";
 }
 
-TEST(SectorSize, IsThePhysicalOneOfTheWholeDiskWhereItIsTold) {
+TEST(SectorSize, IsThePhysicalSizeOfTheWholeDiskIfKnown) {
   const TestPlatform machine(probedMachine());
   EXPECT_EQ(DA::findSectorSize("disk0s2"), "Physical 4096-bytes");
   EXPECT_EQ(DA::findSectorSize("disk1"), "Logical 512-bytes");

@@ -22,12 +22,12 @@ TEST(VolumeIcon, IsTheVolumesOwnWhileItIsMounted) {
   const QString file = machine.folder("Data") + "/.VolumeIcon.icns";
   for (const QColor color : {Qt::magenta, Qt::cyan}) {
     writeFile(file, icns({{"ic08", pngOf(256, color)}}));
-    EXPECT_EQ(DA::findVolumeIcon("disk1s2").pixelColor(0, 0), color) << "written anew";
+    EXPECT_EQ(DA::findVolumeIcon("disk1s2").pixelColor(0, 0), color) << "a changed file";
   }
   EXPECT_EQ(DA::findVolumeIcon("disk1s1"), shipped(kDriver + "Internal.icns"))
-      << "not that of its disk";
+      << "not another volume's icon";
   writeFile(file, "no picture");
-  EXPECT_TRUE(DA::findVolumeIcon("disk1s2").isNull()) << "ends the search";
+  EXPECT_TRUE(DA::findVolumeIcon("disk1s2").isNull()) << "ends the search for icons";
   ASSERT_TRUE(QFile::remove(file) && QFile::link(machine.folder("elsewhere"), file));
   writeFile(machine.folder("elsewhere"), icns({{"ic08", pngOf(256, Qt::magenta)}}));
   EXPECT_EQ(DA::findVolumeIcon("disk1s2"), shipped(kDriver + "Internal.icns"));

@@ -8,14 +8,14 @@
 #include "Foundation/Paths.h"
 #include "Foundation/Text.h"
 
-TEST(Text, HasABeginningAndAnEnd) {
+TEST(Text, ParsesLeadingNumbersAndLastPathComponents) {
   EXPECT_EQ(leadingInteger("99999999999999999999"), 2147483647);
   EXPECT_EQ(leadingInteger(" -7.5"), -7);
   EXPECT_EQ(lastPathComponent("/Volumes/Data//"), "Data");
   EXPECT_FALSE(areEqualTexts(std::nullopt, std::nullopt)) << "absent texts are never the same";
 }
 
-TEST(Paths, KeepTheirBytes) {
+TEST(Paths, KeepBytesThatAreNotUtf8) {
   const QByteArray all[] = {"/plain",        "/caf\xc3\xa9 100%",
                             "/a\xff/b\xc3",  "/\xe2\x82z\xf0\x9f\x98\x80",
                             "/\xed\xb2\x80", ""};
@@ -25,7 +25,7 @@ TEST(Paths, KeepTheirBytes) {
     EXPECT_EQ(pathOfUrl(urlOfPath(path)), path) << bytes.toPercentEncoding().constData();
   }
   EXPECT_EQ(urlOfPath(pathFromBytes("/a b\xff")).toEncoded(), "file:///a%20b%FF");
-  EXPECT_FALSE(isHarmless(pathFromBytes("\xff").front().unicode())) << "it is not painted";
+  EXPECT_FALSE(isHarmless(pathFromBytes("\xff").front().unicode())) << "not UTF-8";
 }
 
 TEST(MainQueue, RunsJobsInOrderAfterTheirCallerAndNeverWhileHeld) {
@@ -44,7 +44,7 @@ TEST(MainQueue, RunsJobsInOrderAfterTheirCallerAndNeverWhileHeld) {
   EXPECT_EQ(order, "123");
 }
 
-TEST(NotificationCenter, ForgetsTheDead) {
+TEST(NotificationCenter, NeverCallsADestroyedObserver) {
   NotificationCenter center;
   int heard = 0;
   {

@@ -1,4 +1,4 @@
-// Buttons, check boxes and the gate that shuts a person's input out.
+// Buttons, check boxes and the gate that discards user input.
 
 #include <gtest/gtest.h>
 
@@ -43,7 +43,7 @@ TEST_F(ButtonsTest, EachClickOrKeyActsOnce) {
   QTest::mouseClick(button, Qt::LeftButton);
   QTest::mouseDClick(button, Qt::LeftButton);
   QTest::mouseRelease(button, Qt::LeftButton);
-  EXPECT_EQ(clicks, 1) << "the second press of a double click is none";
+  EXPECT_EQ(clicks, 1) << "the second press of a double click is not a click";
   QTest::mouseClick(button, Qt::LeftButton);
   button->setFocus();
   for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
@@ -54,7 +54,7 @@ TEST_F(ButtonsTest, EachClickOrKeyActsOnce) {
   EXPECT_EQ(clicks, 5);
 }
 
-TEST_F(ButtonsTest, ScreenReadersPressReachesOnlyTheTitleItWasMeantFor) {
+TEST_F(ButtonsTest, AScreenReadersPressIsCancelledWhenTheTitleChanges) {
   doAction(button, QAccessibleActionInterface::pressAction());
   EXPECT_TRUE(QTest::qWaitFor([this] { return clicks == 1; }));
 
@@ -66,13 +66,13 @@ TEST_F(ButtonsTest, ScreenReadersPressReachesOnlyTheTitleItWasMeantFor) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ButtonsTest, CheckBoxTellsAPersonFromTheProgram) {
+TEST_F(ButtonsTest, CheckBoxEmitsActedOnlyForTheUser) {
   QSignalSpy acted(box, &CheckBox::acted);
   for (const int state : {1, 0, -1}) box->setState(state);
   EXPECT_EQ(box->state(), -1);
   EXPECT_EQ(acted.size(), 0);
   QTest::mouseClick(box, Qt::LeftButton);
-  EXPECT_EQ(box->state(), 1) << "mixed is left for on, and only the program goes back to it";
+  EXPECT_EQ(box->state(), 1) << "a click changes mixed to on";
   QTest::keyClick(box, Qt::Key_Space);
   EXPECT_EQ(box->state(), 0);
   doAction(box, QAccessibleActionInterface::toggleAction());
@@ -80,7 +80,7 @@ TEST_F(ButtonsTest, CheckBoxTellsAPersonFromTheProgram) {
   EXPECT_EQ(acted.size(), 3);
 }
 
-TEST_F(ButtonsTest, GateSwallowsInputAndLeavesNoHalfPressBehind) {
+TEST_F(ButtonsTest, GateDiscardsInputAndReleasesPressedButtons) {
   QAction shortcut;
   shortcut.setShortcut(QKeySequence("Ctrl+K"));
   window.addAction(&shortcut);
@@ -110,7 +110,7 @@ TEST_F(ButtonsTest, GateSwallowsInputAndLeavesNoHalfPressBehind) {
   EXPECT_EQ(triggered.size(), 1);
 }
 
-TEST_F(ButtonsTest, GateLeavesTheWayOutToThePointerAndTheKeyboard) {
+TEST_F(ButtonsTest, GateKeepsTheQuitButtonUsableByPointerAndKeyboard) {
   InputGate::setWayOut(plain);
   QSignalSpy quit(plain, &QPushButton::clicked);
   QPushButton ofMenu;

@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Where a panel of 470 to 400 goes, and the arrow's tip, if it has one.
+/// The place of a panel of 470 by 400, and of the arrow's tip, if there is one.
 QString at(const QRect &item, const QRect &available, bool endsAtRight = true) {
   const QRect whole(0, 0, 1280, 800);
   const PopoverPlacement place =
@@ -24,9 +24,9 @@ QString at(const QRect &item, const QRect &available, bool endsAtRight = true) {
   return text + (place.arrowEdge == Qt::TopEdge ? " ^" : " v") + QString::number(tip);
 }
 
-TEST(PopoverPlacementTest, HangsFromItsItemAndStaysOnTheScreen) {
+TEST(PopoverPlacementTest, IsAtTheItemAndWithinTheScreen) {
   const QRect screen(0, 26, 1280, 742);  // a panel along the top
-  EXPECT_EQ(at({600, 1, 24, 24}, screen), "376,35 ^611") << "all below the bar";
+  EXPECT_EQ(at({600, 1, 24, 24}, screen), "376,35 ^611") << "below the bar";
   EXPECT_EQ(at({1256, 1, 24, 24}, screen), "804,35 ^1267");
   EXPECT_EQ(at({-1280, 301, 4, 24}, screen.translated(-1280, 300)), "-1274,335 ^-1268");
   EXPECT_EQ(at({600, 775, 24, 24}, screen.translated(0, -26)), "376,333 v611");
@@ -36,7 +36,7 @@ TEST(PopoverPlacementTest, HangsFromItsItemAndStaysOnTheScreen) {
   EXPECT_EQ(at({300, 0, 20, 20}, {0, 0, 320, 200}), "6,9 ^309") << "too small a screen";
 }
 
-TEST(PopoverPlacementTest, WithoutAnAnchorAtTheEndOfTheWidestBar) {
+TEST(PopoverPlacementTest, WithoutAnAnchorIsAtTheEndOfTheWidestBar) {
   EXPECT_EQ(at({}, {0, 0, 1280, 800}), "405,200");
   EXPECT_EQ(at({}, {0, 30, 1280, 750}), "804,39");
   EXPECT_EQ(at({}, {0, 20, 1280, 750}, false), "6,361");
@@ -65,7 +65,7 @@ class PopoverTest : public testing::Test, public PopoverDelegate {
   QWidget *rows = new QWidget;
 };
 
-TEST_F(PopoverTest, TellsOfEachOpeningAndClosingOnce) {
+TEST_F(PopoverTest, ReportsEachOpeningAndClosingOnce) {
   showAt(500);
   popover.setHeldOpen(true);
   emit qApp->applicationStateChanged(Qt::ApplicationInactive);
@@ -77,7 +77,7 @@ TEST_F(PopoverTest, TellsOfEachOpeningAndClosingOnce) {
   EXPECT_EQ(said, QStringList({"shown", "closing"}));
 }
 
-TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
+TEST_F(PopoverTest, FollowsTheSizeOfItsContentAndKeepsItsTop) {
   const auto panel = [this] { return popover.placement().panel; };
   const QRect before = panel();
   rows->setFixedHeight(260);
@@ -88,15 +88,15 @@ TEST_F(PopoverTest, FollowsItsContentAndKeepsItsTop) {
   EXPECT_LE(panel().bottom(), popover.screen()->availableGeometry().bottom());
 }
 
-TEST_F(PopoverTest, PaintsItsFrameAnewForAnotherShapeOrPalette) {
+TEST_F(PopoverTest, RepaintsItsFrameForAnotherShapeOrPalette) {
   const auto picture = [this] { return popover.grab().toImage(); };
   const QImage before = picture();
   showAt(20);
-  EXPECT_NE(picture(), before) << "the arrow is elsewhere";
+  EXPECT_NE(picture(), before) << "the arrow should have moved";
   showAt(400);
   EXPECT_EQ(picture(), before);
   popover.setPalette(QPalette(Qt::black));
-  EXPECT_NE(picture(), before) << "dark";
+  EXPECT_NE(picture(), before) << "the dark palette";
 }
 
 struct HandClock : Clock {
@@ -104,7 +104,7 @@ struct HandClock : Clock {
   std::chrono::milliseconds time{1000};
 };
 
-TEST(StatusItemTest, ClickOpensOrClosesAndASecondOneOfTheSameIntentDoesNothing) {
+TEST(StatusItemTest, AClickOpensOrClosesAndADoubleClickCountsOnce) {
   HandClock clock;
   SimulatedDesktop desktop;
   StatusItem item(desktop.makeTrayItem(), clock);
@@ -123,7 +123,7 @@ TEST(StatusItemTest, ClickOpensOrClosesAndASecondOneOfTheSameIntentDoesNothing) 
   EXPECT_EQ(clickAfter(doubleClick - 1ms), "") << "the rest of a double click";
   EXPECT_EQ(clickAfter(1ms), "close");
   item.setOpen(false);
-  EXPECT_EQ(clickAfter(249ms), "") << "the click that has closed it";
+  EXPECT_EQ(clickAfter(249ms), "") << "the click that has closed the popover";
   EXPECT_EQ(clickAfter(1ms), "open");
 }
 

@@ -1,4 +1,4 @@
-// The table of the popover, for hands, keys and screen readers.
+// The popover's table with pointer, keyboard and screen readers.
 
 #include "Interface/TableView.h"
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A hundred disks with an ESP each. That of disk102 is the system's own, so its button is disabled.
+/// A hundred disks with an ESP each. The button of disk102's ESP is disabled: it is mounted at "/".
 QByteArray hundredDisks() {
   QByteArrayList disks;
   for (int unit = 100; unit < 200; ++unit) {
@@ -48,7 +48,7 @@ class TableViewTest : public testing::Test {
   QAccessibleInterface *list = QAccessible::queryAccessibleInterface(table);
 };
 
-TEST_F(TableViewTest, OnlyRowsInViewHaveCellsAndTheyAreUsedAgain) {
+TEST_F(TableViewTest, OnlyRowsInViewHaveCellsAndCellsAreReused) {
   EXPECT_EQ(table->visibleCells().size(), 8U);
   for (int turn = 0; turn < 5; ++turn) {
     EXPECT_EQ(machine.mountButton(60)->title(), "mount disk160s1");
@@ -58,7 +58,7 @@ TEST_F(TableViewTest, OnlyRowsInViewHaveCellsAndTheyAreUsedAgain) {
   EXPECT_LE(table->findChildren<ESPTableCellView *>().size(), 2 * 9 + 1);
 }
 
-TEST_F(TableViewTest, ReloadKeepsPlaceCellsAndSelectionAndReportsNone) {
+TEST_F(TableViewTest, ReloadKeepsScrollPositionCellsAndSelection) {
   const RowButton *button = machine.mountButton(50);
   QTest::mouseClick(machine.cell(48), Qt::LeftButton, {}, {100, 20});
   const int place = table->findChild<QScrollBar *>()->value();
@@ -70,10 +70,10 @@ TEST_F(TableViewTest, ReloadKeepsPlaceCellsAndSelectionAndReportsNone) {
   machine.settle();
   EXPECT_EQ(table->selectedRow(), -1);
   EXPECT_EQ(machine.delegate.lastSelectedRow(), 48);
-  for (const int index : {-1, 0, 7}) EXPECT_EQ(list->child(index), nullptr) << "it was there";
+  for (const int index : {-1, 0, 7}) EXPECT_EQ(list->child(index), nullptr) << "an outdated index";
 }
 
-TEST_F(TableViewTest, PressIsLostWhenItsCellShowsAnotherPartition) {
+TEST_F(TableViewTest, APressIsCancelledWhenTheCellShowsAnotherPartition) {
   RowButton *button = machine.mountButton(5);
   QTest::mousePress(button, Qt::LeftButton);
   pull(103);
@@ -86,11 +86,11 @@ TEST_F(TableViewTest, PressIsLostWhenItsCellShowsAnotherPartition) {
   EXPECT_EQ(button->title(), "umount disk106s1");
 }
 
-TEST_F(TableViewTest, ButtonOutlivesAReloadInItsOwnAction) {
+TEST_F(TableViewTest, AButtonInItsActionSurvivesAReload) {
   machine.platform.setDelay("disk101s1", std::chrono::milliseconds(20));
   QPointer<RowButton> button = machine.mountButton(1);
   QTimer::singleShot(0, table, [&] {
-    pull(101);  // its cell can not be used again now
+    pull(101);  // now its cell cannot be reused
     pull(102);
   });
   QTimer::singleShot(10, table, [&] { EXPECT_TRUE(button && button->isActing()); });
@@ -101,12 +101,12 @@ TEST_F(TableViewTest, ButtonOutlivesAReloadInItsOwnAction) {
   EXPECT_TRUE(button.isNull());
 }
 
-TEST_F(TableViewTest, FocusFollowsThePartitionAndLeavesTheRowsInOrder) {
+TEST_F(TableViewTest, FocusStaysOnThePartitionAndTheRowsStayInOrder) {
   for (int row = 3; row < 12; ++row) {
     machine.platform.mountFromOutside(names[row]);
     machine.settle();
     machine.cell(row)->openButton()->setFocus();
-    machine.platform.unmountFromOutside(names[row]);  // the button goes, with its focus
+    machine.platform.unmountFromOutside(names[row]);  // removes the button that has the focus
     machine.settle();
     for (int each = 0; each < 12; ++each) {
       const TableCellView *cell = table->cellAtRow(each);

@@ -14,7 +14,7 @@ namespace {
 
 class TextFieldTest : public testing::Test {
  protected:
-  // Time in the test's hand: moves every fade on, the latest first, so that no older one has the last word.
+  // Advances every fade, the latest first, so that an older fade that still acts fails the test.
   void pass(int milliseconds) {
     auto fades = field.findChildren<QVariantAnimation *>();
     std::reverse(fades.begin(), fades.end());
@@ -32,7 +32,7 @@ class TextFieldTest : public testing::Test {
   TextField field;
 };
 
-TEST_F(TextFieldTest, TextChangesAtTheBottomOfTheFade) {
+TEST_F(TextFieldTest, TextChangesWhileItIsInvisible) {
   field.setStringValue("before");
   field.setAnimatedStringValue("before");
   pass(300);
@@ -48,7 +48,7 @@ TEST_F(TextFieldTest, TextChangesAtTheBottomOfTheFade) {
   expect("after", 1);
 }
 
-TEST_F(TextFieldTest, QuickSuccessionRunsBothAndEndsOpaque) {
+TEST_F(TextFieldTest, TwoQuickFadesBothRunAndEndOpaque) {
   field.setAnimatedStringValue("first");
   pass(100);
   field.setAnimatedStringValue("second");
@@ -63,7 +63,7 @@ TEST_F(TextFieldTest, QuickSuccessionRunsBothAndEndsOpaque) {
   expect("second", 1);
 }
 
-TEST(StatusLineTest, IsALabelAndAnnouncesWhatItSaysWhileItIsSeen) {
+TEST(StatusLineTest, IsALabelAndAnnouncesItsTextWhileVisible) {
   const MainInterface interface;
   TextField *status = interface.statusTextField();
   QAccessibleInterface *label = QAccessible::queryAccessibleInterface(status);
@@ -80,7 +80,7 @@ TEST(StatusLineTest, IsALabelAndAnnouncesWhatItSaysWhileItIsSeen) {
   EXPECT_FALSE(announcement->state().invisible);
   interface.popover()->close();
   interface.popover()->show();
-  EXPECT_TRUE(announcement->state().invisible) << "it has been said";
+  EXPECT_TRUE(announcement->state().invisible) << "an old message must not be read again";
 }
 
 void expectReadable(const QColor &one, const QColor &other, qreal ratio = 4.5) {
@@ -88,7 +88,7 @@ void expectReadable(const QColor &one, const QColor &other, qreal ratio = 4.5) {
       << one.name().toStdString() << " and " << other.name().toStdString();
 }
 
-TEST(LookTest, EverythingReadsOnItsGroundInLightAndDark) {
+TEST(LookTest, AllTextsHaveEnoughContrastInLightAndDark) {
   for (const bool dark : {true, false}) {
     setDarkAppearance(dark);
     const QPalette palette = QApplication::palette();
@@ -113,7 +113,7 @@ TEST(LookTest, EverythingReadsOnItsGroundInLightAndDark) {
       expectReadable(text, look.ground);
     }
     expectReadable(look.outline, look.ground, 3);    // the mark of a box
-    expectReadable(look.accent, look.selection, 3);  // the ring of what has the keyboard
+    expectReadable(look.accent, look.selection, 3);  // the focus ring
   }
 }
 

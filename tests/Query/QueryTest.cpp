@@ -43,7 +43,7 @@ bool isHarmlessLine(const QString &line) {
 
 }  // namespace
 
-TEST_F(Query, TellsAbsentFromSentinelsFromTexts) {
+TEST_F(Query, DistinguishesAbsentAnswersSentinelsAndTexts) {
   describeMachine(R"json({ "disks": [ { "unit": 0, "partitions": [ { "slice": 1 },
       { "slice": 2, "media": "absent" }, { "slice": 3, "media": "(null)" } ] } ] })json");
   EXPECT_EQ(plain({"findPartitionName", "disk0s1"}), "absent\n");
@@ -69,7 +69,7 @@ TEST_F(Query, PrintsEachKindOfAnswer) {
   EXPECT_EQ(description[kDADiskDescriptionMediaBSDNameKey], "disk0s3");
 }
 
-TEST_F(Query, EveryOperationAnswersForWhateverItIsAskedAndHarmlessly) {
+TEST_F(Query, EveryOperationAnswersAnyArgumentWithEscapedOutput) {
   const QString hostile = QString::fromUtf8("a\"\\\n\t\u001b[1m\u202E\u2028\U000E0001%n\u007f");
   const QByteArray name = QJsonDocument(QJsonObject{{"media", hostile}}).toJson();
   describeMachine(R"({ "disks": [ { "unit": 0, "media": "x", "partitions": [ { "slice": 1, "volume":
@@ -89,10 +89,10 @@ TEST_F(Query, EveryOperationAnswersForWhateverItIsAskedAndHarmlessly) {
       EXPECT_TRUE(QJsonDocument::fromJson(line.toUtf8()).object().contains("answer"));
     }
   }
-  EXPECT_EQ(json({"findPartitionName", "disk0s1"})["answer"], hostile) << "nothing is lost";
+  EXPECT_EQ(json({"findPartitionName", "disk0s1"})["answer"], hostile) << "a changed name";
 }
 
-TEST_F(Query, RefusesWhatIsNoQuestion) {
+TEST_F(Query, RefusesInvalidCommandLines) {
   for (const QString command :
        {"", "--json", "--what", "isgpt", "isGPT", "isGPT a b", "--machine", "getAlldisks x",
         "\u202E\n", "--machine /no/such/file getAlldisks", "--machine /dev/zero getAlldisks"}) {
@@ -106,7 +106,7 @@ TEST_F(Query, RefusesWhatIsNoQuestion) {
   EXPECT_TRUE(help.output.contains("  " + operations().last().name));
 }
 
-TEST_F(Query, WaitsForTheServiceButNotForEver) {
+TEST_F(Query, WaitsForTheServiceForALimitedTime) {
   describeMachine(R"({ "service": "asking", "answersAfter": 5 })");
   EXPECT_EQ(plain({"getAlldisks"}), "an empty list\n");
   for (const char *service : {"asking", "absent"}) {

@@ -25,7 +25,7 @@ class StoreTest : public testing::Test {
   ManagedObjectContext context{coordinator};
 };
 
-TEST_F(StoreTest, ChangesAreUndoneRepeatedAndSaved) {
+TEST_F(StoreTest, ChangesAreUndoneRedoneAndSaved) {
   const auto id = context.insertObject("Volume");
   EXPECT_FALSE(context.setValue(*id, "size", "1"));
   const QString text = "\t <a href=\"x\">&amp;\r\n\"']]>\u00e4\U0001F4BE ";
@@ -33,17 +33,17 @@ TEST_F(StoreTest, ChangesAreUndoneRepeatedAndSaved) {
   EXPECT_FALSE(context.save().has_value());
   EXPECT_EQ(stored().value(*id).values.value("note"), text);
   context.setValue(*id, "note", "\x1b[2J");
-  EXPECT_TRUE(context.save().has_value()) << "it could not be read back";
+  EXPECT_TRUE(context.save().has_value()) << "the text could not be read back";
   context.undoManager().undo();
   EXPECT_TRUE(context.deleteObject(*id));
   context.undoManager().undo();
-  EXPECT_FALSE(context.hasChanges()) << "it is as it was saved";
+  EXPECT_FALSE(context.hasChanges()) << "undone to the saved state";
   context.undoManager().redo();
   EXPECT_FALSE(context.save().has_value());
   EXPECT_TRUE(stored().isEmpty());
 }
 
-TEST_F(StoreTest, WhatIsNotAStoreIsRefusedAndLeftAlone) {
+TEST_F(StoreTest, CorruptFilesAreRefusedAndNotChanged) {
   const QByteArray object =
       R"(<object entity="Volume" id="{0e2f0b4c-1111-4c4c-8d8d-121212121212}">
          <attribute name="note" value="a&#13;&lt;b"/></object>)";

@@ -1,8 +1,7 @@
 #pragma once
 
-// A machine as the conformance suite needs it, on any backend: one disk with a GUID partition table
-// and two partitions. The first is an ESP with an unmounted volume labelled "EFI", the second is
-// empty.
+// A machine for the conformance suite, on any backend: one disk with a GUID partition table and two
+// partitions. The first is an ESP with an unmounted volume labelled "EFI", the second is empty.
 
 #include <QString>
 #include <memory>
@@ -11,7 +10,7 @@
 
 class ConformanceMachine {
  public:
-  /// Each executable has its own. Null where there can be none.
+  /// Each test executable defines its own. Null where no such machine is possible.
   static std::unique_ptr<ConformanceMachine> make();
 
   virtual ~ConformanceMachine() = default;
@@ -20,12 +19,12 @@ class ConformanceMachine {
   /// The disk's BSD name.
   virtual QString disk() const = 0;
 
-  // What somebody else does, to the ESP and its disk.
+  // Actions of another program on the ESP and its disk.
   virtual void mount() = 0;
   virtual void unmount() = 0;
   virtual void rename(const QString &label) = 0;
   /// Keeps the mounted volume busy from now on.
   virtual void occupy() = 0;
-  /// As a hand would pull it, mounted or not.
+  /// Removes the disk without an unmount.
   virtual void pull() = 0;
 };

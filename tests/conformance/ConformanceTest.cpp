@@ -1,4 +1,4 @@
-// What every backend owes the program, whatever machine is behind it.
+// The contract that every backend must fulfil.
 
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ class Conformance : public testing::Test {
       answers += dissenter ? dissenter->status : kDAReturnSuccess;
     };
   }
-  /// The one answer to what was asked.
+  /// The only answer to the request.
   DissenterStatus answered() {
     EXPECT_TRUE(waitFor([&] { return !answers.isEmpty(); })) << "no answer";
     QCoreApplication::processEvents();
@@ -66,7 +66,7 @@ class Conformance : public testing::Test {
     return answered();
   }
 
-  /// As a posted event, which the event loop serves before it waits.
+  /// As a posted event, which the event loop serves before it blocks.
   static void later(const std::function<void()> &work) {
     QMetaObject::invokeMethod(qApp, work, Qt::QueuedConnection);
   }
@@ -82,7 +82,7 @@ class Conformance : public testing::Test {
   QString esp;
   QString empty;
   QStringList news;  // "+PATH", "-PATH" and "~PATH" for a mount, an unmount and a rename
-  int changes = 0;   // told without a path
+  int changes = 0;   // announced without a path
   QList<DissenterStatus> answers;
 
  private:
@@ -117,7 +117,7 @@ TEST_F(Conformance, MediaAreListedAndDescribed) {
   EXPECT_TRUE(value(esp, kDADiskDescriptionMediaUUIDKey).canConvert<DiskUUID>());
 }
 
-TEST_F(Conformance, WhatIsNotThereIsAbsentAndRefused) {
+TEST_F(Conformance, UnknownMediaAreAbsentAndRefused) {
   for (const QString name : {"disk999", "disk999s1", "disk", ""}) {
     EXPECT_EQ(service().descriptionOfMedia(name), std::nullopt) << name.toStdString();
     EXPECT_EQ(machine->platform().mediaRegistry().mediaNamesOnDisk(name), QStringList{});
@@ -130,7 +130,7 @@ TEST_F(Conformance, WhatIsNotThereIsAbsentAndRefused) {
   EXPECT_EQ(news, QStringList{});
 }
 
-TEST_F(Conformance, AMountIsUndoneByAnUnmountAndABusyOneByForceOnly) {
+TEST_F(Conformance, ABusyVolumeIsUnmountedByForceOnly) {
   ASSERT_EQ(mount(esp), kDAReturnSuccess);
   QString path = mountPoint();
   EXPECT_TRUE(hears({"+" + path}));
@@ -159,7 +159,7 @@ TEST_F(Conformance, AMountIsUndoneByAnUnmountAndABusyOneByForceOnly) {
   EXPECT_EQ(mountPoint(), "");
 }
 
-TEST_F(Conformance, WhatOthersDoIsTold) {
+TEST_F(Conformance, ChangesByOtherProgramsAreAnnounced) {
   machine->mount();
   EXPECT_TRUE(waitFor([&] { return !mountPoint().isEmpty(); }));
   EXPECT_TRUE(hears({"+" + mountPoint()}));
@@ -190,13 +190,13 @@ TEST_F(Conformance, APulledDiskIsGone) {
   EXPECT_FALSE(machine->platform().mediaRegistry().mediaNames().contains(esp));
   EXPECT_EQ(service().descriptionOfVolume(path), std::nullopt);
   EXPECT_EQ(mount(esp), kDAReturnNotFound);
-  EXPECT_EQ(news, QStringList{}) << "told once";
+  EXPECT_EQ(news, QStringList{}) << "the unmount should be announced once";
 }
 
 TEST_F(Conformance, AWaitEndsWithItsOwnFlagOnly) {
   RunLoop &loop = machine->platform().runLoop();
   bool isOuterOver = true;
-  loop.stop();  // nobody waits: nothing is stopped
+  loop.stop();  // no run is waiting: nothing is stopped
   loop.run(isOuterOver);
 
   isOuterOver = false;
@@ -213,7 +213,7 @@ TEST_F(Conformance, AWaitEndsWithItsOwnFlagOnly) {
   EXPECT_EQ(order << "outer", (QStringList{"inner", "outer"}));
 }
 
-TEST_F(Conformance, AWaitEndsThoughALoopInsideItHasTakenItsStop) {
+TEST_F(Conformance, AWaitEndsEvenIfANestedLoopHasConsumedTheStop) {
   RunLoop &loop = machine->platform().runLoop();
   bool isOver = false;
   const auto poll = [&] {
@@ -237,7 +237,7 @@ TEST_F(Conformance, AWaitEndsThoughALoopInsideItHasTakenItsStop) {
   }
 }
 
-TEST_F(Conformance, APollServesForAMomentAndAsksNoMoreThanFiftyTimesASecond) {
+TEST_F(Conformance, APollServesEventsAtMostFiftyTimesASecond) {
   bool isServed = false;
   QTimer::singleShot(5, [&] { isServed = true; });
   QElapsedTimer time;
@@ -265,7 +265,7 @@ TEST_F(Conformance, ATapDuringAWaitDoesNotReachTheButtonAfterwards) {
     bool isOver = false;
     later([&] { tap(), isOver = true, loop.stop(); });
     loop.run(isOver);
-    later(tap);  // input that the loop has left waiting
+    later(tap);  // input that the loop has not yet served
   }
   QCoreApplication::processEvents();
   EXPECT_EQ(clicks, 0);
@@ -274,7 +274,7 @@ TEST_F(Conformance, ATapDuringAWaitDoesNotReachTheButtonAfterwards) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(Conformance, WhatIsKeptForTheUserIsFoundAgain) {
+TEST_F(Conformance, SettingsAndLoginItemsAreStored) {
   UserDefaults &defaults = machine->platform().userDefaults();
   for (const bool isOn : {true, false}) {
     defaults.setBool("RunAtload", isOn);
@@ -290,7 +290,7 @@ TEST_F(Conformance, WhatIsKeptForTheUserIsFoundAgain) {
     }
     return std::optional<LoginItems::Item>();
   };
-  // A program that was started on this machine before has left one.
+  // An earlier start of the program may have left an item.
   while (const auto item = ownItem()) items.remove(*item);
   items.insertOwnItem();
   const auto own = ownItem();

@@ -38,7 +38,7 @@ class LinuxConformance final : public ConformanceMachine, DiskTest {
   void TestBody() override {}
 
   QString _device;
-  mutable QString _name;  // remembered for when it has been pulled
+  mutable QString _name;  // kept for after a pull
   QFile _file;
 };
 

@@ -1,7 +1,7 @@
-"""What the tests on private desktops share: a machine, the program on it, and panels that come and go.
+"""Shared by the tests on private desktops: a machine, the program on it, and panels that start and stop.
 
-Each test file is a program of its own, run on a private desktop: FILE_test.py KELDRA_DEMO [PANEL [-k TEST]...]. It
-ends with 77 and a reason where what it needs is not installed.
+Each test file is a separate program, run on a private desktop: FILE_test.py KELDRA_DEMO [PANEL [-k TEST]...]. It exits
+with 77 and a reason where something that it needs is not installed.
 """
 
 import json
@@ -23,7 +23,7 @@ from program import Program  # noqa: E402
 PROGRAM = sys.argv[1]
 
 
-# disk0s1 obliges at once, disk1s1 after a while, disk2s1 refuses after a while, and disk3s1 never answers.
+# Mounts succeed at once on disk0s1 and late on disk1s1, are refused late on disk2s1, and never end on disk3s1.
 ANSWERS = {}, {"delay": 1200}, {"delay": 1200, "refuse": {"mount": "not privileged"}}, {"delay": 60_000}
 ESP = {"slice": 1, "media": "EFI System Partition", "volume": {"kind": "msdos", "name": "EFI"}}
 MACHINE = {"disks": [{"unit": unit, "media": "Disk", "scheme": "GUID_partition_scheme", "partitions": [ESP | answers]}
@@ -51,22 +51,22 @@ class DesktopTest(unittest.TestCase):
 
     @staticmethod
     def end(process):
-        """At once, as by a crash."""
+        """Kills the process, as in a crash."""
         process.kill()
         process.wait()
 
     def start_panel(self, kind, edge="top"):
-        """And waits for its tray."""
+        """Starts a panel and waits for its tray."""
         panel = self.start(LAB / "panel", kind, edge)
         self.wait_for("there should be a tray", tray.has_host if kind != "trayer" else self.screen.has_trayer)
         return panel
 
     def start_program(self):
-        """And waits until it is up, which is not to say that there is a tray."""
+        """Starts the program and waits until it is up, whether there is a tray or not."""
         with tempfile.NamedTemporaryFile("w", suffix=".json", delete=False) as file:
             json.dump(MACHINE, file)
         self.addCleanup(os.unlink, file.name)
-        # As at login: a program that a hand starts opens its popover where there is no tray, to say so.
+        # As at login, because without a tray a start by the user opens the popover with a notice.
         program = Program(["env", "DESKTOP_AUTOSTART_ID=test", PROGRAM, file.name], self.screen)
         self.addCleanup(program.end)
         program.wait_for("the program should be up", self.is_up)
@@ -78,14 +78,14 @@ class DesktopTest(unittest.TestCase):
         return program and program.children()
 
     def launch_again(self):
-        """The exit status of a second program, which leaves everything to the first."""
+        """The exit status of a second instance, which activates the first one and exits."""
         return subprocess.run([PROGRAM], stdin=subprocess.DEVNULL, timeout=10, check=False).returncode
 
     def assert_open(self, program):
         program.wait_for("the popover should be open", program.window)
 
     def assert_stays(self, condition, what):
-        """For longer than a click takes to have its effects."""
+        """Checks the condition for longer than a click takes to have its effects."""
         deadline = time.monotonic() + 0.5
         while time.monotonic() < deadline:
             self.assertTrue(condition(), what)

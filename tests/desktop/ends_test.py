@@ -1,4 +1,4 @@
-"""The program ends when it is told to, whatever it waits for, and starts beside what is frozen: ends_test.py
+"""The program exits on request, whatever it waits for, and starts beside a frozen session bus: ends_test.py
 KELDRA_DEMO."""
 
 import os

@@ -1,5 +1,5 @@
-"""The popover beside other programs and in the hands of people who use no pointer or see no screen, on a desktop
-without a tray: popover_test.py KELDRA_DEMO."""
+"""The popover beside other programs, by keyboard and with a screen reader, on a desktop without a tray:
+popover_test.py KELDRA_DEMO."""
 
 import subprocess
 
@@ -28,7 +28,7 @@ class PopoverTest(DesktopTest):
         name = ["xdotool", "getactivewindow", "getwindowname"]
         program.wait_for("another program's window should open",
                          lambda: subprocess.check_output(name).strip() == b"Event Tester")
-        # A loss of activation that came later would close a popover which has opened meanwhile.
+        # A later loss of activation would close a popover that has opened in the meantime.
         windows = accessibility.find_application("keldra").children()
         program.wait_for("the program should have noticed", lambda: not any(window.is_active() for window in windows))
         return subprocess.check_output(["xdotool", "getactivewindow"]).strip()
@@ -62,7 +62,7 @@ class PopoverTest(DesktopTest):
             self.assert_stays_closed(program)
 
     def test_another_program_takes_the_focus_meanwhile(self):
-        """As a password prompt does. Afterwards, what is typed there closes the popover."""
+        """As a password prompt does. After the action, typing in that program closes the popover."""
         program = self.start_program()
         other = self.open_other_program(program)
         self.launch_again()

@@ -1,4 +1,4 @@
-"""The popover on the item in a panel's tray: tray_test.py KELDRA_DEMO trayer|xfce."""
+"""The popover at the item in a panel's tray: tray_test.py KELDRA_DEMO trayer|xfce."""
 
 import sys
 
@@ -18,7 +18,7 @@ class TrayTest(DesktopTest):
     screen = screen
 
     def open_program(self, edge="top"):
-        """A program with its popover open, in a tray that was there before."""
+        """Starts the program in an existing tray and opens the popover."""
         self.start_panel(KIND, edge)
         program = self.start_program()
         program.open()
@@ -42,7 +42,7 @@ class TrayTest(DesktopTest):
             self.doCleanups()
 
     def assert_arrow(self, place, x, y):
-        """The popover's colour at x, and not beside it."""
+        """The popover's colour is at x, and not beside it."""
         ground, arrow, *beside = (screen.colours((*pixel, 1, 1))[0] for pixel in (
             (place[0] + 10, place[1] + 40), (x, y), (x - 15, y), (x + 15, y)))
         self.assertEqual(arrow, ground, "the arrow should be on the item")
@@ -60,8 +60,8 @@ class TrayTest(DesktopTest):
     def test_menu_of_the_item(self):
         self.start_panel(KIND)
         program = self.start_program()
-        # The entries come from the program, and may come later than the menu; and a panel that has just started may
-        # still move its items: then once more.
+        # The menu's entries come from the program and may come late, and a panel that has just started may still move
+        # its items. So the click may be repeated.
         for _ in range(3):
             left, top, width, height = item = program.wait_for_item()
             below = (left - 60, top + height + 2, width + 60, 60)

@@ -17,7 +17,7 @@ class TraysComeAndGoTest(DesktopTest):
             screen.press("Escape")
             program.wait_until_closed()
             self.end(panel)
-            # The panel's bus names outlive it a little, and a new one would find them taken.
+            # A killed panel's bus names exist a little longer, and a new panel would find them taken.
             program.wait_for("the panel should be gone",
                              lambda: not (tray.has_host() or screen.has_trayer() or screen.tray_item("keldra")))
 

@@ -11,7 +11,7 @@ class WaylandTest(DesktopTest):
     screen = wayland_screen
 
     def setUp(self):
-        wayland_screen.hands()  # plugged in before the program looks
+        wayland_screen.hands()  # before the program looks for input devices
 
     def test_second_launch_keyboard_and_activation_elsewhere(self):
         program = self.start_program()

@@ -1,7 +1,6 @@
-"""A person in front of a whole desktop session: hands, eyes, and the programs that they start there.
+"""A user of a whole desktop session: input, pictures, and the programs that the user starts there.
 
-The pointer, the keys and the pictures are those of the screen that holds the session; programs are started on the
-session's own displays.
+Pointer, keys and pictures belong to the screen that shows the session; programs start on the session's own displays.
 """
 
 import contextlib
@@ -39,7 +38,7 @@ def session_environment():
 
 
 def run(*words, inside=False):
-    """What it prints; empty when it fails. `inside`: on the session's displays."""
+    """The command's output; empty on failure. `inside`: on the session's displays."""
     return subprocess.run(words, stdout=subprocess.PIPE, check=False, timeout=20, **QUIET,
                           env=session_environment() if inside else None).stdout.decode(errors="replace").strip()
 
@@ -144,7 +143,7 @@ class Keldra:
 
     @staticmethod
     def _in_pixels(node, window):
-        """Programs tell places in units of their own, of which a screen of 100 dpi has 1.04 pixels each."""
+        """Programs report places in their own units. On a screen of 100 dpi each unit has 1.04 pixels."""
         sizes = [re.findall(r"\d+", run("xdotool", "getwindowgeometry", "--shell", number, inside=True))
                  for number in run("xdotool", "search", "--onlyvisible", "--name", "^Keldra$", inside=True).split()]
         width = max((int(size[3]) for size in sizes), default=0)  # the item on an X11 tray is the smaller one
@@ -187,6 +186,6 @@ def registered():
 
 
 def shell(script):
-    """What GNOME's shell answers."""
+    """The answer of GNOME's shell."""
     return run("gdbus", "call", "--session", "-d", "org.gnome.Shell", "-o", "/org/gnome/Shell",
                "-m", "org.gnome.Shell.Eval", script)

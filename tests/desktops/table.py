@@ -35,7 +35,7 @@ def click(x, y, button=1, times=1):
 
 
 def settle():
-    """Desktops greet people, and paint themselves in their own time."""
+    """Waits until the desktop has shown its greeting and painted itself."""
     wait_for(tray.has_host, 40 if not NO_TRAY and DESKTOP not in X11_TRAYS else 0)
     time.sleep(float(os.environ.get("SETTLE", 8)))
     if DESKTOP == "gnome":
@@ -49,7 +49,7 @@ def settle():
 def start():
     """The program without the demo's own window, the place of its item, and how long that took to be there.
 
-    Nobody tells where the item is, but its picture changes while the popover is open, and nothing else does there."""
+    No interface tells where the item is, but only the item's picture changes while the popover is open."""
     started = time.monotonic()
     program = Keldra(PROGRAM)
     wait_for(registered, 8)
@@ -90,7 +90,7 @@ class Visit:
 
     @staticmethod
     def ground(place):
-        """The popover's colour, where nothing is written."""
+        """The popover's colour, at a place without text."""
         return colour_at(place[0] + place[2] // 2, place[1] + place[3] - 40)
 
     def picture_of_item(self):
@@ -306,7 +306,7 @@ def main():
         for step in STEPS.get(os.environ.get("CELLS"), STEPS["all"]):
             try:
                 step(visit)
-            except Exception as problem:  # the other cells can be seen all the same
+            except Exception as problem:  # the other cells can still be checked
                 tell(step.__name__, False, f"{type(problem).__name__}: {problem}")
     finally:
         visit.program.end()

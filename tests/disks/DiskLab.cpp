@@ -13,7 +13,7 @@ bool DiskLab::isHere() {
 QByteArray DiskLab::run(const QString &program, const QStringList &arguments,
                         const QByteArray &input) {
   QProcess process;
-  // A pipe would stay open for as long as a service lives that the program starts.
+  // A file, because a pipe would stay open as long as a service that the program starts.
   process.setStandardErrorFile(file("tools.log"), QIODevice::Truncate);
   process.start(program, arguments);
   process.write(input);

@@ -26,11 +26,11 @@ class DiskTest : public testing::Test {
   /// A disk with this table, which is removed after the test. Waits until all its partitions are
   /// known.
   QString addDisk(const QString &name, const QByteArray &table, int partitions);
-  /// Before the test's end, as a hand would, mounted or not.
+  /// Removes the disk before the end of the test, mounted or not.
   void pullDisk(const QString &disk);
-  /// Formats a partition and waits until that is known.
+  /// Formats a partition and waits until the platform reports it.
   void format(const QString &device, const QString &label);
-  /// Both for the usual case: a disk with one ESP. Gives the partition's device.
+  /// Both for the usual case: a disk with one ESP. Returns the partition's device.
   QString addSystemPartition(const QString &label);
 
   /// The BSD name of a device such as "/dev/loop0p1"; empty when it is unknown.
@@ -39,11 +39,11 @@ class DiskTest : public testing::Test {
   /// Empty when not mounted.
   QString mountPointOf(const QString &name) const;
 
-  // As a click does, which waits for the answer.
+  // As a click does: these wait for the answer.
   bool mount(const QString &name);
   bool unmount(const QString &name, bool byForce = false);
 
-  /// As support/VolumeNews.h notes them.
+  /// As `noteVolumeNews` records them.
   QStringList events;
 
   std::unique_ptr<Platform> platform;

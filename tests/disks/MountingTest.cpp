@@ -7,7 +7,7 @@
 
 class Mounting : public DiskTest {};
 
-TEST_F(Mounting, UndoneByForceLosesNothing) {
+TEST_F(Mounting, AForcedUnmountLosesNoData) {
   const QString name = nameOf(addSystemPartition("BUSY"));
   ASSERT_TRUE(mount(name));
   const QByteArray text = "what was written before the unmount is on the disk after it";
@@ -19,7 +19,7 @@ TEST_F(Mounting, UndoneByForceLosesNothing) {
   EXPECT_TRUE(contentOf(DiskLab::file("disk.img")).contains(text));
 }
 
-TEST_F(Mounting, OfABtrfsSubvolumeIsKnownThoughItHasNoDeviceNumber) {
+TEST_F(Mounting, ABtrfsSubvolumeIsFoundWithoutADeviceNumber) {
   if (QStandardPaths::findExecutable("mkfs.btrfs").isEmpty()) GTEST_SKIP() << "no btrfs here";
   const QString disk = DiskLab::createDisk("tree", 256);
   DiskLab::run("mkfs.btrfs", {"--quiet", "--label", "TREE", disk});
@@ -33,7 +33,7 @@ TEST_F(Mounting, OfABtrfsSubvolumeIsKnownThoughItHasNoDeviceNumber) {
   DiskLab::pull(disk);
 }
 
-TEST_F(Mounting, IsSeenFromOutside) {
+TEST_F(Mounting, AMountIsSeenByKeldraQuery) {
   const QString device = addSystemPartition("OUTSIDE");
   const QString name = nameOf(device);
   const auto queried = [](const QStringList &words) {

@@ -1,4 +1,4 @@
-// What /bin/df prints: any number of volumes, with any bytes in the names of their mount points.
+// The output of /bin/df: any number of volumes, with any bytes in the names of their mount points.
 
 #include "DiskArbitrator/DiskFree.h"
 #include "fuzz/Fuzzer.h"

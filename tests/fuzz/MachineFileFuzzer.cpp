@@ -1,4 +1,4 @@
-// Machine files: whatever is no machine is refused with a place and a reason.
+// Machine files: an invalid one is refused with a place and a reason.
 
 #include "Platform/simulated/Describe.h"
 #include "Platform/simulated/MachineFile.h"

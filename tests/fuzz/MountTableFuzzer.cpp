@@ -1,4 +1,4 @@
-// The kernel's mount table, in which the names of mount points and sources are anybody's.
+// The kernel's mount table, whose names of mount points and sources are not trusted.
 
 #include "Platform/linux/MountTable.h"
 #include "fuzz/Fuzzer.h"

@@ -1,4 +1,4 @@
-// What is painted and printed of button titles, which hold the names of volumes.
+// The painted and printed forms of button titles, which contain the names of volumes.
 
 #include <QList>
 #include <algorithm>

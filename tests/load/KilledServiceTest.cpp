@@ -1,4 +1,4 @@
-// The disk service dies in the middle of clicks, at any moment.
+// The disk service is killed at random moments during clicks.
 
 #include <QStorageInfo>
 #include <QTimer>
@@ -20,7 +20,7 @@ QString kernelMountPoint(const QString &device) {
 
 class KilledService : public DiskTest {
  public:
-  /// Whether row, platform and kernel agree about a partition.
+  /// Whether row, platform and kernel agree on a partition.
   bool isTrue(const Program &program, const QString &device) const {
     const QString name = nameOf(device);
     const ESPTableCellView *row = name.isEmpty() ? nullptr : program.rowOf(name);
@@ -30,8 +30,8 @@ class KilledService : public DiskTest {
            row->openButton()->title() == "open " + (path.isEmpty() ? "(null)" : path);
   }
 
-  /// Whether the platform has found the service again: it tells by what it says of a disk that is
-  /// not there.
+  /// Whether the platform is connected to the service again: only then is a missing disk reported
+  /// as not found.
   bool isReady() const {
     DissenterStatus status = kDAReturnNotReady;
     platform->diskService().mount("disk999", std::nullopt,
@@ -39,7 +39,7 @@ class KilledService : public DiskTest {
     return status != kDAReturnNotReady;
   }
 
-  /// Asks for the opposite of what is so.
+  /// Requests the opposite of the present state.
   void ask(const QString &name, const DiskService::Completion &completion) {
     DiskService &service = platform->diskService();
     mountPointOf(name).isEmpty()
@@ -50,7 +50,7 @@ class KilledService : public DiskTest {
 
 }  // namespace
 
-TEST_F(KilledService, LosesNoAnswerAndLeavesTheListTrue) {
+TEST_F(KilledService, AnswersEachRequestOnceAndTheListMatchesTheKernel) {
   const quint64 seed = loadSeed();
   const int rounds = loadCount(200, 10);
   Chance chance(seed);
@@ -82,5 +82,5 @@ TEST_F(KilledService, LosesNoAnswerAndLeavesTheListTrue) {
         << "KELDRA_LOAD_SEED=" << seed << ", round " << &count - answers.data() << ": "
         << kernelMountPoint(clicked).toStdString() << ' ' << kernelMountPoint(asked).toStdString();
   }
-  EXPECT_EQ(std::count(answers.begin(), answers.end(), 1), rounds) << "each is answered once";
+  EXPECT_EQ(std::count(answers.begin(), answers.end(), 1), rounds) << "one answer for each";
 }

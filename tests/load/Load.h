@@ -1,7 +1,7 @@
 #pragma once
 
-// How much of a load runs, and from which seed. KELDRA_LOAD=1 asks for the whole of it; without, it
-// is a share that fits among the other tests. KELDRA_LOAD_SEED repeats a run that has failed, which tells its seed.
+// The amount of load and the random seed. KELDRA_LOAD=1 runs the whole load; otherwise a share runs that is
+// short enough for the other tests. A failed run prints its seed; KELDRA_LOAD_SEED repeats that run.
 
 #include <QString>
 #include <QtGlobal>
@@ -14,7 +14,7 @@ inline int loadCount(int whole, int share) {
   return kIsWholeLoad ? whole : share;
 }
 
-/// Only the whole load looks for news; among the other tests a failure must repeat by itself.
+/// Only the whole load uses new seeds; among the other tests a failure must be repeatable.
 inline quint64 loadSeed() {
   const QString seed = qEnvironmentVariable("KELDRA_LOAD_SEED");
   if (!seed.isEmpty()) return seed.toULongLong();

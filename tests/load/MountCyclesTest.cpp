@@ -1,5 +1,5 @@
-// The same click again and again must not cost a little more each time, nor wait for another volume that stops
-// answering for some of that time.
+// Repeated clicks must not use more and more memory, descriptors or threads, nor wait for another volume that does not
+// answer for some of that time.
 
 #include <unistd.h>
 
@@ -20,7 +20,7 @@ qint64 entriesIn(const QString &folder) {
   return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
 }
 
-/// What this process holds, as the kernel counts it: kilobytes of memory, descriptors, threads.
+/// Resources of this process as the kernel counts them: kilobytes of memory, descriptors, threads.
 std::array<qint64, 3> resources() {
   const qint64 pages = contentOf("/proc/self/statm").split(' ').value(1).toLongLong();
   return {pages * sysconf(_SC_PAGESIZE) / 1024, entriesIn("/proc/self/fd"),
@@ -31,13 +31,13 @@ class MountCycles : public DiskTest {};
 
 }  // namespace
 
-TEST_F(MountCycles, LeaveMemoryDescriptorsAndThreadsFlat) {
+TEST_F(MountCycles, LeakNoMemoryDescriptorsOrThreads) {
 #ifdef __SANITIZE_ADDRESS__
   GTEST_SKIP() << "the sanitizer keeps what has been freed";
 #endif
   const int cycles = loadCount(1000, 30);
   const int warmUp = loadCount(100, 10);
-  // The allocator's own unrest; a leak of 2 kB at each click is beyond it.
+  // The allocator's own variation; a leak of 2 kB for each click exceeds it.
   constexpr qint64 kMostGrowth = 2048;
   const QString disk = addDisk("disk", "label: gpt\ntype=U, size=24M\ntype=U, size=24M\n", 2);
   format(disk + "p1", "CYCLES");

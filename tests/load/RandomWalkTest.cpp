@@ -1,5 +1,5 @@
-// One random thing after another is done to a program on a simulated machine, by others and by a
-// person; after each, the table must show what the machine is.
+// Random actions of the user and of other programs on a simulated machine; after each one, the
+// table must match the machine.
 
 #include <gtest/gtest.h>
 
@@ -16,18 +16,18 @@ using Presence = DiskService::Presence;
 
 namespace {
 
-// Text order is not the order of numbers.
+// Text order differs from numeric order for these.
 const QList<int> kUnits = {0, 1, 2, 3, 9, 10, 11, 20};
 const QList<int> kSlices = {1, 2, 3, 10, 11};
 const QString kESP = "EFI System Partition";
 const QStringList kMedia = {
     kESP,          kESP, "Recovery HD", "Linux filesystem", "efi system", "(null)", "N/A",
     "open %1 & b", ""};
-// Several volumes want the same folder.
+// Several volumes need the same folder.
 const QStringList kVolumes = {"EFI",       "EFI", "EFI1",   "Data", "open data",
                               "Старт: %2", "N/A", "(null)", ""};
 
-/// Absent when there is none to speak of.
+/// Absent when the name is empty.
 std::optional<QString> mediaName(const QString &media) {
   if (media.isEmpty()) return std::nullopt;
   return media == "(null)" ? "N/A" : media;
@@ -85,8 +85,8 @@ QString differenceOfCell(qint64 row, const ESPTableCellView *cell, const QString
   return QStringLiteral("row %1: [").arg(row) + found + "] in place of [" + expected + ']';
 }
 
-/// The rows in words, by BSD name, in the order of the table: what the program ought to show, by rules of
-/// their own that ask the program nothing.
+/// The rows as text, by BSD name, in the order of the table: what the program should show, by separate
+/// rules that do not use the program's code.
 QMap<QString, QString> expectedRows(const Machine &machine, bool showsAll) {
   QMap<QString, QString> rows;
   if (machine.presence != DiskService::Presence::Answering) return rows;
@@ -98,14 +98,14 @@ QMap<QString, QString> expectedRows(const Machine &machine, bool showsAll) {
   return rows;
 }
 
-/// The first difference between the table that a person sees and the rows that it ought to have;
-/// empty when there is none. Scrolls the table.
+/// The first difference between the visible table and the expected rows; empty when there is none.
+/// Scrolls the table.
 QString differenceOf(const TestMachine &program, const QStringList &expected) {
   const TableView *table = program.interface.tableView();
   if (table->numberOfRows() != expected.size()) {
     return QStringLiteral("%1 rows in place of %2").arg(table->numberOfRows()).arg(expected.size());
   }
-  // What is in view comes first: scrolling fills rows anew and would hide what is stale.
+  // Rows in view come first: scrolling refills rows and would hide stale ones.
   for (qint64 row = 0; row < expected.size(); ++row) {
     auto *cell = qobject_cast<ESPTableCellView *>(table->cellAtRow(row));
     const QString difference = cell ? differenceOfCell(row, cell, expected[row]) : QString();
@@ -121,12 +121,12 @@ QString differenceOf(const TestMachine &program, const QStringList &expected) {
 class RandomWalk {
  public:
   explicit RandomWalk(quint64 seed) : _chance(seed), _program(R"({ "disks": [] })") {
-    // Each refusal is logged, and each opening of the popover laments that it cannot be raised.
+    // Every refusal is logged, and Qt warns at each opening of the popover that it cannot raise it.
     QLoggingCategory::setFilterRules("default.warning=false");
   }
   ~RandomWalk() { QLoggingCategory::setFilterRules({}); }
 
-  /// Gives in words what it did.
+  /// Returns a description of the step.
   QString step() {
     const EventGap gap;
     const QString words = _program.interface.popover()->isShown() ? person() : machine();
@@ -143,7 +143,7 @@ class RandomWalk {
   QMap<QString, QString> rows() const {
     return expectedRows(_program.platform.machine(), _showsAll);
   }
-  /// What is wrong now; empty when all is well.
+  /// The first difference now; empty when there is none.
   QString wrong() const { return differenceOf(_program, rows().values()); }
 
  private:
@@ -218,7 +218,7 @@ class RandomWalk {
         partition.volumeKind = "ext4";
         partition.volumeName = _chance.oneOf(kVolumes);
         if (_chance.oneIn(3)) partition.mountPoint = "at the plug of " + disk.bsdName(partition);
-        // No more than one at a time.
+        // at most one volume at "/"
         if (disk.unit == 0 && disk.partitions.isEmpty()) partition.mountPoint = "/";
       }
       disk.partitions << partition;
@@ -228,7 +228,7 @@ class RandomWalk {
 
   QString anyPartition() {
     const SimulatedDisk &disk = _chance.oneOf(_program.platform.machine().disks);
-    if (disk.partitions.isEmpty()) return disk.bsdName() + "s1";  // not there
+    if (disk.partitions.isEmpty()) return disk.bsdName() + "s1";  // does not exist
     return disk.bsdName(_chance.oneOf(disk.partitions));
   }
 
@@ -261,7 +261,7 @@ class RandomWalk {
 
 }  // namespace
 
-TEST(RandomWalk, LeavesTheTableTrueAfterEveryStep) {
+TEST(RandomWalk, ShowsTheMachinesStateInTheTableAfterEveryStep) {
   const quint64 seed = loadSeed();
   const int steps = loadCount(100'000, 2000);
   RandomWalk walk(seed);

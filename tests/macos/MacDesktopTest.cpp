@@ -40,7 +40,7 @@ TEST_F(MacDesktop, MonitorsPressesAndReleasedKeysOfOtherPrograms) {
   EXPECT_EQ(watched, (QList{LeftMouseDown, RightMouseDown, KeyUp}));
 }
 
-TEST_F(MacDesktop, IsReopenedWhenItIsActivatedThoughItIsActive) {
+TEST_F(MacDesktop, IsReopenedWhenItIsActivatedWhileActive) {
   int times = 0;
   QObject::connect(desktop.get(), &Desktop::reopened, [&] { ++times; });
   for (const auto state : {Qt::ApplicationActive, Qt::ApplicationInactive, Qt::ApplicationActive}) {

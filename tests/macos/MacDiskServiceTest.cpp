@@ -1,5 +1,5 @@
-// What only this backend's service does: refusals inside a request, an administrator's mount, a new
-// start of the service.
+// Behaviour of this backend's service alone: refusals inside a request, an administrator's mount, a
+// restart of the service.
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -26,7 +26,7 @@ class MacDisks : public MacMachine {
 
 }  // namespace
 
-TEST_F(MacDisks, ARequestIsAnsweredOnceOrEndsWithTheServiceOrThePlatform) {
+TEST_F(MacDisks, ARequestIsAnsweredOnceOrFailsWithTheServiceOrThePlatform) {
   start();
   service().mount(kEsp, "/Volumes/Ä b", answer());
   fake::serve(fake::Mode::ModalPanel);
@@ -46,8 +46,8 @@ TEST_F(MacDisks, ARequestIsAnsweredOnceOrEndsWithTheServiceOrThePlatform) {
   EXPECT_EQ(answers.size(), 2);
 }
 
-TEST_F(MacDisks, AnEspThatIsRefusedToItsUserIsMountedByAnAdministrator) {
-  // A program in the place of the system's prompt, which notes what it is asked and ends as told.
+TEST_F(MacDisks, ARefusedEspIsMountedByAnAdministrator) {
+  // A script in place of the system's prompt. It records its arguments and exits as each case says.
   const QTemporaryDir root;
   const QString asked = writeFile(root.filePath("asked"), "");
   const QString prompt = writeFile(root.filePath("usr/bin/osascript"), "");
@@ -87,7 +87,7 @@ TEST_F(MacDisks, AnEspThatIsRefusedToItsUserIsMountedByAnAdministrator) {
   }
 }
 
-TEST_F(MacDisks, AServiceThatIsNotThereIsNotReady) {
+TEST_F(MacDisks, AMissingServiceIsReportedAsNotReady) {
   mac.hasDiskService = false;
   start();
   EXPECT_EQ(service().presence(), DiskService::Presence::Absent);

@@ -1,6 +1,6 @@
 #pragma once
 
-// The backend on a fake of a Mac, with one ESP, and what it tells.
+// The backend on a fake Mac with one ESP, and the backend's notifications.
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ class MacMachine : public testing::Test {
     noteVolumeNews(platform->workspaceNotificationCenter(), _observer, news);
   }
 
-  /// What was told since the last call, as `noteVolumeNews` notes it.
+  /// The notifications since the last call, as `noteVolumeNews` records them.
   QStringList told() {
     settle();
     return std::exchange(news, {});

@@ -1,4 +1,4 @@
-// The user's login items, files, drivers, processes, and our own process.
+// The user's login items, files, drivers, processes, and the program's own process.
 
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -11,7 +11,7 @@
 
 class MacSystem : public MacMachine {};
 
-TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
+TEST_F(MacSystem, LoginItemsAreIdentifiedByTheirLocation) {
   start();
   LoginItems &items = platform->loginItems();
   const QStringList others{"", "/Applications/Other.app", items.ownLocation()};
@@ -23,7 +23,7 @@ TEST_F(MacSystem, LoginItemsGoByTheirLocation) {
   EXPECT_EQ(snapshot.at(3).location, items.ownLocation());
   items.remove(snapshot.at(0));
   items.remove(snapshot.at(3));
-  EXPECT_EQ(mac.loginItems, others) << "one of two, and none that is unknown";
+  EXPECT_EQ(mac.loginItems, others) << "removes one of two own items, and no unknown one";
 }
 
 TEST_F(MacSystem, APartitionShowsThePictureOfItsDriver) {
@@ -42,7 +42,7 @@ TEST_F(MacSystem, APartitionShowsThePictureOfItsDriver) {
   EXPECT_NE(picture("disk4", "driver", "Removable.icns"), caution);
 }
 
-TEST_F(MacSystem, WhatIsOnARemovableVolumeIsReadOnceAWindowOfTheProgramIsInFront) {
+TEST_F(MacSystem, RemovableVolumesAreReadOnlyOnceAWindowIsInFront) {
   const QTemporaryDir stick;
   const QTemporaryDir internal;
   for (const auto &[disk, folder, isInternal] :
@@ -61,7 +61,7 @@ TEST_F(MacSystem, WhatIsOnARemovableVolumeIsReadOnceAWindowOfTheProgramIsInFront
   EXPECT_TRUE(platform->volumeFiles().image(stick.filePath("icon")).has_value());
 }
 
-TEST_F(MacSystem, FileSystemsAndTheirHoldersAreAsked) {
+TEST_F(MacSystem, FatVariantsAndProcessesThatUseAVolumeAreFound) {
   mac.fileSystemSubtypes = {{"/Volumes/EFI", 2}};
   mac.processes = {{7, {"/Volumes/EFI", "less"}}, {8, {"/Volumes/EFI", ""}}, {9, {"/", "more"}}};
   start();
@@ -70,7 +70,7 @@ TEST_F(MacSystem, FileSystemsAndTheirHoldersAreAsked) {
   EXPECT_EQ(processesUsing(*platform, "/Volumes/EFI"), (QStringList{"less (7)", "? (8)"}));
 }
 
-TEST_F(MacSystem, AProcessStartsItselfOnceMoreToBeToldOldVersions) {
+TEST_F(MacSystem, AProcessRestartsItselfToGetCompatibleVersions) {
   mac.executable = "/bin/sh";
   std::string name = "keldra", option = "-c", command = "exit 4$SYSTEM_VERSION_COMPAT";
   char *arguments[] = {name.data(), option.data(), command.data(), nullptr};

@@ -1,10 +1,10 @@
-// What is told of volumes; the suite that all backends share has the plain cases.
+// Announcements about volumes; the conformance suite covers the plain cases.
 
 #include "macos/MacMachine.h"
 
 class MacVolumes : public MacMachine {};
 
-TEST_F(MacVolumes, ThatWereThereAreNoNewsWhenTheProgramOrTheServiceStarts) {
+TEST_F(MacVolumes, PresentAtTheStartOfProgramOrServiceAreNotAnnounced) {
   mac.mount(kEsp, "/Volumes/EFI");
   mac.plug("/Volumes/Server");
   start();
@@ -18,7 +18,7 @@ TEST_F(MacVolumes, ThatWereThereAreNoNewsWhenTheProgramOrTheServiceStarts) {
             (QStringList{"-/Volumes/EFI", "-/Volumes/Server", "+/Volumes/Other", "changed"}));
 }
 
-TEST_F(MacVolumes, ARenameThatMovesTheMountPointIsOneRenameAlsoWhileAModalWindowIsOpen) {
+TEST_F(MacVolumes, ARenameIsAnnouncedOnceEvenDuringAModalWindow) {
   mac.mount(kEsp, "/Volumes/EFI");
   start();
   told();

@@ -1,4 +1,4 @@
-// Buses that are frozen when the program starts, or come back after they have gone.
+// Buses that are frozen when the program starts, or that restart.
 
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
@@ -12,7 +12,7 @@ namespace {
 
 const QString kName = "com.example.Program";
 
-/// One for everything.
+/// One bus for all services.
 class Bus : public ServiceTest {
  public:
   Bus() { qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toLocal8Bit()); }
@@ -36,7 +36,7 @@ class MockPanel final : public QDBusVirtualObject {
   }
   QString introspect(const QString &) const override { return {}; }
 
-  /// Whether the program's own name leads to it.
+  /// Whether the program's own name is on the bus.
   bool canCallProgram() const { return _bus.interface()->isServiceRegistered(kName); }
 
   bool isRegistered = false;
@@ -47,7 +47,7 @@ class MockPanel final : public QDBusVirtualObject {
 
 }  // namespace
 
-TEST_F(Bus, ThatIsFrozenAtTheStartKeepsNothingUp) {
+TEST_F(Bus, ThatIsFrozenAtTheStartDelaysNothing) {
   bus.freeze();
   QElapsedTimer sinceStart;
   sinceStart.start();
@@ -64,7 +64,7 @@ TEST_F(Bus, ThatIsFrozenAtTheStartKeepsNothingUp) {
   EXPECT_TRUE(waitFor([&] { return !names().isEmpty() && panel.canCallProgram(); }));
 }
 
-TEST_F(Bus, ThatRestartsFillsTheListAnewFailsWhatWasAskedAndFindsNameAndItemAgain) {
+TEST_F(Bus, ThatRestartsRestoresTheListTheNameAndTheItem) {
   start();
   const auto right = everything();
   const auto desktop = makeDesktop(kName);
@@ -78,7 +78,7 @@ TEST_F(Bus, ThatRestartsFillsTheListAnewFailsWhatWasAskedAndFindsNameAndItemAgai
     const Answers lost = mount("disk0s1");
     EXPECT_TRUE(waitFor([&] { return !service.calls.isEmpty(); }));
     service.die();
-    bus.restart();  // and the panel comes back before the program does
+    bus.restart();  // the panel returns before the program does
     EXPECT_TRUE(waitFor([&] { return names().isEmpty() && !lost->isEmpty(); }));
     EXPECT_EQ(*lost, QList{kDAReturnNotReady});
     service.appear();

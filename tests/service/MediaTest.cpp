@@ -1,4 +1,4 @@
-// What media are called, and what is said of them, after what the service says.
+// Names and descriptions of media, from the service's data.
 
 #include "Foundation/Paths.h"
 #include "Platform/linux/LinuxRawDevices.h"
@@ -8,7 +8,7 @@ namespace {
 
 class Media : public ServiceTest {
  public:
-  /// The program starts with the tree as it is now.
+  /// Starts the program with the present tree.
   void look() {
     service.appear();
     startProgram();
@@ -53,16 +53,16 @@ TEST_F(Media, OfPartitionsAreNamedByTypeThenNameThenPurpose) {
   EXPECT_EQ(value("disk1s10", kDADiskDescriptionMediaContentKey), "0xEF");
   EXPECT_EQ(value("disk1", kDADiskDescriptionMediaContentKey), "FDisk_partition_scheme");
   EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeKindKey), "msdos");
-  EXPECT_EQ(LinuxRawDevices(*disks).fileSystemSubtype(mountPoint), 1U) << "its width";
-  EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeUUIDKey), QVariant()) << "a serial number";
+  EXPECT_EQ(LinuxRawDevices(*disks).fileSystemSubtype(mountPoint), 1U) << "the FAT width";
+  EXPECT_EQ(value("disk0s2", kDADiskDescriptionVolumeUUIDKey), QVariant()) << "not a UUID";
   EXPECT_EQ(value("disk0s1", kDADiskDescriptionMediaEjectableKey), true);
   service.change(kServiceRoot + "/drives/sda", kDriveInterface, "ConnectionBus", "sdio");
   settle();
   EXPECT_EQ(value("disk0s1", kDADiskDescriptionDeviceProtocolKey), "Secure Digital");
-  EXPECT_EQ(names().mid(3, 3), (QStringList{"disk1", "disk1s9", "disk1s10"})) << "by number";
+  EXPECT_EQ(names().mid(3, 3), (QStringList{"disk1", "disk1s9", "disk1s10"})) << "in order";
 }
 
-TEST_F(Media, OfDisksAreNamedAndPicturedByDriveFileOrMapping) {
+TEST_F(Media, OfDisksGetNameAndPictureFromDriveFileOrMapping) {
   const struct {
     const char *device;
     QVariantMap drive;
@@ -90,7 +90,7 @@ TEST_F(Media, OfDisksAreNamedAndPicturedByDriveFileOrMapping) {
       QByteArray("/dev/md/vg-root\0", 16);
   service.tree[devices + "loop0"][kLoopInterface]["BackingFile"] =
       QByteArray("/images/b\xff.img\0rest", 19);
-  // These hold nothing.
+  // Disks that hold nothing.
   service.tree[service.addDisk("loop1", 32)][kLoopInterface]["BackingFile"] = QByteArray("\0", 1);
   service.addDisk("zram0", 33);
   service.tree[service.addDisk("sr1", 34)][kBlockInterface]["Size"] = 0ULL;

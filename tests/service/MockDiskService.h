@@ -1,11 +1,10 @@
 #pragma once
 
-// A disk service in the test's hand: it has the objects, and says the things, that the test wants,
-// and answers how and when the test wants.
+// A disk service that the test controls: its objects, its signals, and how and when it answers.
 //
 //   service.addDisk("sda", 0);
 //   service.appear();
-//   ... a mount is asked of the program ...
+//   ... the program requests a mount ...
 //   service.refuse(service.take("Mount"), "org.freedesktop.UDisks2.Error.DeviceBusy");
 
 #include <QDBusConnection>
@@ -20,7 +19,7 @@ inline const QString kServiceRoot = QStringLiteral("/org/freedesktop/UDisks2");
 
 QVariant link(const QString &path);
 
-/// One of the signals of such a service, with arguments that may be wrong.
+/// A signal of such a service, with arguments that may be wrong.
 QDBusMessage serviceSignal(const QString &path, const QString &name, const QVariantList &arguments);
 
 class MockDiskService final : public QDBusVirtualObject {
@@ -29,37 +28,37 @@ class MockDiskService final : public QDBusVirtualObject {
   ~MockDiskService() override { die(); }
 
   void appear();
-  /// As a crash does: whoever waits for an answer is told by the bus that there will be none.
+  /// Like a crash: the bus reports to callers that there will be no answer.
   void die();
-  /// Gives up the name and lives on, so that words of its may come late.
+  /// Gives up the name but stays on the bus, so that late messages are possible.
   void stepDown();
-  /// Its own address on the bus. Empty while it is dead.
+  /// Its unique name on the bus. Empty while it is not running.
   QString address() const { return _connection ? _connection->baseService() : QString(); }
 
-  // These fill the tree and say nothing of it. Each gives the path of the new object. Device
-  // numbers have the major number 8.
+  // These add to the tree without a signal. Each returns the path of the new object. Device numbers
+  // have the major number 8.
   QString addDisk(const QString &kernelName, uint minorNumber);
   QString addPartition(const QString &disk, uint number, uint minorNumber);
 
-  // These change the tree and tell of it.
+  // These change the tree and send signals.
   void add(const QString &path, const InterfaceMap &interfaces);
   void remove(const QString &path, const QStringList &interfaces);
   void remove(const QString &path) { remove(path, tree[path].keys()); }
   void change(const QString &path, const QString &interface, const QString &property,
               const QVariant &value);
 
-  /// Sends whatever message, however wrong.
+  /// Sends any message, even an invalid one.
   void say(const QDBusMessage &message) { _connection->send(message); }
 
-  /// Removes and gives the oldest unanswered call of this method. Fails the test when there is none.
+  /// Removes and returns the oldest unanswered call of this method. Fails the test if there is none.
   QDBusMessage take(const QString &method);
   void answer(const QDBusMessage &call, const QVariantList &values = {});
   void refuse(const QDBusMessage &call, const QString &error, const QString &text = {});
-  /// With the tree as it is now.
+  /// Answers with the present tree.
   void answerWithTree(const QDBusMessage &call);
 
   QMap<QString, InterfaceMap> tree;
-  bool holdsTree = false;  // whether also the question for the tree waits in `calls`
+  bool holdsTree = false;  // whether requests for the tree also wait in `calls`
   QList<QDBusMessage> calls;
 
   bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;

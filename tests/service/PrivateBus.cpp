@@ -12,7 +12,7 @@ PrivateBus::PrivateBus() {
 
 void PrivateBus::start() {
   _daemon.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-  // It finds no programs to start there.
+  // Without service folders, the bus starts no programs.
   auto environment = QProcessEnvironment::systemEnvironment();
   for (const char *variable : {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_RUNTIME_DIR"})
     environment.insert(variable, _folder.path());
@@ -21,7 +21,7 @@ void PrivateBus::start() {
   _daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address",
                                 "--address=unix:path=" + _folder.filePath("bus")});
   while (_daemon.waitForReadyRead(10000) && !_daemon.canReadLine()) continue;
-  // Without what tells one bus at this place from the next.
+  // Without the bus's GUID, so that the address is valid for the next bus too.
   _address = QString::fromUtf8(_daemon.readLine()).section(",guid=", 0, 0);
   EXPECT_FALSE(_address.isEmpty()) << "no bus: " << _daemon.errorString().toStdString();
 }

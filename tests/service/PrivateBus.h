@@ -1,7 +1,7 @@
 #pragma once
 
-// A message bus of the test's own: no other program is on it, and it starts none. It ends with this
-// object, and with the process however that ends.
+// A message bus for the test alone: no other program is on it, and it starts none. It exits with
+// this object, or with the process, even after a crash.
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -16,7 +16,7 @@ class PrivateBus {
 
   void freeze();
   void thaw();
-  /// At the same address. Everybody on it loses it.
+  /// Restarts the bus at the same address. All connections are lost.
   void restart();
 
  private:

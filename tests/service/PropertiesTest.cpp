@@ -1,4 +1,4 @@
-// Properties that make no sense, objects that lack their other half, bytes that are no text.
+// Invalid properties, incomplete objects, bytes that are not text.
 
 #include <QDBusVariant>
 
@@ -28,7 +28,7 @@ class Properties : public ServiceTest {
 
 }  // namespace
 
-TEST_F(Properties, OfAWrongTypeAreAsGoodAsNone) {
+TEST_F(Properties, OfAWrongTypeCountAsAbsent) {
   const auto right = everything();
   const auto tree = service.tree;
   for (auto object = tree.begin(); object != tree.end(); ++object) {
@@ -57,7 +57,7 @@ TEST_F(Properties, OfAWrongTypeAreAsGoodAsNone) {
   }
 }
 
-TEST_F(Properties, MayLinkToNothingOrToThemselves) {
+TEST_F(Properties, WithInvalidLinksHideTheirPartition) {
   for (const QString &table : {QString("/"), QString("/nowhere"), esp, data}) {
     service.change(esp, kPartitionInterface, "Table", link(table));
     settle();
@@ -66,5 +66,5 @@ TEST_F(Properties, MayLinkToNothingOrToThemselves) {
   service.change(esp, kPartitionInterface, "Table", link(disk));
   service.change(data, kPartitionInterface, "Number", 1U);
   settle();
-  EXPECT_EQ(names(), (QStringList{"disk0", "disk0s1", "disk1"})) << "two of one number";
+  EXPECT_EQ(names(), (QStringList{"disk0", "disk0s1", "disk1"})) << "the same number";
 }

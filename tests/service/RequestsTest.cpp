@@ -1,4 +1,4 @@
-// Mounts and unmounts that the service answers in every way there is, or not at all.
+// Mounts and unmounts with every kind of answer from the service, or none.
 
 #include <QDBusArgument>
 
@@ -11,7 +11,7 @@ namespace {
 const QString kBusy = "org.freedesktop.UDisks2.Error.DeviceBusy";
 const QString kUnknownMethod = "org.freedesktop.DBus.Error.UnknownMethod";
 
-// One of each way in which a refusal is told from the others.
+// One refusal for each rule that distinguishes them.
 const struct {
   QString error;
   QString message;
@@ -40,16 +40,16 @@ class RequestsOfTheService : public ServiceTest {
 
 }  // namespace
 
-TEST(RefusalOfTheService, HasTheStatusOfItsError) {
+TEST(RefusalOfTheService, IsMappedToTheStatusOfItsError) {
   for (const auto &[error, message, status, isThere] : kRefusals) {
     EXPECT_EQ(refusalStatus(error, message, isThere), status) << (error + message).toStdString();
   }
 }
 
-TEST_F(RequestsOfTheService, WaitForAPersonsPasswordLongerThanTheBusWaitsByItself) {
+TEST_F(RequestsOfTheService, HaveNoTimeoutWhileAPasswordIsTyped) {
   const Answers forced = unmount("disk0s2", DiskService::UnmountOption::Force);
   const Answers mounted = mount("disk0s1");
-  ASSERT_TRUE(waitFor([&] { return service.calls.size() == 2; })) << "the flush takes its time";
+  ASSERT_TRUE(waitFor([&] { return service.calls.size() == 2; })) << "the flush takes too long";
   for (const QDBusMessage &call : service.calls) {
     EXPECT_TRUE(call.isInteractiveAuthorizationAllowed()) << call.member().toStdString();
   }
@@ -65,7 +65,7 @@ TEST_F(RequestsOfTheService, WaitForAPersonsPasswordLongerThanTheBusWaitsByItsel
   EXPECT_EQ(*mounted, Statuses{kDAReturnSuccess});
 }
 
-TEST_F(RequestsOfTheService, ByForceDoNotWaitForADiskThatDoesNotAnswer) {
+TEST_F(RequestsOfTheService, ForcedUnmountsDoNotWaitForASilentDisk) {
   const MuteVolume mute(mountPoint);
   if (!mute.isThere()) GTEST_SKIP() << "no file system may be mounted here";
   QVariant unwritten;
@@ -81,13 +81,13 @@ TEST_F(RequestsOfTheService, ByForceDoNotWaitForADiskThatDoesNotAnswer) {
   EXPECT_EQ(*unmounted, Statuses{kDAReturnSuccess});
 }
 
-TEST_F(RequestsOfTheService, ForADiskThatVanishesAreOverWithItThoughItComesBack) {
+TEST_F(RequestsOfTheService, ForAVanishedDiskFailEvenIfTheDiskComesBack) {
   const Answers mounted = mount("disk0s1");
   settle();
   const InterfaceMap interfaces = service.tree[esp];
   service.remove(esp, {kFilesystemInterface});
   settle();
-  EXPECT_EQ(*mounted, Statuses{}) << "it is looked at anew";
+  EXPECT_EQ(*mounted, Statuses{}) << "the mount should still be pending";
   service.add(esp, interfaces);
   const Answers unmountedEsp = unmount("disk0s1");
   const Answers unmounted = unmount("disk0s2");
@@ -97,8 +97,8 @@ TEST_F(RequestsOfTheService, ForADiskThatVanishesAreOverWithItThoughItComesBack)
   service.remove(data);
   settle();
   EXPECT_EQ(*mounted, Statuses{kDAReturnNotFound});
-  EXPECT_EQ(*unmountedEsp, Statuses{kDAReturnSuccess}) << "it is mounted no more";
-  EXPECT_EQ(*unmounted, Statuses{kDAReturnNotFound}) << "the kernel has it mounted";
+  EXPECT_EQ(*unmountedEsp, Statuses{kDAReturnSuccess}) << "the ESP is not mounted";
+  EXPECT_EQ(*unmounted, Statuses{kDAReturnNotFound}) << "the kernel still has the volume mounted";
   EXPECT_TRUE(waitFor([&] { return events.contains("changed"); }));
   EXPECT_EQ(events.count("-" + mountPoint), 1);
   while (!service.calls.isEmpty()) service.answer(service.calls.takeFirst());

@@ -11,7 +11,7 @@ ServiceTest::ServiceTest() {
 
 ServiceTest::~ServiceTest() = default;
 
-// What was said before a call is heard before its answer. A reaction takes another turn.
+// Messages sent before a call arrive before its answer. A reaction takes another turn.
 void ServiceTest::settle() {
   const auto ping = QDBusMessage::createMethodCall(
       service.address().isEmpty() ? "org.freedesktop.DBus" : service.address(), "/",

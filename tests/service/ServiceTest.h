@@ -1,7 +1,6 @@
 #pragma once
 
-// A test with the real backend on a private bus, and a disk service there that is in the test's
-// hand.
+// A test with the real backend on a private bus, and a disk service that the test controls.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +13,7 @@
 #include "service/MockDiskService.h"
 #include "service/PrivateBus.h"
 
-/// The statuses with which a request was completed: one, if all is well.
+/// The statuses with which a request was completed; exactly one if the backend is correct.
 using Answers = std::shared_ptr<QList<DissenterStatus>>;
 
 class ServiceTest : public testing::Test {
@@ -25,18 +24,18 @@ class ServiceTest : public testing::Test {
   static bool waitFor(const std::function<bool()> &condition) {
     return QTest::qWaitFor(condition, 10000);
   }
-  /// Until whatever the service and the program have to say to each other has been heard and acted
-  /// upon, by both.
+  /// Waits until the service and the program have received and handled all of each other's
+  /// messages.
   void settle();
 
-  /// Makes the backend; it is the program that the service hears of.
+  /// Makes the backend: the program from the service's point of view.
   void startProgram();
-  /// The service appears, and the backend has its tree.
+  /// Starts the service and waits until the backend has its tree.
   void start();
 
   QStringList names() const { return disks->mediaNames(); }
   QVariant value(const QString &name, const QString &key) const;
-  /// All that can be known of all disks.
+  /// The descriptions of all disks.
   QList<DiskDescription> everything() const;
 
   Answers mount(const QString &name);
@@ -55,7 +54,7 @@ class ServiceTest : public testing::Test {
   MessageBus systemBus{bus.address()};
   NotificationCenter workspace;
   std::unique_ptr<LinuxDiskService> disks;
-  /// As support/VolumeNews.h notes them.
+  /// As `noteVolumeNews` records them.
   QStringList events;
 
  private:

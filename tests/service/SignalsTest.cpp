@@ -1,4 +1,4 @@
-// Signals that are malformed, or not the service's own.
+// Signals that are malformed, or from other senders.
 
 #include "service/ServiceTest.h"
 
@@ -11,7 +11,7 @@ class Signals : public ServiceTest {
 
 }  // namespace
 
-TEST_F(Signals, ThatAreMalformedOrOfNothingChangeNothing) {
+TEST_F(Signals, ThatAreMalformedOrOfUnknownObjectsAreIgnored) {
   const auto right = everything();
   const QVariantMap label{{"IdLabel", "Other"}};
   const std::tuple<QString, QString, QVariantList> kinds[] = {
@@ -28,8 +28,8 @@ TEST_F(Signals, ThatAreMalformedOrOfNothingChangeNothing) {
   }
 }
 
-// To the program alone, because the bus lets nobody else's signals to everybody through to it.
-TEST_F(Signals, OfOthersAreNotHeeded) {
+// Sent to the program directly, because the bus does not pass another sender's broadcasts to it.
+TEST_F(Signals, OfOtherSendersAreIgnored) {
   const auto right = everything();
   const Answers waiting = mount("disk0s1");
   auto other = QDBusConnection::connectToBus(bus.address(), "other");
@@ -45,7 +45,7 @@ TEST_F(Signals, OfOthersAreNotHeeded) {
        {link(disk), QStringList{kBlockInterface}});
   send("/org/freedesktop/DBus", kBus, "NameOwnerChanged",
        {kDiskServiceName, service.address(), other.baseService()});
-  // What the other one has sent is at the bus when this is answered.
+  // When this call is answered, the bus has the other program's messages.
   other.call(QDBusMessage::createMethodCall(kBus, "/", kBus, "GetId"));
   settle();
   EXPECT_EQ(everything(), right);

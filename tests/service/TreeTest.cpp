@@ -1,4 +1,4 @@
-// The service's tree when it comes late or never, is huge, or comes anew again and again.
+// The service's tree arrives late or never, is huge, or is fetched again and again.
 
 #include <QUuid>
 
@@ -21,7 +21,7 @@ class Tree : public ServiceTest {
 
 }  // namespace
 
-TEST_F(Tree, MayComeAfterItsFirstChanges) {
+TEST_F(Tree, MayArriveAfterSignalsOfItsChanges) {
   service.holdsTree = true;
   service.appear();
   startProgram();
@@ -39,10 +39,10 @@ TEST_F(Tree, MayComeAfterItsFirstChanges) {
   EXPECT_EQ(disks->presence(), Presence::Answering);
   EXPECT_EQ(names(), (QStringList{"disk0", "disk0s2", "disk0s3", "disk0s5"}));
   EXPECT_TRUE(waitFor([&] { return events.contains("changed"); }));
-  EXPECT_EQ(events.count("changed"), events.size()) << "what was mounted is no news";
+  EXPECT_EQ(events.count("changed"), events.size()) << "old mounts are not announced";
 }
 
-TEST_F(Tree, ThatIsRefusedTooLateOrMakesNoSenseIsNone) {
+TEST_F(Tree, ThatIsRefusedLateOrInvalidIsIgnored) {
   const QList<std::function<void(const QDBusMessage &)>> replies = {
       [&](const auto &question) { service.refuse(question, "com.example.Error"); },
       [&](const auto &question) { service.answer(question, {"a text"}); },
@@ -61,7 +61,7 @@ TEST_F(Tree, ThatIsRefusedTooLateOrMakesNoSenseIsNone) {
     EXPECT_EQ(disks->presence(), Presence::Absent);
     service.add(disk, service.tree[disk]);
     settle();
-    EXPECT_EQ(names(), QStringList{}) << "half a tree";
+    EXPECT_EQ(names(), QStringList{}) << "a partial tree";
     service.die();
   }
   service.holdsTree = false;
@@ -69,21 +69,21 @@ TEST_F(Tree, ThatIsRefusedTooLateOrMakesNoSenseIsNone) {
   EXPECT_TRUE(waitFor([&] { return names() == kNames; }));
 }
 
-TEST_F(Tree, MayChangeInAFlurry) {
+TEST_F(Tree, ManyChangesAreReportedTogether) {
   start();
   for (int count = 0; count < 300; ++count) {
     service.change(esp, kPartitionInterface, "UUID", QUuid::createUuid().toString());
   }
   service.change(data, kBlockInterface, "IdLabel", "new");
   EXPECT_TRUE(waitFor([&] { return events.contains("~" + mountPoint); }));
-  EXPECT_LT(events.size(), 30) << "told of in waves";
+  EXPECT_LT(events.size(), 30) << "changes are announced together";
 }
 
-TEST_F(Tree, ComesAnewWithEveryLifeOfTheService) {
+TEST_F(Tree, IsFetchedAgainAfterEachRestartOfTheService) {
   start();
   const Answers mounted = mount("disk0s1");
   ASSERT_TRUE(waitFor([&] { return service.calls.size() == 1; }));
-  service.stepDown();  // it lives on for a moment, and nobody listens any more
+  service.stepDown();  // still running, but its messages are ignored
   ASSERT_TRUE(waitFor([&] { return !mounted->isEmpty(); }));
   service.answer(service.take("Mount"));
   service.remove(disk);

@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-/// While it lives, this process may do what anybody may. Its saved user stays root, the way back.
+/// While this object exists, the process has an ordinary user's rights. Its saved user stays root,
+/// so that it can switch back.
 class AsAnybody {
  public:
   AsAnybody() {

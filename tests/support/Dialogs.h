@@ -6,8 +6,8 @@
 #include <QTest>
 #include <QTimer>
 
-/// While it lives, answers each dialog that comes up with the next of these buttons, named by its title;
-/// "Escape" and "close" are ways to do without. A dialog that there is no answer for is closed.
+/// While this object exists, it answers each dialog that opens with the next of these buttons, named by
+/// title; "Escape" and "close" dismiss the dialog. A dialog without a next answer is closed.
 class Dialogs : public QObject {
  public:
   explicit Dialogs(const QStringList &answers) : _answers(answers) {
@@ -18,7 +18,7 @@ class Dialogs : public QObject {
     _timer.start(1);
   }
 
-  /// What each said.
+  /// The texts and button titles of each dialog.
   QStringList texts, informativeTexts, titles;
   /// Called before each answer.
   std::function<void()> meanwhile = [] {};

@@ -1,6 +1,6 @@
 #pragma once
 
-// Files of a test's own.
+// Files for tests.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-/// Makes its folder too, and returns the path. Fails the test when it cannot.
+/// Creates the folder too, and returns the path. Fails the test when it cannot write.
 inline QString writeFile(const QString &path, const QByteArray &content) {
   QDir().mkpath(QFileInfo(path).path());
   QFile file(path);
@@ -16,7 +16,7 @@ inline QString writeFile(const QString &path, const QByteArray &content) {
   return path;
 }
 
-/// Empty where there is none.
+/// Empty if the file does not exist.
 inline QByteArray contentOf(const QString &path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

@@ -1,6 +1,6 @@
 #pragma once
 
-// A volume that never answers: a file system whose server reads what it is asked and says nothing.
+// A volume that never answers: a FUSE file system whose server reads requests without answering.
 
 #include <fcntl.h>
 #include <linux/fuse.h>
@@ -12,7 +12,7 @@
 
 class MuteVolume {
  public:
-  /// Hides what is at `folder`. Not there where this user may not mount.
+  /// Mounts over `folder`. Fails, see `isThere`, where this user may not mount.
   explicit MuteVolume(const QString &folder) : _folder(folder.toUtf8()) {
     const QByteArray options =
         "rootmode=40000,user_id=0,group_id=0,fd=" + QByteArray::number(_device);
@@ -36,14 +36,14 @@ class MuteVolume {
 
   bool isThere() const { return _isThere; }
 
-  /// How many were asked until now. Whoever asked one of them cannot even be killed any more.
+  /// The number of requests until now. A process that waits for one of them cannot even be killed.
   int questions() {
     fuse_in_header question{};
     while (takeQuestion(question)) ++_questions;
     return _questions;
   }
 
-  /// From now on, and also to what was asked before: an error.
+  /// Answers all requests, past and future, with an error.
   void fail() {
     close(_device);
     _device = -1;

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QUrl>
 
-/// Takes the place of the desktop's file manager while it lives.
+/// Replaces the desktop's file manager while this object exists.
 class OpenedFolders : public QObject {
   Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The whole program, real widgets and all, with its popover open, on a platform of the test's.
+// The whole program, with real widgets and an open popover, on the test's platform.
 
 #include <QTest>
 #include <QVariantAnimation>
@@ -23,7 +23,7 @@ class Program {
     settle();
   }
 
-  /// Serves whatever is waiting in the event loop, until there is nothing more.
+  /// Serves the event loop until no event is pending.
   static void settle() {
     for (int turn = 0; turn < 5; ++turn) QCoreApplication::processEvents();
   }
@@ -35,7 +35,7 @@ class Program {
   }
   /// Null when there is no such row.
   ESPTableCellView *cell(qint64 row) const {
-    // The screen may be too small for all rows at once.
+    // Scrolls, because the screen may be too small for all rows.
     interface.tableView()->scrollRowToVisible(row);
     return qobject_cast<ESPTableCellView *>(interface.tableView()->cellAtRow(row));
   }
@@ -48,7 +48,7 @@ class Program {
   static void click(RowButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
   void click(const QString &name) { click(rowOf(name)->mountButton()); }
 
-  /// The status line's text once its fading is over.
+  /// The status line's text after the fade.
   QString status() {
     settle();
     for (int fade = 0; fade < 2; ++fade) {
@@ -58,7 +58,7 @@ class Program {
     }
     return interface.statusTextField()->stringValue();
   }
-  /// Waits for it.
+  /// Waits until the status line shows the text.
   bool says(const QString &text) {
     return QTest::qWaitFor([&] { return status() == text; }, 10000);
   }

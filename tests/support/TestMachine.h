@@ -1,11 +1,11 @@
 #pragma once
 
-// The whole program, real widgets and all, on a simulated machine whose time is in the test's hand.
+// The whole program, with real widgets, on a simulated machine whose clock the test controls.
 
 #include "Platform/simulated/SimulatedPlatform.h"
 #include "support/Program.h"
 
-/// Time that goes on by one step at every look at it, so that no wait takes any.
+/// A clock that advances by one step at each reading, so that no wait takes real time.
 class SteppingClock final : public Clock {
  public:
   std::chrono::milliseconds now() const override { return _now += std::chrono::milliseconds(100); }
@@ -15,11 +15,11 @@ class SteppingClock final : public Clock {
   mutable std::chrono::milliseconds _now{0};
 };
 
-/// The machine of a machine file. Fails the test when it is refused.
+/// The machine of a machine file. Fails the test when the file is refused.
 Machine machineOf(const QByteArray &json);
 
 /// A dual-boot disk0 (ESP, data, root), disk1 with an ESP and a data partition mounted at "Data",
-/// and disk2, an MBR stick without any.
+/// and disk2, an MBR stick without an ESP.
 QByteArray twoEspMachine();
 
 /// A simulated platform that is the current one.
@@ -37,7 +37,7 @@ class TestPlatform {
   CurrentPlatform current;
 };
 
-/// What it shows under a resting pointer.
+/// The tooltip that the widget shows.
 QString toolTipOf(QWidget *widget);
 
 class TestMachine : public TestPlatform, public Program {

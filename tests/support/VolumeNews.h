@@ -6,7 +6,7 @@
 #include "Foundation/NotificationCenter.h"
 #include "Platform/Platform.h"
 
-/// Notes what a platform tells of volumes for as long as the observer lives: "+PATH", "-PATH" or
+/// Records a platform's announcements of volumes while the observer exists: "+PATH", "-PATH" or
 /// "~PATH" for a mount, an unmount or a rename; "changed" for an event without a path.
 inline void noteVolumeNews(NotificationCenter &workspace, QObject &observer, QStringList &events) {
   for (const auto &[name, sign] : {std::pair(kNSWorkspaceDidMountNotification, "+"),
@@ -19,7 +19,7 @@ inline void noteVolumeNews(NotificationCenter &workspace, QObject &observer, QSt
   }
 }
 
-/// Waits for the answer.
+/// Blocks until the answer comes.
 inline QStringList processesUsing(Platform &platform, const QString &mountPoint) {
   std::optional<QStringList> processes;
   platform.volumeFiles().findProcessesUsing(mountPoint,

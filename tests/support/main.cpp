@@ -1,5 +1,5 @@
-// Runs all tests of an executable inside an application of its own, without a display and without
-// the user's settings, session or autostart folder.
+// Runs all tests of an executable inside an application, without a display and without the user's
+// settings, session or autostart folder.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@
 
 int main(int argc, char **argv) {
 #ifdef __linux__
-  // A backend starts this very program when it has volumes to look at.
+  // A backend starts this executable as its helper for volumes.
   if (const auto status = runAsVolumeHelper()) return *status;
 #endif
   testing::InitGoogleTest(&argc, argv);
@@ -27,7 +27,7 @@ int main(int argc, char **argv) {
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  QLocale::setDefault(QLocale(QLocale::English));  // whatever the person speaks
+  QLocale::setDefault(QLocale(QLocale::English));  // whatever the user's language is
   configureApplication();
   return RUN_ALL_TESTS();
 }

@@ -3,9 +3,8 @@
     program = find_application("keldra")
     for node in program.descendants(): print(node.role, node.name, node.states())
 
-Every question goes to the program itself and asks for children all at once, never by number: nothing is kept that
-could be out of date, and a widget that has just gone is no trouble. Every operation raises `Gone` when the widget or
-the program is no longer there.
+Every call goes to the program itself and gets all children at once, never one by number: nothing is cached, so a
+widget may vanish at any time. Every operation raises `Gone` when the widget or the program no longer exists.
 """
 
 import contextlib
@@ -18,7 +17,7 @@ _PATIENCE_MS = 5000
 
 
 class Gone(Exception):
-    """The widget, or its program, has gone."""
+    """The widget or its program no longer exists."""
 
 
 class Node:
@@ -67,7 +66,7 @@ class Node:
         low, high = self._call(_ACCESSIBLE, "GetState")[0]
         return bool((low | high << 32) >> number & 1)
 
-    # The numbers are the protocol's.
+    # The numbers are defined by the protocol.
     def is_active(self):
         return self._has_state(1)
 
@@ -109,15 +108,15 @@ def find_application(name):
 
 
 class Announcements:
-    """What a screen reader says of its own accord, because a notification appears; for as long as the object lives.
+    """The notifications that a screen reader reads, until `close` is called.
 
-    `texts` grows in a thread of its own."""
+    A separate thread appends to `texts`."""
 
     def __init__(self):
         self.texts = []
         context = GLib.MainContext()
         self._loop = GLib.MainLoop(context)
-        # Programs keep quiet about what nobody has asked for.
+        # Programs send only events that a client has registered for.
         _connection().call_sync(_REGISTRY, "/org/a11y/atspi/registry", _REGISTRY, "RegisterEvent",
                                 GLib.Variant("(sass)", ("object:state-changed:showing", [], "")), None,
                                 Gio.DBusCallFlags.NONE, _PATIENCE_MS, None)

@@ -2,7 +2,7 @@
 
 
 class View:
-    """What the popover shows at one moment."""
+    """A snapshot of the popover."""
 
     def __init__(self, window):
         self.rows = []  # (text, {title: button})
@@ -23,7 +23,7 @@ class View:
         return next((buttons[title] for _, buttons in self.rows if title in buttons), None)
 
     def mounted_at(self, name):
-        """What the open button beside "umount NAME" says, without its verb; None while NAME is not mounted."""
+        """The open button's title beside "umount NAME", without its verb; None while NAME is not mounted."""
         for _, buttons in self.rows:
             if f"umount {name}" in buttons:
                 return next((title[5:] for title in buttons if title.startswith("open ")), None)

@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# What every private desktop has, whatever its screen: a room for its files, a session bus, screen-reader support, a
-# home folder, and an end that leaves nothing behind. Sourced by tools/lab/desktop and tools/lab/wayland-desktop.
+# Shared by all private desktops: a temporary folder ("room"), a session bus, screen-reader support, a home folder, and
+# the removal of all of these. Sourced by tools/lab/desktop and tools/lab/wayland-desktop.
 # shellcheck disable=SC2317 # functions are called by traps and by name
 
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -33,7 +33,7 @@ wait_until() {
   done
 }
 
-# Newest first: who lives by another ends before it.
+# Newest first: a process ends before those that it depends on.
 end_all() {
   trap '' INT TERM HUP
   local pid index
@@ -45,7 +45,7 @@ end_all() {
   rm -rf "$room"
 }
 
-# Should this script be killed, its children are told.
+# If this script is killed, its children get SIGTERM.
 start() {
   setpriv --pdeathsig TERM "$@" </dev/null >>"$log" 2>&1 &
   pids+=($!)
@@ -69,7 +69,7 @@ open_room() {
   [[ -n ${KELDRA_LAB:-} ]] || export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$room/no-system-bus
 }
 
-# Without the system's service folders: nothing of the machine's own desktop is started on this bus.
+# Without the system's service folders, so that this bus starts no services of the machine's own desktop.
 start_session_bus() {
   cat > "$room/session.conf" <<XML
 <!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
@@ -91,7 +91,7 @@ XML
   start /usr/libexec/at-spi-bus-launcher --launch-immediately
 }
 
-# Of StatusNotifierItem, which panels and tests start by themselves.
+# The StatusNotifierItem watcher, which panels and tests start themselves.
 watcher_is_there() {
   dbus-send --print-reply --dest=org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner \
     string:org.kde.StatusNotifierWatcher 2>/dev/null | grep -q true
@@ -99,8 +99,8 @@ watcher_is_there() {
 
 screen_reader_bus_is_there() { [[ -n $(find "$XDG_RUNTIME_DIR/at-spi" -type s 2>/dev/null) ]]; }
 
-# Ends this script with the command's status. In the background, so that signals are answered at once; the words
-# around the command undo what that does to it.
+# Exits with the command's status. The command runs in the background, so that signals are handled at once;
+# `env --default-signal` and `<&0` keep Ctrl-C and the standard input working.
 run_and_exit() {
   wait_until "the screen readers' bus" screen_reader_bus_is_there
   env --default-signal=INT,QUIT setpriv --pdeathsig TERM "$@" <&0 &

@@ -1,4 +1,4 @@
-"""The running program under a person's hands: what its popover shows is waited for, and its controls are clicked.
+"""The running program as a user operates it: waits for what the popover shows, and clicks its controls.
 
     program = Program(["bin/keldra-demo", "machine.json"], screen)
     program.open()
@@ -6,8 +6,8 @@
     program.wait_for_view("it should be mounted", lambda view: view.mounted_at("disk0s1"))
     program.end()
 
-`screen` is the module for the desktop in use: screen.py or wayland_screen.py. What does not come true in time raises
-`Failure`.
+`screen` is the module for the desktop in use: screen.py or wayland_screen.py. A condition that does not hold in time
+raises `Failure`.
 """
 
 import contextlib
@@ -23,7 +23,7 @@ _POLL_S = 0.03
 
 
 class Failure(Exception):
-    """What should have been was not."""
+    """An expected condition did not hold."""
 
 
 class Program:
@@ -32,7 +32,7 @@ class Program:
         self._process = subprocess.Popen(command, stdin=subprocess.DEVNULL)
 
     def window(self):
-        """The popover's, or None while it is closed."""
+        """The popover's window, or None while it is closed."""
         program = accessibility.find_application("keldra")
         windows = program.children() if program else []
         return next((window for window in windows if window.role == "frame" and window.is_showing()), None)
@@ -43,7 +43,7 @@ class Program:
         return View(window) if window else None
 
     def place(self, title=None):
-        """Of the popover, or of the control in it that has the title, on the screen."""
+        """The place on the screen of the popover, or of its control with the title."""
         def found():
             window = self.window()
             view = View(window) if window and title else None
@@ -52,7 +52,7 @@ class Program:
         return self.wait_for(f'there should be "{title}"' if title else "the popover should be open", found)
 
     def wait_for(self, what, condition):
-        """The first true value of `condition`, which may ask for things that come and go."""
+        """The first true value of `condition`, which may use widgets that vanish."""
         deadline = time.monotonic() + PATIENCE_S
         while True:
             with contextlib.suppress(accessibility.Gone, subprocess.CalledProcessError):
@@ -78,10 +78,10 @@ class Program:
         return self.wait_for("an item should appear in the tray", lambda: self._screen.tray_item("keldra"))
 
     def open(self):
-        """By a click on the item."""
+        """Opens the popover by a click on the item."""
         clicked = float("-inf")
 
-        # A click that comes right after the popover closed counts as part of what closed it: click again, then.
+        # A click right after the popover has closed is ignored as the one that closed it, so the click is repeated.
         def opened():
             nonlocal clicked
             window = self.window()
@@ -97,7 +97,7 @@ class Program:
         self._screen.click(self.place(title))
 
     def focus(self, title):
-        """By the keyboard alone."""
+        """Moves the keyboard focus to the control by the Tab key."""
         def where():
             view = self.view()
             control = view and (view.button(title) or view.controls.get(title))
@@ -123,7 +123,7 @@ class Program:
         return self._process.poll() is None
 
     def end(self):
-        """In any case, and at once if need be. What it says by its status counts, as at any other end."""
+        """Ends the program, by force if need be. Its exit status is checked as in `wait_for_end`."""
         if self._process.poll() is None:
             self._process.terminate()
         try:

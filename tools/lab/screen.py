@@ -1,6 +1,6 @@
-"""A person's hands and eyes on an X screen: pointer, keyboard, pictures, colours and the items in the tray.
+"""Input and pictures on an X screen: pointer, keyboard, colours and the items in the tray.
 
-Lengths and places are as programs know them, which need not know of a screen's scale.
+Lengths and places are in the programs' units, before the screen's scale.
 """
 
 import os
@@ -37,7 +37,7 @@ def place_of(node, _window):
 
 
 def click(place, button=1, times=1):
-    """In the middle of (left, top, width, height)."""
+    """Clicks in the middle of (left, top, width, height)."""
     left, top, width, height = place
     _run("xdotool", "mousemove", str(_SCALE * (left + width // 2)), str(_SCALE * (top + height // 2)),
          "click", "--repeat", str(times), "--delay", "60", str(button))
@@ -48,7 +48,7 @@ def press(key):
 
 
 def hide_window(name):
-    """Once it is there."""
+    """Waits for the window and hides it."""
     _run("xdotool", "search", "--sync", "--onlyvisible", "--name", f"^{name}", "windowunmap")
 
 
@@ -57,7 +57,7 @@ def move_pointer(x, y):
 
 
 def wait_for_rest(place=None):
-    """Until nothing changes there any more, though not for ever."""
+    """Waits until the place stops changing, three seconds at most."""
     before, deadline = None, time.monotonic() + 3
     while (now := _pixels(place)) != before and time.monotonic() < deadline:
         before = now
@@ -65,13 +65,13 @@ def wait_for_rest(place=None):
 
 
 def take_picture(file_name, place=None):
-    """Of that place or the whole screen, once it has come to rest."""
+    """Saves a picture of the place or the whole screen when it has stopped changing."""
     wait_for_rest(place)
     _run("import", "-window", "root", *_crop(place), "+repage", str(file_name))
 
 
 def colours(place):
-    """Of the pixels there, row by row, as (red, green, blue)."""
+    """The colours of the pixels, row by row, as (red, green, blue)."""
     pixels = _pixels(place)
     return list(zip(pixels[0::3], pixels[1::3], pixels[2::3]))
 
@@ -101,7 +101,7 @@ def has_trayer():
 
 
 def docked_icon(window_class):
-    """Of the X11 protocol for trays: the program's own window in the tray's."""
+    """In a tray of the X11 protocol: the program's own window inside the tray's."""
     for tray_window in _trays():
         tree = _run("xwininfo", "-tree", "-id", tray_window).decode()
         icon = re.search(rf'" "{window_class}"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)
@@ -111,7 +111,7 @@ def docked_icon(window_class):
     return None
 
 
-# A panel paints the items of StatusNotifierItem itself. Its only one is the last of what the panel shows.
+# A panel paints the items of StatusNotifierItem itself. The only item is the last widget that the panel shows.
 def _item_in_panel():
     panel = accessibility.find_application("xfce4-panel")
     if not panel or not tray.items():

@@ -1,4 +1,4 @@
-"""A service on the session bus, for as long as the object lives; what it answers is the caller's to say.
+"""A service on the session bus, until `close` is called; the caller gives the answers.
 
     SessionService("org.example.Clock", "/clock", '<method name="Now"><arg type="s" direction="out"/></method>',
                    lambda method, arguments: GLib.Variant("(s)", ("noon",)))

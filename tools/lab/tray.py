@@ -21,5 +21,5 @@ def has_host():
 
 
 def items():
-    """The items that have registered; none also where there is no such tray."""
+    """The registered items; empty also where there is no such tray."""
     return _property("RegisteredStatusNotifierItems") or []

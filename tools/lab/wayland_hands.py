@@ -1,11 +1,11 @@
-"""A pointer and a keyboard for a headless Wayland desktop, which has none, so that nobody could click or type there.
+"""A pointer and a keyboard for a headless Wayland desktop, which has none of its own.
 
     hands = Hands((1280, 800))
     hands.click(640, 400)
     hands.press("Escape")
 
-They are plugged in for as long as the object lives, as a person's are. It speaks the protocol itself: it has little
-to say, and no tool keeps its devices plugged in.
+They are plugged in while the object exists. It speaks the Wayland protocol itself, because existing tools remove their
+devices at once.
 """
 
 import array
@@ -22,7 +22,7 @@ _KEYMAP = b"""xkb_keymap {
 };\0"""
 _LEFT_BUTTON = 0x110
 _KEYS = {"Escape": 1, "Tab": 15, "Return": 28, "a": 30, "space": 57}  # as the kernel counts them
-# Objects are numbered in the order of their making.
+# Objects are numbered in the order of creation.
 _DISPLAY, _REGISTRY, _CALLBACK, _SEAT, _POINTERS, _KEYBOARDS, _POINTER, _KEYBOARD = range(1, 9)
 
 
@@ -83,7 +83,7 @@ class Hands:
         os.close(handle)
 
     def _events(self):
-        """Everything that the compositor says until it has answered all that was asked."""
+        """All events until the compositor has answered all requests."""
         self._send(_DISPLAY, 0, _CALLBACK)
         while True:
             target, size_opcode = struct.unpack("=II", self._receive(8))

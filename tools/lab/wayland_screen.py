@@ -1,4 +1,4 @@
-"""A person's hands and eyes on the screen of tools/lab/wayland-desktop, as screen.py has them for an X screen."""
+"""Input and pictures on the screen of tools/lab/wayland-desktop, with the interface of screen.py."""
 
 import functools
 import json
@@ -25,7 +25,7 @@ def size():
 
 
 def popover_place():
-    """As the compositor has placed it, or None. No other knows: a program is not told where its windows are."""
+    """From the compositor, or None. A program itself does not know where its windows are."""
     def windows(node):
         yield node
         for child in node["nodes"] + node["floating_nodes"]:
@@ -55,7 +55,7 @@ def press(key):
 
 
 def hide_window(name):
-    """Wherever a program asks for it to be: out of sight."""
+    """Moves the window out of sight, wherever the program places it."""
     _run("swaymsg", f'for_window [title="^{name}"] move to scratchpad')
 
 
@@ -64,7 +64,7 @@ def move_pointer(x, y):
 
 
 def take_picture(file_name, place=None):
-    """Of that place or the whole screen, once it has come to rest."""
+    """Saves a picture of the place or the whole screen when it has stopped changing."""
     part = ("-g", "{},{} {}x{}".format(*place)) if place else ()
     before, deadline = None, time.monotonic() + 3
     while (now := _run("grim", *part, "-t", "ppm", "-")) != before and time.monotonic() < deadline:

@@ -1,7 +1,7 @@
 #pragma once
 
-// Stands in for a monitor of other programs' events where a desktop shows them to nobody: that
-// another program has become the active one.
+// Calls its handler when another program becomes active: a substitute for a monitor of other
+// programs' events, where the desktop does not report these.
 
 #include <QGuiApplication>
 

@@ -15,8 +15,8 @@ ProgramRun ChildPrograms::run(const QString &path, const QStringList &arguments)
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   process.setStandardInputFile(QProcess::nullDevice());
-  // A program that writes more than a pipe holds would wait for a reader for ever: all of it is
-  // read, and the rest forgotten.
+  // A program that fills the pipe would wait for a reader for ever. So all output is read, and what
+  // exceeds the limit is dropped.
   QObject::connect(&process, &QProcess::readyReadStandardOutput, &process, [&] {
     run.output += process.readAllStandardOutput();
     run.output.truncate(kPipeCapacity);

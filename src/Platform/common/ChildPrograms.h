@@ -2,7 +2,7 @@
 
 #include "Platform/SystemPrograms.h"
 
-/// This machine's own programs, as child processes. What they write as errors goes where ours go.
+/// This machine's own programs, as child processes. They inherit the standard error.
 class ChildPrograms final : public SystemPrograms {
  public:
   ProgramRun run(const QString &path, const QStringList &arguments) override;

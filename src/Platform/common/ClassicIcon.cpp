@@ -10,8 +10,8 @@ constexpr std::array<QRgb, 16> kSixteenColors = {
     0xffffffff, 0xfffcf305, 0xffff6402, 0xffdd0806, 0xfff20884, 0xff4600a5, 0xff0000d4, 0xff02abea,
     0xff1fb714, 0xff006411, 0xff562c05, 0xff90713a, 0xffc0c0c0, 0xff808080, 0xff404040, 0xff000000};
 
-/// Six shades of each colour from white to black, but black itself; then ten between those of red,
-/// green, blue and grey; then black.
+/// The palette: six shades of each colour from white to black, without black itself; then ten
+/// shades between those, each of red, green, blue and grey; then black.
 QRgb outOf256(int index) {
   constexpr int kCube = 6 * 6 * 6 - 1;
   constexpr std::array<int, 10> kBetween = {0xee, 0xdd, 0xbb, 0xaa, 0x88,

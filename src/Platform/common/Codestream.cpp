@@ -30,7 +30,7 @@ Number numberAt(QByteArrayView bytes, qsizetype position) {
   return qFromBigEndian<Number>(bytes.data() + position);
 }
 
-/// Behind two bytes: width, height, origin, then the same four of a tile.
+/// After two bytes: width, height and origin, then the same four values of a tile.
 bool isOneTile(QByteArrayView segment, quint32 largestSide) {
   if (segment.size() < 34) return false;
   const auto field = [segment](int index) { return numberAt<quint32>(segment, 2 + 4 * index); };
@@ -39,7 +39,7 @@ bool isOneTile(QByteArrayView segment, quint32 largestSide) {
   return width <= largestSide && height <= largestSide && field(4) >= width && field(5) >= height;
 }
 
-/// A byte for each level's precincts, if there are any, follows ten others.
+/// After ten fixed bytes, one byte gives each level's precincts, if there are any.
 bool hasModestPrecincts(QByteArrayView segment) {
   constexpr qsizetype kFixed = 10;
   return std::all_of(segment.begin() + kFixed, segment.end(), [](char sizes) {
@@ -47,7 +47,7 @@ bool hasModestPrecincts(QByteArrayView segment) {
   });
 }
 
-/// The segment is without marker and length.
+/// The segment is given without its marker and length.
 bool isModestSegment(quint16 marker, QByteArrayView segment, quint32 largestSide) {
   switch (marker) {
     case Size:
@@ -82,7 +82,7 @@ bool isModestCodestream(QByteArrayView codestream, int largestSide) {
     const auto marker = numberAt<quint16>(codestream, position);
     if (marker == End) return true;
     if (marker == Data) {
-      if (nextPart == 0) return true;  // the data go on to the end
+      if (nextPart == 0) return true;  // the data extend to the end
       if (nextPart <= position) return false;
       position = nextPart;
       continue;

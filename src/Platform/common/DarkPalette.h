@@ -2,7 +2,7 @@
 
 #include <QPalette>
 
-/// Whether windows of this palette are dark.
+/// Whether windows with this palette are dark.
 inline bool hasDarkWindows(const QPalette &palette) {
   return palette.color(QPalette::Window).lightnessF() < 0.5F;
 }

@@ -16,7 +16,7 @@
 namespace {
 
 bool isFolder(DIR *folder, const dirent &entry) {
-  // Looked at only where the file system does not say it by itself: an entry may be a mount point.
+  // Calls `stat` only where the file system does not give the type: an entry may be a mount point.
   if (entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
   struct stat status = {};
   return fstatat(dirfd(folder), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&

@@ -1,6 +1,6 @@
 #pragma once
 
-// Files on volumes, looked at by the process that asks. Blocks for as long as a volume takes.
+// Reads volumes in this process. Blocks for as long as a volume takes.
 
 #include "Platform/VolumeFiles.h"
 #include "Platform/common/VolumeIcons.h"

@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Version files are a few hundred bytes and icons some hundred kilobytes: whatever is larger is not
-// one.
+// Version files have a few hundred bytes and icons some hundred kilobytes, so a larger file is
+// neither.
 constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 
 }  // namespace

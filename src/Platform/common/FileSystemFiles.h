@@ -2,8 +2,8 @@
 
 // System files below a root folder, which may be among the program's own resources.
 //
-// What a file held is remembered for as long as its size and time stay the same, so that asking again
-// costs next to nothing.
+// A file's content is cached as long as its size and time stay the same, so that repeated calls cost
+// almost nothing.
 
 #include <QDateTime>
 #include <QHash>
@@ -32,7 +32,7 @@ class FileSystemFiles : public SystemFiles {
   template <typename Content>
   using Memory = QHash<QString, Remembered<Content>>;  // by path; system files are few
 
-  /// Absent when there are no bytes to be had.
+  /// Absent when the file cannot be read.
   template <typename Content>
   std::optional<Content> read(Memory<Content> &memory, const QString &path,
                               Content (*decode)(const QByteArray &)) const;

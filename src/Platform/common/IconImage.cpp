@@ -14,17 +14,17 @@ namespace {
 constexpr qsizetype kHeader = 8;  // of the file and of each entry: a type and a length
 constexpr int kMostEntries = 100;
 constexpr int kLargestSide = 1024;
-// Enough for the largest icon and, should that not decode, for all smaller ones.
+// Enough for the largest icon and, if that does not decode, for all smaller ones.
 constexpr int kMostPixels = 2 * kLargestSide * kLargestSide;
 
 struct EntryType {
   QByteArrayView name;
   int side;
-  QByteArrayView mask = {};  // the entry with the opacity, for types without one of their own
+  QByteArrayView mask = {};  // the entry with the opacity, for types without their own
   int bits = 0;              // of each pixel's index into a palette; 0 for colours
 };
 
-// What a type holds differs between the systems that wrote it, so only the size is believed.
+// What a type contains depends on the system that wrote it, so only the size is relied on.
 constexpr EntryType kTypes[] = {
     {"ic10", 1024},
     {"ic09", 512},
@@ -64,7 +64,7 @@ struct Entry {
 };
 using Entries = QVarLengthArray<Entry, 32>;
 
-/// The entries as far as the bytes go: a file that was cut off still has its first ones.
+/// As many entries as are complete: a file that was cut off still has its first ones.
 Entries entriesOf(QByteArrayView bytes) {
   Entries entries;
   bytes = bytes.sliced(kHeader);
@@ -85,14 +85,14 @@ QByteArrayView dataOf(const Entries &entries, QByteArrayView type) {
 
 QImage imageFromEntry(const Entries &entries, const EntryType &type, QByteArrayView data) {
   const QByteArrayView mask = dataOf(entries, type.mask);
-  // Icon and mask are the halves of one entry.
+  // The entry's first half is the icon, the second one the mask.
   if (type.bits > 0)
     return imageFromIndices(data, type.bits, mask.sliced(mask.size() / 2), type.side);
   if (isPng(data)) return imageFromPng(data, type.side);
   if (isJpeg2000(data)) return imageFromJpeg2000(data, type.side);
   if (data.startsWith("ARGB")) return imageFromArgbRuns(data.sliced(4), type.side);
   if (type.mask.isEmpty()) return {};
-  // The largest of these begins with four bytes that mean nothing.
+  // The largest of these begins with four unused bytes.
   if (type.name == "it32") data = data.sliced(qMin<qsizetype>(4, data.size()));
   return imageFromRgbRuns(data, mask, type.side);
 }

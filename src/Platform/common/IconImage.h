@@ -2,15 +2,15 @@
 
 // Pictures out of icon files.
 //
-// Such a file may come from any volume that somebody plugs in, so it is not trusted: what decoding
-// may cost in memory and time is limited by what an icon can need, whatever the file says of itself.
+// An icon file may come from any volume that is plugged in, so it is not trusted: the memory and
+// time for decoding are limited to what an icon can need, whatever sizes the file claims.
 
 #include <QByteArray>
 #include <QImage>
 
-/// The largest picture in the bytes of an icns file that decodes, also that of a bare PNG or JPEG 2000
-/// file; made smaller where it has more than `kLargestIconSide` pixels in width or height, so that many
-/// can be kept. Null when there is none.
+/// The largest picture that decodes in an icns file, or in a bare PNG or JPEG 2000 file. A picture
+/// wider or higher than `kLargestIconSide` pixels is scaled down, so that many can be kept. Null when
+/// there is none.
 QImage iconFromBytes(const QByteArray &bytes);
 
 inline constexpr int kLargestIconSide = 256;

@@ -4,11 +4,11 @@
 
 namespace {
 
-// A byte below this starts a copy of that many bytes and one more, another one a run.
+// A byte below this starts a copy of that many bytes plus one; any other starts a run.
 constexpr int kRun = 0x80;
 constexpr int kShortestRun = 3;
 
-/// Exactly `length` bytes; none at all when there are fewer.
+/// Exactly `length` bytes; empty when there are fewer.
 QByteArray withoutRuns(QByteArrayView packed, qsizetype length) {
   QByteArray plain;
   plain.reserve(length);

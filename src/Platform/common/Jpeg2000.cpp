@@ -24,7 +24,7 @@ QByteArrayView codestreamOf(QByteArrayView bytes) {
   constexpr qsizetype kBoxHeader = 8;
   if (bytes.startsWith(kCodestreamStart)) return bytes;
   while (bytes.size() > kBoxHeader) {
-    // A length of 0 means all that is left. The one of 1, with a longer length behind it, is for
+    // A length of 0 means all remaining bytes. A length of 1, with a longer length after it, is for
     // files larger than any icon.
     const qsizetype told = qFromBigEndian<quint32>(bytes.data());
     const qsizetype length = told == 0 ? bytes.size() : told;
@@ -35,7 +35,7 @@ QByteArrayView codestreamOf(QByteArrayView bytes) {
   return {};
 }
 
-/// Bytes in memory as the library wants to read them.
+/// Reads bytes in memory by the library's interface.
 struct Source {
   QByteArrayView bytes;
   qsizetype position = 0;
@@ -96,7 +96,7 @@ Picture decode(QByteArrayView codestream) {
   return picture;
 }
 
-/// One sample in eight bits, whatever its precision.
+/// One sample scaled to eight bits from its own precision.
 int byteOf(const opj_image_comp_t &component, size_t pixel) {
   constexpr int kBits = 8;
   const int bits = static_cast<int>(component.prec);

@@ -3,9 +3,9 @@
 #include <QByteArrayView>
 #include <QImage>
 
-/// Whether the bytes begin as a JPEG 2000 file or as the bare codestream of one.
+/// Whether the bytes begin like a JPEG 2000 file or like its bare codestream.
 bool isJpeg2000(QByteArrayView bytes);
 
-/// Null when the bytes do not decode, or are no icon: wider or higher than `largestSide`, or made to
-/// be slow.
+/// Null when the bytes do not decode, or are not an icon: wider or higher than `largestSide`, or too
+/// costly to decode.
 QImage imageFromJpeg2000(QByteArrayView bytes, int largestSide);

@@ -1,6 +1,6 @@
 #pragma once
 
-// What is the same on every machine that is a real one.
+// What all real machines share.
 
 #include <QStandardPaths>
 

@@ -12,15 +12,15 @@ namespace {
 constexpr QByteArrayView kStart("\x89PNG\r\n\x1a\n", 8);
 
 struct Pixels {
-  QByteArray file;    // with nothing else in it
+  QByteArray file;    // with the chunks for pixels only
   QByteArray header;  // width, height, bits, kind of colours
   QByteArray packed;
 };
 
-/// What the pixels need: packed texts and profiles beside them can be a thousand times as large
-/// once they are unpacked.
+/// Keeps only the chunks that the pixels need: compressed texts and profiles may unpack to a
+/// thousand times their size.
 Pixels pixelsOf(QByteArrayView png) {
-  constexpr qsizetype kFrame = 12;  // length, name and sum
+  constexpr qsizetype kFrame = 12;  // length, name and checksum
   Pixels pixels{kStart.toByteArray(), {}, {}};
   png = png.sliced(kStart.size());
   while (png.size() >= kFrame) {
@@ -38,12 +38,12 @@ Pixels pixelsOf(QByteArrayView png) {
   return pixels;
 }
 
-/// The most bytes that the pixels have, a few for each row included. 0 when there can be none.
+/// The most bytes that the pixels can have, a few for each row included. 0 for an invalid header.
 qsizetype plainSize(const QByteArray &header, int largestSide) {
   constexpr std::array<int, 7> kChannels = {1, 0, 3, 1, 2, 0, 4};  // by kind of colours
   constexpr int kBesideARow =
       5;  // a filter each, and odd bits, in up to two rows where lines are interlaced
-  constexpr int kInterlaced = 14;  // the same of each of its seven pictures
+  constexpr int kInterlaced = 14;  // the same for each of the seven pictures of an interlaced file
   if (header.size() != 13) return 0;
   const qint64 width = qFromBigEndian<quint32>(header.constData());
   const qint64 height = qFromBigEndian<quint32>(header.constData() + 4);
@@ -53,7 +53,7 @@ qsizetype plainSize(const QByteArray &header, int largestSide) {
   return height * (width * bits / 8 + kBesideARow) + kInterlaced;
 }
 
-/// Unpacks, and forgets at once, no more than that.
+/// Unpacks, and drops the result, only until `size` is exceeded.
 bool unpacksToAtMost(QByteArray packed, qsizetype size) {
   z_stream stream{};
   if (inflateInit(&stream) != Z_OK) return false;

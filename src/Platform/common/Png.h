@@ -5,6 +5,6 @@
 
 bool isPng(QByteArrayView bytes);
 
-/// Null when the bytes do not decode, or are no icon: wider or higher than `largestSide`, or packed so
-/// that they unpack to more than their pixels.
+/// Null when the bytes do not decode, or are not an icon: wider or higher than `largestSide`, or with
+/// data that unpack to more than the pixels need.
 QImage imageFromPng(QByteArrayView bytes, int largestSide);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The parser goes down one call for each level of nesting, which is seven bytes or more of XML.
+// The parser recurses once for each level of nesting, which takes at least seven bytes of XML.
 constexpr qsizetype kLargest = 64 * 1024;
 
 using PropertyList = std::unique_ptr<void, decltype(&plist_free)>;

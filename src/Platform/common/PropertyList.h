@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QVariantMap>
 
-/// The texts, numbers and booleans of the dictionary at the top of a property list, XML or binary.
-/// Empty when the bytes are no property list or its top is no dictionary, and for lists far beyond
-/// the size of any that describes a system or a bundle. Only for files that ship with the program or
-/// with the system: the library ends the program over some that are made to do that.
+/// The texts, numbers and booleans of the top-level dictionary of a property list, XML or binary.
+/// Empty when the bytes are not a property list or its top level is not a dictionary, and for lists
+/// far larger than any that describes a system or a bundle. Only for files that ship with the
+/// program or with the system: a malicious list can make the library abort the program.
 QVariantMap dictionaryFromPropertyList(const QByteArray &bytes);

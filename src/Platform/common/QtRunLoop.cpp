@@ -7,7 +7,7 @@
 
 void QtRunLoop::run(const bool &finished) {
   QEventLoop loop;
-  // A loop that ran inside this one, such as a dialog's, may have taken the wake-up for its own.
+  // A nested loop, such as a dialog's, may have consumed the wake-up that was meant for this one.
   QTimer lookAgain;
   lookAgain.start(kLookAgain);
   QEventLoop *outer = std::exchange(_innermost, &loop);

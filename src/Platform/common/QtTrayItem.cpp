@@ -6,7 +6,7 @@
 
 namespace {
 
-// Trays have no notion of a highlight, so the picture itself carries it. Its tint suits any panel.
+// Trays have no highlight, so the picture itself shows it. The tint suits any panel.
 QPixmap highlighted(const QPixmap &picture) {
   const QColor tint(128, 128, 128, 90);
   constexpr qreal kRadiusShare = 0.2;

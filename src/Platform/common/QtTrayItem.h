@@ -1,6 +1,6 @@
 #pragma once
 
-// An item in the tray as Qt makes it: a status item on macOS, the X11 tray protocol on Linux.
+// A tray item made by Qt: a status item on macOS, the X11 tray protocol on Linux.
 
 #include <QMenu>
 #include <QPointer>
@@ -8,12 +8,13 @@
 
 #include "Platform/Desktop.h"
 
-/// The picture as the item shows it while it is marked.
+/// The picture of a marked item.
 QIcon highlighted(const QIcon &image);
 
 class QtTrayItem : public TrayItem {
  public:
-  /// Who shows the menu: the tray, at a right click, or we, because the tray would at every click.
+  /// Who shows the menu: the tray, at a right click, or this class, because the tray would at every
+  /// click.
   enum class MenuBy { Tray, Us };
   explicit QtTrayItem(MenuBy menuBy = MenuBy::Tray);
 

@@ -14,7 +14,7 @@ namespace {
 constexpr qint64 kLargestSettings = 64 * 1024;
 const QByteArray kGroup = "General";
 
-/// Absent, and the log says why, where there is a file that cannot be read.
+/// Absent, with a reason in the log, when a file exists but cannot be read.
 std::optional<KeyFile> readSettings(const QString &fileName) {
   const auto content = readPlainFile(QFile::encodeName(fileName), kLargestSettings);
   if (const auto *bytes = std::get_if<QByteArray>(&content)) return KeyFile(*bytes);
@@ -35,7 +35,7 @@ QVariant SettingsDefaults::object(const QString &key) const {
   const auto settings = readSettings(_fileName);
   auto value = settings ? settings->value(kGroup, key.toUtf8()) : std::nullopt;
   if (!value) return {};
-  // A text with odd characters in it is written in quotes.
+  // A text with special characters is written in quotes.
   if (value->size() > 1 && value->startsWith('"') && value->endsWith('"'))
     value = value->sliced(1, value->size() - 2);
   return QString::fromUtf8(*value);

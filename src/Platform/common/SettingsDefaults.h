@@ -1,6 +1,6 @@
 #pragma once
 
-// User defaults in a settings file: texts, in the group that is called General.
+// User defaults in a settings file: texts, in the group "General".
 
 #include <QByteArray>
 #include <QHash>
@@ -9,8 +9,8 @@
 
 class SettingsDefaults final : public UserDefaults {
  public:
-  /// In the file of this name, which is made when something is set. One that cannot be read, or is far
-  /// larger than any of ours, counts as empty and is left alone.
+  /// Uses the file of this name, which is created when a value is set. A file that cannot be read, or
+  /// is far larger than the program's own, counts as empty and is not changed.
   explicit SettingsDefaults(QString fileName) : _fileName(std::move(fileName)) {}
 
   bool canBeRead() const override;

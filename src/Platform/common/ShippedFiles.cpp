@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Outside of every namespace, as Qt asks.
+// `Q_INIT_RESOURCE` must be used outside of every namespace.
 static void haveSystemFiles() {
   Q_INIT_RESOURCE(system);
 }

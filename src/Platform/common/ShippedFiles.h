@@ -5,12 +5,12 @@
 
 #include "Platform/common/FileSystemFiles.h"
 
-/// The system files that ship inside the program, for systems that have none of their own: the version
-/// file, the caution icon, the pictures of storage media. They cannot change, and each answer is
-/// remembered: the list asks for the same few files for each of its rows.
+/// The system files inside the program, for systems that do not have them: the version file, the
+/// caution icon, the pictures of storage media. They cannot change, so every answer is remembered:
+/// the list asks for the same few files in each of its rows.
 class ShippedFiles final : public SystemFiles {
  public:
-  /// A product version that is given stands in place of the one that ships.
+  /// `productVersion`, if given, replaces the version that ships.
   explicit ShippedFiles(std::optional<QString> productVersion = {});
 
   bool exists(const QString &path) const override;

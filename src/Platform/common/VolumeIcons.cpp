@@ -10,7 +10,7 @@
 
 namespace {
 
-// Icons have some hundred kilobytes: whatever is larger is none.
+// Icons have some hundred kilobytes, so a larger file is not one.
 constexpr qint64 kLargestIcon = 16 * 1024 * 1024;
 
 FileStamp stampOf(const struct stat &status) {

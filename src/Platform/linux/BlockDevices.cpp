@@ -28,7 +28,7 @@ Rank rank(const QString &kernelName) {
   return Rank::OtherHardware;
 }
 
-// Of one kind of device, the longer name has the higher number or the later letter.
+// Of two devices of one kind, the longer name has the higher number or the later letter.
 auto sortKey(const QString &kernelName) {
   return std::tuple(rank(kernelName), kernelName.left(2), kernelName.size(), kernelName);
 }
@@ -65,7 +65,7 @@ QList<WholeDisk> BlockDevices::all() const {
   for (const QString &name : names) {
     const auto device = deviceFromText(attribute(name, u"dev"_s));
     const bool isEmpty = attribute(name, u"size"_s).toULongLong() == 0;
-    const bool isHidden = attribute(name, u"hidden"_s) == "1"_L1;  // one path of several to a drive
+    const bool isHidden = attribute(name, u"hidden"_s) == "1"_L1;  // one of a drive's paths
     if (!device || isEmpty || isHidden || isMemoryDevice(name)) continue;
     disks.append({name, *device});
   }

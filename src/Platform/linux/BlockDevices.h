@@ -1,6 +1,6 @@
 #pragma once
 
-// The whole disks that the kernel knows, whether the disk service has told of them yet or not.
+// The whole disks that the kernel knows, whether the disk service has announced them yet or not.
 
 #include <QList>
 #include <QString>
@@ -16,12 +16,12 @@ class BlockDevices {
   explicit BlockDevices(QString folder) : _folder(std::move(folder)) {}
 
   /// The disks that hold something: no loop device without a file, no drive without a medium, no
-  /// memory.
+  /// memory device.
   QList<WholeDisk> all() const;
 
-  /// A text that belongs to this disk alone until the machine is started anew: a loop device with
-  /// another file, or a card reader with another card, is another disk. For a disk that the kernel
-  /// does not know, and for old kernels, its device number must do.
+  /// A text that is unique to this disk until the machine restarts: a loop device with another
+  /// file, or a card reader with another card, is another disk. For a disk that the kernel does not
+  /// know, and on old kernels, the text is the device number.
   QString identityOf(const WholeDisk &disk) const;
 
  private:
@@ -30,11 +30,11 @@ class BlockDevices {
   QString _folder;
 };
 
-/// Memory that looks like a disk.
+/// A block device in memory.
 bool isMemoryDevice(const QString &kernelName);
 
-/// Drives before other hardware, then mapped, RAID and network devices, then loop devices, so that
-/// the file of some package never takes the first place from the machine's own drive. Last come CD
-/// and floppy drives, which the kernel gives a size also while they are empty. Of one kind, "sda"
+/// Drives come before other hardware, then mapped, RAID and network devices, then loop devices, so
+/// that the loop device of a software package never precedes the machine's own drive. Last come CD
+/// and floppy drives, which have a size in the kernel even while empty. Of one kind, "sda" comes
 /// before "sdb" before "sdaa", "loop2" before "loop10".
 bool comesBefore(const WholeDisk &one, const WholeDisk &other);

@@ -12,8 +12,8 @@
 
 namespace {
 
-// Another volume may be mounted on top. Btrfs has a device number for each subvolume, and none of
-// them is that of its disk.
+// Another volume may be mounted on top. Btrfs has a device number for each subvolume, none of which
+// is its disk's.
 bool isOnDevice(int folder, quint64 device) {
   struct stat status = {};
   struct statfs system = {};

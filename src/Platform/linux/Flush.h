@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Writes what is still in memory of the file system of this device, which is mounted here, to its disk; of all
-/// file systems if this one may not be opened. Gives 0 or a Unix error number. Blocks for as long as the disk
+/// Writes the cached data of this device's file system, mounted at `mountPoint`, to the disk; the data of all
+/// file systems if this one may not be opened. Returns 0 or a Unix error number. Blocks for as long as the disk
 /// takes.
 int flushVolume(const QString &mountPoint, quint64 device);

@@ -8,7 +8,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A disk and its partitions are announced, and a changed partition table read anew, in waves.
+// The announcements of a disk and its partitions, and of a partition table read again, come in
+// bursts.
 constexpr auto kWave = 3ms;
 
 DiskDescription mountedAt(const Medium &medium, const QString &mountPoint) {
@@ -110,7 +111,7 @@ std::optional<Dissenter> LinuxDiskService::refusalOf(const Medium *medium) const
   return std::nullopt;
 }
 
-// Whoever waits for a mount finds it in the list when the wait is over.
+// When the wait for a mount is over, the list must contain the volume.
 DiskService::Completion LinuxDiskService::afterTheNews(Completion completion) {
   return [this, call = std::move(completion)](const std::optional<Dissenter> &dissenter) {
     postNews();
@@ -123,7 +124,7 @@ void LinuxDiskService::mount(const QString &bsdName, const std::optional<QString
   refresh();
   const Medium *medium = _media.named(bsdName);
   if (const auto refusal = refusalOf(medium)) return completion(refusal);
-  // The service chooses the place itself.
+  // The service always chooses the mount point itself.
   if (path) return completion(Dissenter{kDAReturnUnsupported});
   _requests.mount(*medium, afterTheNews(std::move(completion)));
 }
@@ -165,8 +166,8 @@ void LinuxDiskService::postChange() {
   _workspace.post({kNSWorkspaceDidMountNotification, this});
 }
 
-// Labels may change by the thousand when a service looks at its disks anew; only a mounted volume's
-// is told of by itself.
+// When the service scans its disks again, thousands of labels may change. Only a mounted volume's
+// change gets its own notification.
 void LinuxDiskService::postRename(quint64 device) {
   if (!_events.hasToldOf(device)) return;
   postNews();
@@ -175,7 +176,7 @@ void LinuxDiskService::postRename(quint64 device) {
   post({{kNSWorkspaceDidRenameVolumeNotification, *mountPoint}});
 }
 
-// What was mounted before the service could be asked is found in the list; it is no news.
+// Volumes that were mounted before the service could be asked are in the list; they are not news.
 void LinuxDiskService::changePresence() {
   refresh();
   if (presence() == Presence::Answering) _events.accept(_mounts, _media);
@@ -183,8 +184,8 @@ void LinuxDiskService::changePresence() {
   _soon.start();
 }
 
-// A disk may have a thousand partitions, and most of them go without anybody's notice: those are
-// left to the change that is told of all of them together.
+// A disk may have a thousand partitions. Those without a request or an announced mount are left to
+// the one notification for all changes.
 void LinuxDiskService::removeInterfaces(const QString &path, const QStringList &interfaces,
                                         quint64 device) {
   const bool isPulled = interfaces.contains(kBlockInterface);

@@ -1,10 +1,10 @@
 #pragma once
 
-// Disks as the disk service and the kernel tell of them together: labels, tables and drives come
-// from the service's object tree, what is mounted where from the kernel's mount table.
+// Disks as the disk service and the kernel report them: labels, partition tables and drives come
+// from the service's object tree, mounts from the kernel's mount table.
 //
-// A question costs one system call and a look-up. What it finds changed it takes in at once; the
-// news of it are posted later, from the event loop.
+// A call costs one system call and a look-up. Changes that it finds count at once; their
+// notifications are posted later, from the event loop.
 
 #include <QObject>
 #include <QTimer>
@@ -19,8 +19,8 @@
 
 class LinuxDiskService final : public QObject, public DiskService, public MediaRegistry {
  public:
-  /// `mountTable` is the file in which the kernel tells what is mounted. News are posted to
-  /// `workspace`. That and the bus must outlive this.
+  /// `mountTable` is the kernel's file of mounts. News are posted to `workspace`. `workspace` and
+  /// `bus` must outlive this object.
   LinuxDiskService(MessageBus &bus, UnitNumbers units, const QString &mountTable,
                    NotificationCenter &workspace);
 
@@ -33,11 +33,10 @@ class LinuxDiskService final : public QObject, public DiskService, public MediaR
   void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
 
   /// The version of the file system mounted at exactly this path, as the service has read it from
-  /// the disk: "FAT32", "1.0". Empty where none is mounted or it has none.
+  /// the disk: "FAT32", "1.0". Empty where none is mounted or the file system has no version.
   QString fileSystemVersionAt(const QString &mountPoint) const;
 
-  /// The answer to a question about a path, as far as it has come in time; see `VolumeHelpers`. Empty when there is
-  /// none.
+  /// The answer to a question about a path, if it comes in time; see `VolumeHelpers`. Empty otherwise.
   QByteArray askVolume(const QString &path, const QByteArray &question);
   VolumeHelpers &helpers() { return _helpers; }
 
@@ -64,9 +63,9 @@ class LinuxDiskService final : public QObject, public DiskService, public MediaR
   QTimer _soon;
   VolumeEvents _events;
 
-  // What the last question, or the last event, found.
+  // The state at the last call or event.
   mutable MountTable _mounts;
   mutable MediaCatalog _media;
-  mutable QHash<quint64, DiskDescription> _mounted;  // by device, of what is mounted, in full
+  mutable QHash<quint64, DiskDescription> _mounted;  // by device, of mounted media, complete
   mutable bool _isChangeUntold = false;
 };

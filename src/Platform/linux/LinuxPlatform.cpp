@@ -28,7 +28,7 @@ QString bootId() {
   return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll().trimmed()) : QString();
 }
 
-// A name must mean the same disk to a user and to root on that user's behalf (sudo, pkexec).
+// A disk's name must be the same for a user and for root on that user's behalf (sudo, pkexec).
 QString runtimeFolder() {
   for (const char *variable : {"SUDO_UID", "PKEXEC_UID"}) {
     bool isNumber = false;
@@ -50,7 +50,7 @@ QString settingsFile() {
          u"/keldra/settings.ini"_s;
 }
 
-// The disk service mounts below the first of these on distributions that have it, else below the
+// The disk service mounts below the first of these where the distribution has it, else below the
 // second.
 QString mountFolderOfUser() {
   const passwd *entry = getpwuid(getuid());

@@ -13,7 +13,7 @@ bool LinuxRawDevices::isPrivileged() const {
   return getuid() == 0;
 }
 
-// The kernel's own statfs does not tell one FAT from another.
+// The kernel's own statfs does not distinguish the FAT variants.
 std::optional<quint32> LinuxRawDevices::fileSystemSubtype(const QString &mountPoint) const {
   const QString version = _disks.fileSystemVersionAt(mountPoint);
   const QString versions[] = {QStringLiteral("FAT12"), QStringLiteral("FAT16"),
@@ -35,7 +35,7 @@ std::optional<quint32> LinuxRawDevices::logicalBlockSize(const QString &bsdName)
 std::optional<quint32> LinuxRawDevices::ask(const QString &bsdName, unsigned long request) const {
   const auto description = _disks.descriptionOfMedia(bsdName).value_or(DiskDescription());
   const QString node = description.value(kDiskDescriptionDeviceNodeKey).toString();
-  // Without this flag a drive would first close its tray, or wait for a medium.
+  // Without O_NONBLOCK a drive would first close its tray, or wait for a medium.
   const int device = open(QFile::encodeName(node).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   if (device < 0) return std::nullopt;
   unsigned int size = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the kernel tells of a device, and the disk service of a volume's kind, beyond descriptions.
+// Facts beyond descriptions: of a device from the kernel, of a volume's kind from the disk service.
 
 #include "Platform/RawDevices.h"
 
@@ -8,7 +8,7 @@ class LinuxDiskService;
 
 class LinuxRawDevices final : public RawDevices {
  public:
-  /// The service must outlive this.
+  /// `disks` must outlive this object.
   explicit LinuxRawDevices(const LinuxDiskService &disks) : _disks(disks) {}
 
   bool isPrivileged() const override;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Files on volumes, looked at by processes of their own.
+// Files on volumes, which helper processes read.
 
 #include "Platform/VolumeFiles.h"
 #include "Platform/common/VolumeIcons.h"
@@ -9,7 +9,7 @@ class LinuxDiskService;
 
 class LinuxVolumeFiles final : public VolumeFiles {
  public:
-  /// The service must outlive this.
+  /// `disks` must outlive this object.
   explicit LinuxVolumeFiles(LinuxDiskService &disks) : _disks(disks) {}
 
   LookAtPath look(const QString &path) override;

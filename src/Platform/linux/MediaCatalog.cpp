@@ -29,7 +29,7 @@ bool MediaCatalog::isKnownDisk(const QString &path) const {
   return medium != _media.end() && medium->second.slice == 0;
 }
 
-// A partition is called after its disk, and both tell of their drive.
+// A partition's name depends on its disk, and both descriptions depend on the drive.
 QSet<QString> MediaCatalog::withDependants(const ServiceObjects &objects,
                                            QSet<QString> changed) const {
   const bool onlyPartitions = std::ranges::all_of(changed, [&](const QString &path) {
@@ -110,7 +110,7 @@ void MediaCatalog::arrange() {
   for (const Medium *medium : media) {
     const QString name = medium->bsdName();
     if (_byName.contains(name))
-      continue;  // two objects for one thing, as in the middle of a change
+      continue;  // two objects for one device, as in the middle of a change
     _byName.insert(name, medium);
     _byDevice.insert(medium->device, medium);
     _names << name;

@@ -2,7 +2,7 @@
 
 // All media that the disk service knows, by their BSD names and in their order.
 //
-// Follows the service's objects in small steps: only what depends on a changed object is made anew.
+// Follows the service's objects in small steps: rebuilds only what depends on a changed object.
 
 #include <QList>
 #include <QSet>
@@ -17,15 +17,14 @@ class MediaCatalog {
   explicit MediaCatalog(UnitNumbers units) : _units(std::move(units)) {}
   MediaCatalog(MediaCatalog &&) = default;
 
-  /// Takes note that the objects at these paths came, went or changed. True if that made a
-  /// difference.
+  /// Reports that the objects at these paths came, went or changed. True if the catalog changed.
   bool update(const ServiceObjects &objects, const QSet<QString> &changed);
 
-  // Null when there is no such medium. What is returned lives until the next update.
+  // Null when there is no such medium. The pointer is valid until the next update.
   const Medium *named(const QString &bsdName) const { return _byName.value(bsdName); }
   const Medium *onDevice(quint64 device) const { return _byDevice.value(device); }
 
-  /// By unit number, each whole disk before its partitions, those by slice number.
+  /// By unit number, each whole disk before its partitions, these by slice number.
   const QStringList &names() const { return _names; }
   QStringList namesOnDisk(const QString &wholeDisk) const { return _namesOnDisk.value(wholeDisk); }
 
@@ -38,7 +37,7 @@ class MediaCatalog {
   void arrange();
 
   UnitNumbers _units;
-  std::unordered_map<QString, Medium> _media;  // by object path; where they are, they stay
+  std::unordered_map<QString, Medium> _media;  // by object path; references stay valid
   QHash<QString, const Medium *> _byName;
   QHash<quint64, const Medium *> _byDevice;
   QStringList _names;

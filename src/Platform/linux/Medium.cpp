@@ -28,7 +28,8 @@ QString deviceNode(const ServiceObject &block) {
 StorageKind storageKindOf(const ServiceObject &disk, const ServiceObject &drive) {
   if (disk.has(kLoopInterface)) return StorageKind::DiskImage;
   if (drive.flag(kDriveInterface, u"Optical"_s)) return StorageKind::Optical;
-  // Sticks and cards are what is plugged, also those that do not call themselves removable.
+  // Anything that is plugged, such as sticks and cards, even if it does not report itself as
+  // removable.
   for (const QString &property : {u"Removable"_s, u"MediaRemovable"_s}) {
     if (drive.flag(kDriveInterface, property)) return StorageKind::Removable;
   }

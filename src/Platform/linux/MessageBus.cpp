@@ -17,10 +17,11 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kPause = 500ms;  // between two looks for a bus that is not there
-constexpr auto kPatience = 2s;  // with one that does not answer, before that is told
+constexpr auto kPause = 500ms;  // between two checks for a missing bus
+constexpr auto kPatience = 2s;  // with a silent bus, before `missing` is sent
 
-/// The name of its socket, a NUL in front of an abstract one. Empty for other kinds of addresses.
+/// The name of the bus's socket; it begins with NUL if abstract. Empty for other kinds of
+/// addresses.
 QByteArray socketName(const QString &address) {
   if (!address.startsWith("unix:"_L1)) return {};
   for (const QString &part : address.sliced(5).split(u',')) {
@@ -31,7 +32,7 @@ QByteArray socketName(const QString &address) {
   return {};
 }
 
-/// Minus one where nobody listens.
+/// -1 if no process listens.
 int connectSocket(const QByteArray &name) {
   sockaddr_un place{};
   place.sun_family = AF_UNIX;
@@ -45,7 +46,7 @@ int connectSocket(const QByteArray &name) {
   return -1;
 }
 
-/// The beginning of every conversation with a bus. Any answer will do.
+/// The first message of the protocol. Any answer shows that the bus works.
 bool sendGreeting(int socket) {
   const QByteArray greeting =
       '\0' + QByteArray("AUTH EXTERNAL ") + QByteArray::number(getuid()).toHex() + "\r\n";

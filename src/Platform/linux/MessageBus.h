@@ -1,12 +1,12 @@
 #pragma once
 
-// A message bus of D-Bus, which may be missing, frozen, or come back after it has gone.
+// A D-Bus message bus that may be missing, frozen, or restarted.
 //
 //   MessageBus bus(MessageBus::systemAddress());
 //   connect(&bus, &MessageBus::connected, this, [&] { ask(bus.connection()); });
 //
-// Qt connects in one step that waits for the bus, and holds all other connections up meanwhile. So
-// the bus is greeted first, without waiting, and Qt connects once it has answered.
+// Qt's connect blocks until the bus answers, and delays all other connections. So this class first
+// sends a greeting without blocking, and lets Qt connect after the answer.
 
 #include <QDBusConnection>
 #include <QObject>
@@ -20,32 +20,32 @@ class MessageBus final : public QObject {
   Q_OBJECT
 
  public:
-  /// As D-Bus writes addresses: "unix:path=/run/dbus/system_bus_socket". Empty where there is no
-  /// bus. Does not wait: the signals come later. Addresses of other kinds than "unix:", which no
-  /// desktop uses, are connected to without a greeting, and that may wait.
+  /// `address` has the form of D-Bus: "unix:path=/run/dbus/system_bus_socket". Empty where there is
+  /// no bus. Does not block: the signals come later. For kinds other than "unix:", which no desktop
+  /// uses, there is no greeting, and connecting may block.
   explicit MessageBus(const QString &address);
   ~MessageBus() override;
 
-  /// For calls whose answers may take as long as they like: a person is typing a password, or nobody waits.
+  /// For calls without a timeout: the user may be typing a password, or no code waits for the answer.
   static constexpr int kNoTimeOut = std::numeric_limits<int>::max();
 
   static QString systemAddress();
   static QString sessionAddress();
 
-  /// Whether somebody listens at this address, and does not answer. Blocks, 300 ms at most.
+  /// Whether a process listens at this address but does not answer. Blocks, 300 ms at most.
   static bool isFrozen(const QString &address);
 
-  /// Another one after each `connected`; not connected while there is none.
+  /// A new connection after each `connected`; not connected while there is no bus.
   QDBusConnection connection() const { return _connection; }
 
-  /// Blocks until the bus is connected to, as long as this at most. Whether it is.
+  /// Blocks until the bus is connected, at most for `patience`. True if connected.
   bool waitForConnection(std::chrono::milliseconds patience);
 
  signals:
   void connected();
-  /// The bus is gone, and with it whatever was asked there.
+  /// The bus is gone, and with it all pending calls.
   void lost();
-  /// There is no bus, or none that answers soon. It is looked for further, and this told again.
+  /// There is no bus, or none that answers soon. The search goes on, and this signal is repeated.
   void missing();
 
  private slots:

@@ -19,25 +19,25 @@ int openTable(const QString &file) {
   return open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
 }
 
-// A file system that may span several devices has no device number of its own: its source names
-// one.
+// A file system that may span several devices has no device number of its own; its source gives the
+// device.
 quint64 deviceBehind(const MountLine &line) {
   if (major(line.device) != 0) return line.device;
-  // Anything else might lie on a volume.
+  // Other sources are not looked at: they might lie on a volume that does not answer.
   if (line.fileSystem != "btrfs" || !line.source.startsWith("/dev/")) return 0;
   struct stat source = {};
   if (stat(line.source.constData(), &source) != 0 || !S_ISBLK(source.st_mode)) return 0;
   return source.st_rdev;
 }
 
-// The name stands at the end of the options and may have commas of its own.
+// The name is the last option and may contain commas.
 QByteArray subvolumeOf(const MountLine &line) {
   const QByteArray key = ",subvol=";
   const qsizetype index = line.options.indexOf(key);
   return index < 0 ? QByteArray() : line.options.sliced(index + key.size());
 }
 
-// Some systems keep their "/" in a folder of its volume.
+// Some systems have their "/" in a folder of its volume.
 bool isWholeVolume(const MountLine &line) {
   if (line.root == "/" || line.mountPoint == "/") return true;
   return line.fileSystem == "btrfs" && line.root == subvolumeOf(line);
@@ -69,7 +69,8 @@ bool MountTable::refresh() {
   const bool isStale = hasChanged() || !_isRead;
   if (_table < 0 || !isStale) return false;
   _isRead = true;
-  // The kernel hands the table out in pieces: one that has changed meanwhile may not fit together.
+  // The kernel returns the table in pieces; if it changes meanwhile, the pieces may not fit
+  // together.
   constexpr int kTries = 10;
   QByteArray text = readAll();
   for (int i = 0; i < kTries && hasChanged(); ++i) text = readAll();

@@ -1,10 +1,9 @@
 #pragma once
 
-// What is mounted where, as the kernel tells it.
+// The kernel's mount table.
 //
-// The kernel's table is asked, through a descriptor of its own, at the moment of every question
-// whether it has changed, and is read again only then: the answers are true also while no event
-// loop turns.
+// Each call first asks the kernel, through a file descriptor of its own, whether the table has
+// changed, and only then reads it again: the answers are right even while no event loop runs.
 
 #include <QByteArrayView>
 #include <QHash>
@@ -18,7 +17,7 @@ class QSocketNotifier;
 
 /// One line of the kernel's table.
 struct MountLine {
-  quint64 id = 0;      // of this mount; free for another one once it is gone
+  quint64 id = 0;      // of this mount; reused after its end
   quint64 device = 0;  // the file system's device number
   QByteArray root;     // which folder of the file system is mounted
   QByteArray mountPoint;
@@ -27,8 +26,7 @@ struct MountLine {
   QByteArray options;  // of the file system
 };
 
-/// The lines of a table in the form of /proc/self/mountinfo, in their order. Malformed ones are
-/// left out.
+/// The lines of a table in the form of /proc/self/mountinfo, in order. Malformed ones are left out.
 QList<MountLine> parseMountTable(QByteArrayView text);
 
 /// A mounted volume of a block device.
@@ -45,30 +43,32 @@ inline size_t qHash(const Mount &mount, size_t seed = 0) {
 
 class MountTable {
  public:
-  /// `file` is a table in the form of /proc/self/mountinfo. One that cannot be opened is empty.
+  /// `file` is a table in the form of /proc/self/mountinfo. One that cannot be opened counts as
+  /// empty.
   explicit MountTable(const QString &file);
   ~MountTable();
   MountTable(const MountTable &) = delete;
   MountTable &operator=(const MountTable &) = delete;
 
-  /// Calls `handler` from the event loop after the table has changed, however the change became
-  /// known.
+  /// Calls `handler` from the event loop after each change of the table, whoever has noticed it
+  /// first.
   void setChangeHandler(std::function<void()> handler);
 
-  /// Brings the answers below up to date. True if they may be others than before.
+  /// Updates the answers below. True if they may have changed.
   bool refresh();
 
-  /// Mounts of whole volumes in the kernel's order; a subvolume of btrfs is one. A mount of a mere
-  /// folder of one is none, but at "/".
+  /// Mounts of whole volumes in the kernel's order, including subvolumes of btrfs. A mount of a
+  /// folder of a volume is left out, except at "/".
   const QList<Mount> &mounts() const { return _mounts; }
 
-  /// "/" if the device is mounted there among others, else where it was mounted first.
+  /// "/" if that is one of the device's mount points, else the first one. Absent if it is not
+  /// mounted.
   std::optional<QString> mountPointOf(quint64 device) const;
 
-  /// Where several are mounted at the same place, the one on top. 0 if there is none.
+  /// The device of the topmost mount at this place. 0 if there is none.
   quint64 deviceAt(const QString &mountPoint) const { return _topmost.value(mountPoint).device; }
 
-  /// The mount on which a path lies, by its text; its device is 0 if it is none of the above.
+  /// The mount that contains a path, by its text; its device is 0 if it is not in `mounts`.
   Mount holding(const QString &path) const;
 
  private:
@@ -77,7 +77,7 @@ class MountTable {
   void takeLines(const QList<MountLine> &lines);
 
   int _table;
-  int _wakeUp;  // apart from `_table`: each descriptor is told of a change once
+  int _wakeUp;  // separate, because each descriptor reports a change once
   std::unique_ptr<QSocketNotifier> _notifier;
   bool _isRead = false;
   QList<Mount> _mounts;

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Blanks, line ends and backslashes in a name are written as three octal digits, such as \040.
+// Blanks, line ends and backslashes in a name are escaped as three octal digits, such as \040.
 QByteArray unescaped(QByteArrayView field) {
   QByteArray text;
   text.reserve(field.size());
@@ -34,8 +34,8 @@ std::optional<quint64> deviceNumber(const QByteArray &field) {
   return makedev(majorNumber, minorNumber);
 }
 
-// Fields are: id, parent, major:minor, root, mount point, options, any number of optional ones,
-// "-", file system, source, more options.
+// Fields: id, parent, major:minor, root, mount point, options, any number of optional fields, "-",
+// file system, source, more options.
 std::optional<MountLine> parseLine(const QByteArray &line) {
   const auto fields = line.split(' ');
   const qsizetype dash = fields.indexOf("-", 6);

@@ -6,5 +6,5 @@
 
 bool isSystemPartitionType(const QString &type);
 
-/// What a partition of this type is for, in plain words: "Linux swap", or just "Partition".
+/// The purpose of a partition of this type, in plain words: "Linux swap", or just "Partition".
 QString partitionTypeName(const QString &type);

@@ -37,8 +37,8 @@ const QHash<QString, DissenterStatus> &busStatuses() {
   return statuses;
 }
 
-// Some refusals have no name of their own: only the message tells them from the rest. The reason
-// stands at its end; before it come names that people have chosen.
+// Some refusals have no error name of their own, so the message decides. The reason is at its end;
+// the text before may contain names that users have chosen.
 DissenterStatus statusFromMessage(const QString &message) {
   const std::array<std::pair<QLatin1StringView, DissenterStatus>, 3> fragments{{
       {"No space left on device"_L1, unixErrorStatus(ENOSPC)},

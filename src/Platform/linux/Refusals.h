@@ -4,8 +4,8 @@
 
 #include "Platform/Dissenter.h"
 
-/// What an error of the disk service, or of the bus on the way to it, means as a dissenter's
-/// status. `objectIsThere`: whether the service has the object that was asked, as far as is known;
-/// it answers with the same error for an object that is gone and for one that cannot do what was
-/// asked, and not always with words that tell them apart.
+/// A dissenter's status for an error of the disk service, or of the bus on the way to it.
+/// `objectIsThere`: whether the service is known to have the object of the request. The service
+/// gives the same error for an object that is gone and for one that cannot do the request, not
+/// always with distinct messages.
 DissenterStatus refusalStatus(const QString &errorName, const QString &message, bool objectIsThere);

@@ -34,7 +34,7 @@ void Requests::unmount(const Medium &medium, DiskService::Completion completion)
   send(enter(medium, kUnmount, {}, std::move(completion)));
 }
 
-// The service's forced unmount is a lazy one: it returns at once, with the data still on its way.
+// The service's forced unmount is lazy: it returns before the data are written. So flush first.
 void Requests::forceUnmount(const Medium &medium, const Mount &mount,
                             DiskService::Completion completion) {
   const Number number = enter(medium, kUnmount, {{u"force"_s, true}}, std::move(completion));
@@ -53,7 +53,7 @@ void Requests::setUnwrittenHandler(std::function<void(const QString &)> handler)
   _unwritten = std::move(handler);
 }
 
-// A disk that does not answer is the very one that force is for.
+// Still sent, because an unresponsive disk is the main reason for a forced unmount.
 void Requests::sendUnwritten(Number number, const Mount &mount, const QString &reason) {
   const auto request = _pending.constFind(number);
   if (request == _pending.constEnd() || request->isSent) return;
@@ -117,7 +117,7 @@ void Requests::failVanished(const QString &objectPath, bool isPulled, bool isMou
   }
 }
 
-// Taken out first: a completion may ask for more, or wait in the event loop.
+// Removed first: a completion may make new requests, or run the event loop.
 void Requests::complete(Number number, const std::optional<Dissenter> &dissenter) {
   const Request request = _pending.take(number);
   if (request.completion) request.completion(dissenter);

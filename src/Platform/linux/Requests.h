@@ -1,9 +1,9 @@
 #pragma once
 
-// The mounts and unmounts that were asked of the disk service and are not answered yet.
+// The disk service's pending mounts and unmounts.
 //
 // Each is completed exactly once, from the event loop: by the service's answer, by the service's
-// end, or because its object has vanished. What comes after that is dropped.
+// exit, or because its object has vanished. A later answer is dropped.
 
 #include <QHash>
 #include <QObject>
@@ -18,29 +18,28 @@ class VolumeHelpers;
 
 class Requests : public QObject {
  public:
-  /// Both must outlive this.
+  /// Both must outlive this object.
   Requests(const ServiceTree &tree, VolumeHelpers &helpers) : _tree(tree), _helpers(helpers) {}
 
-  /// `handler` is called with the mount point when a forced unmount goes out although not everything may have been
-  /// written.
+  /// `handler` gets the mount point when a forced unmount is sent although some data may not have been written.
   void setUnwrittenHandler(std::function<void(const QString &)> handler);
 
   void mount(const Medium &medium, DiskService::Completion completion);
   void unmount(const Medium &medium, DiskService::Completion completion);
 
-  /// Unmounts although files are open. What was written until now is on the disk first, if that takes no longer than
-  /// five seconds.
+  /// Unmounts even if files are open. Data written until now are flushed to the disk first, if that takes five
+  /// seconds at most.
   void forceUnmount(const Medium &medium, const Mount &mount, DiskService::Completion completion);
 
-  /// Completes everything: the service that was asked is gone.
+  /// Completes all requests: the service is gone.
   void failAll();
 
-  /// Whether anything that was asked of this object is not answered yet.
+  /// Whether any request for this object is pending.
   bool isWaitingFor(const QString &objectPath) const;
 
-  /// Completes what was asked of an object that is gone (`isPulled`) or has no file system any more.
-  /// In the second case a mount waits on: the service may be looking at the disk anew. `isMounted`:
-  /// whether the kernel still has it mounted; an unmount has what it wanted if not.
+  /// Completes the requests for an object that is gone (`isPulled`) or has lost its file system. In
+  /// the second case a mount stays pending, because the service may be scanning the disk again.
+  /// `isMounted`: whether the kernel still has the device mounted; if not, an unmount has succeeded.
   void failVanished(const QString &objectPath, bool isPulled, bool isMounted);
 
  private:

@@ -7,8 +7,7 @@
 
 namespace {
 
-// Compound values are of no use here, and each of them would keep the whole message alive that it
-// came in.
+// Compound values are not used, and each of them would keep its whole message in memory.
 void insertPlain(QVariantMap &properties, const QVariantMap &added) {
   for (auto property = added.begin(); property != added.end(); ++property) {
     if (property.value().metaType() == QMetaType::fromType<QDBusArgument>()) continue;
@@ -74,7 +73,7 @@ void ServiceObject::change(const QString &interface, const QVariantMap &changed,
   const auto found = _interfaces.find(interface);
   if (found == _interfaces.end()) return;
   for (const QString &property : invalidated) found->remove(property);
-  // A value of another type than before must not leave the old one standing.
+  // When a value's type has changed, the old value must not remain.
   for (auto property = changed.keyBegin(); property != changed.keyEnd(); ++property) {
     found->remove(*property);
   }

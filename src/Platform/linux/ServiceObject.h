@@ -2,8 +2,8 @@
 
 // One object of the disk service as it was announced: its interfaces and their properties.
 //
-// Whatever another program says is only believed when it has the right type: a property of a wrong
-// one, or of an interface that the object does not have, reads as absent.
+// Values from another program are used only if they have the right type: a property of a wrong
+// type, or of an interface that the object does not have, is absent.
 
 #include <QHash>
 #include <QMap>
@@ -19,7 +19,7 @@ inline const QString kFilesystemInterface = QStringLiteral("org.freedesktop.UDis
 inline const QString kLoopInterface = QStringLiteral("org.freedesktop.UDisks2.Loop");
 inline const QString kDriveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
 
-/// As the bus delivers them: properties by interface.
+/// As D-Bus delivers them: properties by interface.
 using InterfaceMap = QMap<QString, QVariantMap>;
 
 class ServiceObject {
@@ -31,10 +31,9 @@ class ServiceObject {
   std::optional<quint64> number(const QString &interface, const QString &property) const;
   /// False when absent.
   bool flag(const QString &interface, const QString &property) const;
-  /// A file's name, which the service hands out as bytes with a NUL at their end. Empty when
-  /// absent.
+  /// A file's name, which the service sends as bytes with a NUL at the end. Empty when absent.
   QString fileName(const QString &interface, const QString &property) const;
-  /// The path of another object. Empty when absent or when it points to none ("/").
+  /// The path of another object. Empty when absent or "/".
   QString link(const QString &interface, const QString &property) const;
 
   /// The kernel's number of a block device; 0 when absent.
@@ -44,7 +43,7 @@ class ServiceObject {
 
   void add(const InterfaceMap &interfaces);
   void remove(const QStringList &interfaces);
-  /// Nothing happens when the object has no such interface.
+  /// Does nothing if the object has no such interface.
   void change(const QString &interface, const QVariantMap &changed, const QStringList &invalidated);
 
   bool operator==(const ServiceObject &) const = default;

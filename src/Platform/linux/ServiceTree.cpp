@@ -22,12 +22,12 @@ const QString kObjectManager = u"org.freedesktop.DBus.ObjectManager"_s;
 const QString kProperties = u"org.freedesktop.DBus.Properties"_s;
 const QString kBus = u"org.freedesktop.DBus"_s;
 
-// A service that lives no longer than this is dying again and again.
+// A service that exits within this time is crashing repeatedly.
 constexpr auto kShortLife = 10s;
 constexpr auto kFirstDelay = 50ms;
 constexpr auto kLongestDelay = 2000ms;
 
-// Jobs come and go with every operation and say nothing of disks.
+// Jobs come and go with every operation and are not disks.
 bool isJob(const QString &path) {
   return path.startsWith(u"/org/freedesktop/UDisks2/jobs/"_s);
 }
@@ -68,8 +68,8 @@ void ServiceTree::followSignals() {
               SLOT(changeProperties(QDBusMessage)));
 }
 
-// Asked before the tree, so that it is known when the tree comes. A service that starts or ends in
-// the meantime is told of by a signal, which knows better.
+// Asked before the tree, so that the owner is known when the tree comes. If the service starts or
+// exits meanwhile, a signal gives the new owner, which has priority.
 void ServiceTree::askForOwner() {
   auto question =
       QDBusMessage::createMethodCall(kBus, u"/org/freedesktop/DBus"_s, kBus, u"GetNameOwner"_s);
@@ -94,7 +94,8 @@ void ServiceTree::fetch() {
 
 void ServiceTree::fetchAgain() {
   const bool isUnanswered = std::exchange(_fetching, nullptr) != nullptr;
-  // Nobody but us starts it, and it dies each time: what it said last is not worth showing.
+  // The service exits at every start, and only this program starts it: the last tree is too old to
+  // show.
   if (isUnanswered && _delay == kLongestDelay) becomeAbsent(u"the disk service dies each time"_s);
   const bool diesAgain = std::chrono::milliseconds(_sinceFetch.elapsed()) < kShortLife;
   _delay = diesAgain ? std::clamp<std::chrono::milliseconds>(_delay * 2, kFirstDelay, kLongestDelay)
@@ -119,7 +120,7 @@ void ServiceTree::takeTree(QDBusPendingCallWatcher *call) {
 }
 
 void ServiceTree::fetchFailed(const QDBusError &error) {
-  // It died over the question, and its successor may do better; or it has come since.
+  // The service exited during the call and may be restarted, or it has started since the call.
   const bool hasCome = error.type() == QDBusError::ServiceUnknown && !owner().isEmpty();
   if (error.type() == QDBusError::NoReply || hasCome) return fetchAgain();
   _fetching = nullptr;
@@ -129,7 +130,7 @@ void ServiceTree::fetchFailed(const QDBusError &error) {
 void ServiceTree::changeOwner(const QString &before, const QString &after) {
   _owner = after;
   if (!before.isEmpty()) fetchAgain();
-  if (!after.isEmpty() && _fetching == nullptr) {  // started by another than us
+  if (!after.isEmpty() && _fetching == nullptr) {  // started by another program
     _delay = 0ms;
     fetch();
   }
@@ -173,7 +174,7 @@ void ServiceTree::noteChange(const QString &path) {
 
 void ServiceTree::addInterfaces(const QDBusMessage &message) {
   if (message.signature() != "oa{sa{sv}}"_L1) return;
-  // What comes before the tree is in it; without one, it would be shown as though it were all.
+  // Changes before the tree are part of it. Without a tree, they would be shown as all disks.
   if (_presence != DiskService::Presence::Answering) return;
   const QString path = message.arguments().at(0).value<QDBusObjectPath>().path();
   if (isJob(path)) return;

@@ -3,11 +3,11 @@
 // A mirror of the disk service's object tree, so that a question costs no round trip.
 //
 // The tree is fetched once, asynchronously, and then follows the service's signals. When the
-// service goes away it is asked for anew, which also starts it where the bus can; until the answer
-// comes the last tree stands, so that a restart of the service changes nothing that anyone can see.
-// A service that dies over the question again and again is asked ever more slowly and soon counts
-// as absent; one that appears is fetched when it does. After a restart of the bus all of it begins
-// again.
+// service exits, the tree is fetched again, which also restarts the service where the bus can;
+// until the answer comes the last tree is kept, so that a restart of the service changes nothing
+// visible. If the service exits during the fetch again and again, the delays grow and the service
+// soon counts as absent. The tree of a new service is fetched at once. After a restart of the bus
+// everything begins again.
 
 #include <QDBusServiceWatcher>
 #include <QElapsedTimer>
@@ -29,14 +29,14 @@ class ServiceTree : public QObject {
   Q_OBJECT
 
  public:
-  /// `bus` must outlive this.
+  /// `bus` must outlive this object.
   explicit ServiceTree(MessageBus &bus);
 
   DiskService::Presence presence() const { return _presence; }
   const ServiceObjects &objects() const { return _objects; }
   QDBusConnection connection() const { return _bus.connection(); }
-  /// The service's own address, which no successor has: what is asked of it is answered by it or,
-  /// when `serviceLost` is sent, by nobody. Empty while there is none.
+  /// The service's unique bus name, which a restarted service does not have. A call to it is
+  /// answered by this service or, after `serviceLost`, never. Empty while there is none.
   QString owner() const { return _owner.value_or(QString()); }
 
   bool hasChanges() const { return !_changes.isEmpty(); }
@@ -44,15 +44,15 @@ class ServiceTree : public QObject {
   QSet<QString> takeChanges() { return std::exchange(_changes, {}); }
 
  signals:
-  /// There is something for `takeChanges`.
+  /// `takeChanges` has something to return.
   void objectsChanged();
   void presenceChanged();
-  /// The service told that these interfaces of an object are gone. Not sent for what a whole new
-  /// tree lacks. `device` is the object's device number, 0 if it had none.
+  /// The service reported that these interfaces of an object are gone. Not sent for objects that are
+  /// missing in a newly fetched tree. `device` is the object's device number, 0 if it had none.
   void interfacesRemoved(const QString &path, const QStringList &interfaces, quint64 device);
-  /// A file system was given another label.
+  /// The label of a file system has changed.
   void labelChanged(quint64 device);
-  /// The service that had been asked so far is gone, and with it whatever it was working on.
+  /// The service has exited, and all pending calls with it.
   void serviceLost();
 
  private slots:
@@ -78,10 +78,10 @@ class ServiceTree : public QObject {
   MessageBus &_bus;
   QDBusServiceWatcher _watcher;
   DiskService::Presence _presence = DiskService::Presence::Asking;
-  std::optional<QString> _owner;  // nothing while the bus has not told
+  std::optional<QString> _owner;  // absent until the bus has answered
   ServiceObjects _objects;
   QSet<QString> _changes;
-  QDBusPendingCallWatcher *_fetching = nullptr;  // answers of earlier fetches are void
+  QDBusPendingCallWatcher *_fetching = nullptr;  // answers of earlier fetches are ignored
   QTimer _again;
   QElapsedTimer _sinceFetch;
   std::chrono::milliseconds _delay{0};

@@ -1,12 +1,11 @@
 #pragma once
 
-// The file by which the programs of one session agree on the unit numbers of disks.
+// The file through which the programs of one session share the unit numbers of disks.
 
 #include <QHash>
 #include <QString>
 
-/// Numbers by the identities of disks. A number is never used twice, not even after its disk is
-/// gone.
+/// Numbers by the identities of disks. A number is never reused, even after its disk is gone.
 struct Units {
   QHash<QString, int> numbers;
   int next = 0;
@@ -14,14 +13,14 @@ struct Units {
 
 class UnitFile {
  public:
-  /// `path` is absent where there is no place for the file. `boot` names the time since the machine
-  /// was started: what was written in another one is void.
+  /// `path` is empty where there is no place for the file. `boot` identifies the current boot of
+  /// the machine: numbers of another boot are ignored.
   UnitFile(QString path, QString boot);
 
-  /// Empty when there is no file, or none from this boot, or none that makes sense.
+  /// Empty when there is no file, or one of another boot, or one that cannot be parsed.
   Units read() const;
 
-  /// What is to be written into the file.
+  /// The bytes to write into the file.
   QByteArray bytesOf(const Units &units) const;
 
   const QString &path() const { return _path; }

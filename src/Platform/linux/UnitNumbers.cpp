@@ -13,11 +13,11 @@
 
 namespace {
 
-// With more than these, disks that are gone are forgotten, and the file stays small.
+// Above this number, removed disks are dropped, so that the file stays small.
 constexpr qsizetype kMostDisks = 5000;
 
-/// While it lives, root is the owner of a folder: it leaves nothing of its own there, and follows no
-/// link that the owner could not.
+/// While this object exists, root has the rights of the folder's owner: root creates no files of its
+/// own there, and cannot follow links that the owner could not.
 class AsOwnerOf {
  public:
   explicit AsOwnerOf(const QString &folder) {
@@ -53,7 +53,8 @@ QList<int> UnitNumbers::unitsOf(const QList<WholeDisk> &disks) {
   return units;
 }
 
-// The service announces disks in no particular order: all that the kernel has take part.
+// The service announces disks in no particular order, so all disks of the kernel are numbered
+// together.
 void UnitNumbers::number(QList<Candidate> candidates) {
   for (const WholeDisk &disk : _devices.all()) {
     candidates.append({disk, _devices.identityOf(disk)});
@@ -62,7 +63,7 @@ void UnitNumbers::number(QList<Candidate> candidates) {
 
   if (_file.path().isEmpty()) return numberOnwards(candidates);
   const AsOwnerOf owner(QFileInfo(QFileInfo(_file.path()).path()).path());
-  // Nobody else writes between reading and writing.
+  // The lock prevents other writers between reading and writing.
   PlainFileWriter writer(_file.path());
   adopt(_file.read());
   numberOnwards(candidates);
@@ -85,7 +86,7 @@ void UnitNumbers::keepOnly(const QList<Candidate> &candidates) {
   _units.numbers = kept;
 }
 
-// A number that this program has given to another disk meanwhile stays with that one.
+// A number that this program has given to another disk meanwhile stays with that disk.
 void UnitNumbers::adopt(const Units &shared) {
   const QSet<int> own(_units.numbers.begin(), _units.numbers.end());
   for (auto unit = shared.numbers.begin(); unit != shared.numbers.end(); ++unit) {

@@ -2,9 +2,8 @@
 
 // Which disk is disk0, which disk1 and so on.
 //
-// A disk keeps its number until the machine is started anew, in every program of the session,
-// whatever order the disk service announces disks in. Where the numbers cannot be shared, this
-// program has its own.
+// A disk keeps its number until the machine restarts, in every program of the session and whatever
+// the order of announcements. Where the numbers cannot be shared, this program uses its own.
 
 #include "Platform/linux/BlockDevices.h"
 #include "Platform/linux/UnitFile.h"
@@ -13,8 +12,8 @@ class UnitNumbers {
  public:
   UnitNumbers(BlockDevices devices, UnitFile file);
 
-  /// The numbers of these disks, in the same order. May write the file, and wait for another
-  /// program that is writing it, but never for long.
+  /// The numbers of these disks, in the same order. May write the file, and block for a short time
+  /// while another program writes it.
   QList<int> unitsOf(const QList<WholeDisk> &disks);
 
  private:

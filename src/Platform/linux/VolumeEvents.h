@@ -1,11 +1,11 @@
 #pragma once
 
-// Tells which mounts and unmounts are news.
+// Decides which mounts and unmounts are announced.
 //
-// Mounts are compared with those that were told of already, and only volumes on media that the disk
-// service knows, or has known, are told of. A mount that the kernel shows before the service has
-// announced its medium waits for that. A medium that was pulled is told of as unmounted though the
-// kernel's table may still show it, and no second time when the table drops it.
+// Compares the mounts with those announced already, and announces only volumes on media that the
+// disk service knows or has known. A mount that appears before the service has announced its medium
+// waits for the medium. When a medium is pulled, its volumes are announced as unmounted at once,
+// though the kernel's table may still have them, and not again when the table drops them.
 
 #include <QHash>
 #include <QList>
@@ -20,16 +20,16 @@ struct VolumeEvent {
 
 class VolumeEvents {
  public:
-  /// Whatever is mounted now is no news any more.
+  /// Marks all present mounts as known, without announcing them.
   void accept(const MountTable &table, const MediaCatalog &media);
 
-  /// The news since the last call, in the order in which they happened as far as that is known.
+  /// The events since the last call, in order of occurrence as far as known.
   QList<VolumeEvent> news(const MountTable &table, const MediaCatalog &media);
 
-  /// Whether a mount of this device was told of, or accepted, and its end was not.
+  /// Whether a mount of this device was announced or accepted, and its unmount was not announced.
   bool hasToldOf(quint64 device) const;
 
-  /// The news that a medium's removal is, in the order in which the volumes were mounted.
+  /// The unmounts for a removed medium, in the order in which its volumes were mounted.
   QList<VolumeEvent> pulled(quint64 device);
 
  private:

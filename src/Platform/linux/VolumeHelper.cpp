@@ -29,7 +29,7 @@ std::vector<char *> environmentWith(char *variable) {
   return variables;
 }
 
-/// 0 when it cannot be started. Nothing is inherited but the socket, not even a signal that is ignored.
+/// 0 when the process cannot be started. It inherits only the socket, and no ignored signals.
 pid_t start(int socket) {
   posix_spawn_file_actions_t files;
   posix_spawn_file_actions_init(&files);
@@ -61,9 +61,9 @@ pid_t start(int socket) {
   return error == 0 ? process : 0;
 }
 
-/// Buries the process whenever it ends, which may be long after anybody has asked it. Null where that cannot be told.
+/// Reaps the process when it exits, however late. Null where the kernel cannot report the exit.
 QSocketNotifier *watchedForEnd(pid_t process) {
-  // The C library of Debian 12 declares this for C alone.
+  // In Debian 12 the C library declares pidfd_open for C only.
   const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, process, 0));
   if (descriptor < 0) return nullptr;
   auto *end = new QSocketNotifier(descriptor, QSocketNotifier::Read, QCoreApplication::instance());
@@ -77,7 +77,7 @@ QSocketNotifier *watchedForEnd(pid_t process) {
   return end;
 }
 
-/// It may be in the middle of telling.
+/// Deleted later, because the notifier may be emitting its signal.
 void retire(std::unique_ptr<QSocketNotifier> &notifier) {
   if (notifier == nullptr) return;
   notifier->setEnabled(false);
@@ -111,7 +111,7 @@ VolumeHelper::~VolumeHelper() {
 void VolumeHelper::ask(const QByteArray &question, Handler handler) {
   _handlers.push_back(std::move(handler));
   const QByteArray message = framed(question);
-  // Questions are short, and few wait: one that does not fit at once goes to a process that is not well.
+  // Questions are short, and few are pending: if one does not fit at once, the process hangs.
   const auto size = static_cast<size_t>(message.size());
   if (send(_socket, message.constData(), size, MSG_NOSIGNAL) != message.size()) end();
 }

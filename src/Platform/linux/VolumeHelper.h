@@ -1,10 +1,10 @@
 #pragma once
 
-// A process of the program's own that looks at volumes, so that the program never does.
+// A child process that reads volumes, so that the program itself never blocks on them.
 //
-// What waits for a dead disk in the kernel cannot be ended, not even by force, and keeps its whole process with
-// it. This one has nothing that anybody would miss: no lock, no connection, no output. It is the program's own
-// executable, told by an environment variable what it is, and ends when its socket does.
+// A process that waits in the kernel for a dead disk cannot be ended, not even by SIGKILL. The helper process
+// holds nothing that others need: no lock, no connection, no output. It is the program's own executable,
+// started with an environment variable, and exits when its socket closes.
 
 #include <QByteArray>
 #include <QPointer>
@@ -17,12 +17,12 @@
 
 class VolumeHelper {
  public:
-  /// Called with an empty answer when the process has ended without one.
+  /// Called with an empty answer when the process has exited without answering.
   using Handler = std::function<void(const QByteArray &answer)>;
 
-  /// A helper that cannot be started counts as one that has ended.
+  /// A helper that cannot be started counts as ended.
   VolumeHelper();
-  /// Ends the process by force and waits for nothing; questions that are not answered go unanswered.
+  /// Kills the process without waiting. Handlers of pending questions are not called.
   ~VolumeHelper();
   VolumeHelper(const VolumeHelper &) = delete;
   VolumeHelper &operator=(const VolumeHelper &) = delete;
@@ -30,24 +30,25 @@ class VolumeHelper {
   bool hasEnded() const { return _socket < 0; }
   bool isIdle() const { return _handlers.empty(); }
 
-  /// Questions are answered one after another, from the event loop or from `serve`. Not for one that has ended.
+  /// Questions are answered in order, from the event loop or from `serve`. Not after `hasEnded`.
   void ask(const QByteArray &question, Handler handler);
 
-  /// Has nothing more to do with it: what is not answered yet gets an empty answer, and it goes when it can.
+  /// Gives up the process: pending questions get an empty answer, and the process exits when it can.
   void end();
 
-  /// Blocks until all has been answered, but for this time at most.
+  /// Blocks until all questions are answered, `atMost` that long.
   void serve(std::chrono::milliseconds atMost);
 
  private:
   void takeAnswers();
 
   int _socket = -1;
-  QPointer<QSocketNotifier> _process;  // tells of its end; null afterwards
+  QPointer<QSocketNotifier> _process;  // reports the exit; null afterwards
   std::unique_ptr<QSocketNotifier> _answers;
   QByteArray _received;
   std::deque<Handler> _handlers;
 };
 
-/// What such a process does; absent in every other. Called first in `main`.
+/// Runs the helper's work in a process started as a helper; absent in any other. Called first in
+/// `main`.
 std::optional<int> runAsVolumeHelper();

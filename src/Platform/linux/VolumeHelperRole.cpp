@@ -17,7 +17,7 @@
 
 namespace {
 
-/// The longest that an answer may keep a processor busy, in seconds: the process ends then.
+/// The most processor time for an answer, in seconds; SIGPROF then ends the process.
 constexpr time_t kMostEffort = 10;
 
 void limitEffort(time_t seconds) {
@@ -25,7 +25,7 @@ void limitEffort(time_t seconds) {
   setitimer(ITIMER_PROF, &limit, nullptr);
 }
 
-/// If memory becomes short because of what a volume holds, this process is the one to go.
+/// If the content of a volume uses up the memory, the kernel should kill this process first.
 void offerToBeEnded() {
   const int file = open("/proc/self/oom_score_adj", O_WRONLY | O_CLOEXEC);
   [[maybe_unused]] const auto written = write(file, "1000", 4);
@@ -41,7 +41,7 @@ bool sendWhole(std::span<const char> bytes) {
   return true;
 }
 
-/// Until nobody asks any more.
+/// Returns when the socket is closed.
 void answerQuestions() {
   QByteArray received;
   std::array<char, 65536> piece{};
@@ -69,10 +69,10 @@ bool isSocket(int descriptor) {
 std::optional<int> runAsVolumeHelper() {
   if (getenv(kHelperVariable) == nullptr) return std::nullopt;
   unsetenv(kHelperVariable);
-  // Somebody may have set the variable by hand.
+  // The user may have set the variable by hand.
   if (!isSocket(kHelperSocket)) return std::nullopt;
   prctl(PR_SET_NAME, "keldra-volumes");
-  // Where the program was started may lie on a volume that is to be unmounted.
+  // The working directory may lie on a volume that is to be unmounted.
   if (chdir("/") != 0) return EXIT_FAILURE;
   offerToBeEnded();
   int argumentCount = 1;

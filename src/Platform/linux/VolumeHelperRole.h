@@ -1,6 +1,6 @@
 #pragma once
 
-// How the program's own executable is told that it is to look at volumes.
+// The variable that makes the program's executable run as a volume helper.
 
 inline constexpr const char *kHelperVariable = "KELDRA_VOLUME_HELPER";
 inline constexpr int kHelperSocket = 3;

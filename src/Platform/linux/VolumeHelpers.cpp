@@ -29,7 +29,7 @@ VolumeHelpers::Helper VolumeHelpers::helperFor(const Mount &volume) {
   return helper;
 }
 
-// Called by the helper itself, which must not go before it has returned.
+// Called from the helper's own code, so the helper must not be deleted before it returns.
 void VolumeHelpers::release(const Mount &volume) {
   const Helper helper = _busy.value(volume);
   if (helper == nullptr || !helper->isIdle()) return;

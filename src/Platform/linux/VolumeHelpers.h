@@ -1,6 +1,6 @@
 #pragma once
 
-// The processes that look at volumes: one that is ready, and one more for each volume that keeps it waiting.
+// The helper processes that read volumes: one in reserve, and one for each volume that has not answered.
 
 #include <QHash>
 #include <QObject>
@@ -16,20 +16,20 @@ class VolumeHelpers : public QObject {
  public:
   VolumeHelpers();
 
-  /// `lateAnswer` is called from the event loop when a volume has answered that was late, or when one was not asked
-  /// because others had taken the time. The late answers are given again to what is asked inside that call.
+  /// `lateAnswer` is called from the event loop when a late volume has answered, or when a volume was not asked
+  /// because others had used up the time. Calls of `answer` inside `lateAnswer` get the late answers.
   void setLateAnswerHandler(std::function<void()> lateAnswer) {
     _lateAnswer = std::move(lateAnswer);
   }
 
-  /// The answer to a question that concerns this volume. Absent when it has not come in time, empty when there is
-  /// none. All that is asked in one turn of the event loop waits 100 ms together.
+  /// The answer to a question about this volume. Absent when it has not come in time, empty when there is none.
+  /// All calls in one turn of the event loop wait 100 ms together.
   std::optional<QByteArray> answer(const Mount &volume, const QByteArray &question);
 
-  /// Asks without waiting; the handler as for `VolumeHelper::ask`.
+  /// Asks without waiting; `handler` as for `VolumeHelper::ask`.
   void ask(const Mount &volume, const QByteArray &question, VolumeHelper::Handler handler);
 
-  /// Waits no more for volumes that are not mounted any longer. Called from the event loop.
+  /// Stops waiting for volumes that are no longer mounted. Called from the event loop.
   void forgetVanished(const MountTable &table);
 
  private:
@@ -44,7 +44,7 @@ class VolumeHelpers : public QObject {
   QHash<Mount, Helper> _busy;  // with this volume
   Helper _ready;
   QTimer _idle;
-  QTimer _turn;  // of the event loop: ends with it
+  QTimer _turn;  // the current turn of the event loop
   std::chrono::nanoseconds _spent{0};
   QTimer _unasked;
   bool _isTellingLate = false;

@@ -22,7 +22,7 @@ class FilesOfVolumes final : public DirectVolumeFiles {
   }
 };
 
-/// Names have no NUL in them, so it ends each.
+/// NUL ends each name, because names cannot contain it.
 QByteArray packedEntries(const std::optional<QList<FolderEntry>> &entries) {
   QByteArray names;
   for (const FolderEntry &entry : entries.value_or(QList<FolderEntry>())) {
@@ -39,7 +39,7 @@ QByteArray packedIcon(const IconFile &file) {
                 QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes()));
 }
 
-/// Null unless the bytes are a picture of that size.
+/// Null unless the bytes have the length of a picture of that size.
 QImage imageFrom(int width, int height, const QByteArray &bytes) {
   const bool isSensible =
       width > 0 && height > 0 && width <= kLargestIconSide && height <= kLargestIconSide;

@@ -1,10 +1,10 @@
 #pragma once
 
-// What the program and the process that looks at volumes for it say to each other.
+// The messages between the program and its volume helper processes.
 //
-// A question is one byte that says what is asked and then its arguments; an answer is plain values. Either
-// travels behind its length. The answering process may have been taken over by a picture that it decoded, so
-// its answers are values of no great size and are checked.
+// A question is one byte for its kind, then its arguments; an answer is plain values. Each message follows
+// its length. A malicious picture may have taken control of the helper that decoded it, so answers are
+// limited in size and checked.
 
 #include <QByteArray>
 #include <QDataStream>
@@ -24,7 +24,7 @@ QByteArray packed(const Values &...values) {
   return bytes;
 }
 
-/// False, with the values in an unknown state, when the bytes do not hold them.
+/// False, with the values in an unknown state, when the bytes do not contain the values.
 template <typename... Values>
 bool unpack(const QByteArray &bytes, Values &...values) {
   QDataStream stream(bytes);
@@ -32,16 +32,16 @@ bool unpack(const QByteArray &bytes, Values &...values) {
   return stream.status() == QDataStream::Ok;
 }
 
-/// Looks, reads, decodes, writes: blocks for as long as it takes.
+/// Does the work of a question. Blocks for as long as the volume takes.
 QByteArray answerTo(const QByteArray &question);
 
-// How the answers read. Each gives what stands for no answer when the bytes are none.
+// Parse the answers. Each returns its value for "no answer" when the bytes are not valid.
 LookAtPath lookFrom(const QByteArray &answer);
 std::optional<QList<FolderEntry>> entriesFrom(const QByteArray &answer);
 IconFile iconFileFrom(const QByteArray &answer);
 QStringList usersFrom(const QByteArray &answer);
 
-/// The bytes with their length before them, and the first message that is complete in a stream of such, which is
-/// taken out of it. `isBroken` is set when what stands there can be no message.
+/// `framed` puts the length before a message. `takeMessage` removes the first complete message from a stream
+/// and returns it; `isBroken` is set when the stream cannot be parsed.
 QByteArray framed(const QByteArray &message);
 std::optional<QByteArray> takeMessage(QByteArray &stream, bool &isBroken);

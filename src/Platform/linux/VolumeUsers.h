@@ -3,6 +3,6 @@
 #include <QStringList>
 
 /// "name (process number)" of the processes that have a file or folder of the volume mounted there
-/// open, work in it or run from it, as far as the kernel lets this user look. Nothing on the volume
-/// itself is touched, so that a dead one holds nobody up.
+/// open, have it as working directory or run from it, as far as the kernel shows them to this user.
+/// Does not access the volume itself, so a dead volume does not block the call.
 QStringList processesUsingVolume(const QString &mountPoint);

@@ -19,7 +19,7 @@ const QByteArray kGroup = "Desktop Entry";
 const QByteArray kHidden = "Hidden";
 const QByteArray kEnabled = "X-GNOME-Autostart-enabled";
 
-/// Without lines for what is no plain file of a sensible size.
+/// Empty unless the file is a plain file of a sensible size.
 KeyFile readKeyFile(const QString &fileName) {
   const auto content = readPlainFile(QFile::encodeName(fileName), kLargestEntry);
   const auto *bytes = std::get_if<QByteArray>(&content);
@@ -28,7 +28,7 @@ KeyFile readKeyFile(const QString &fileName) {
 
 /// The program that an "Exec" line starts: its first word, which may stand in double quotes.
 QString firstWord(QString exec) {
-  exec.replace("\\\\"_L1, "\\"_L1);  // as `escaped` left it
+  exec.replace("\\\\"_L1, "\\"_L1);  // the reverse of `escaped`
   if (!exec.startsWith(u'"')) return exec.section(u' ', 0, 0);
   QString word;
   for (qsizetype index = 1; index < exec.size() && exec[index] != u'"'; ++index) {
@@ -38,12 +38,12 @@ QString firstWord(QString exec) {
   return word;
 }
 
-/// The escape of every value in such a file.
+/// The escape that all values in desktop entries need.
 QString escaped(QString value) {
   return value.replace(u'\\', "\\\\"_L1);
 }
 
-/// `firstWord` the other way round. A "%" stands for itself only when it is doubled.
+/// The reverse of `firstWord`. A literal "%" is doubled.
 QString quotedForExec(QString program) {
   for (const char character : {'\\', '"', '`', '$'}) {
     program.replace(QLatin1Char(character), QString(u'\\') + QLatin1Char(character));
@@ -55,7 +55,7 @@ bool isSwitchedOff(const KeyFile &entry) {
   return entry.value(kGroup, kHidden) == "true" || entry.value(kGroup, kEnabled) == "false";
 }
 
-/// A program that was killed while it wrote the entry may have left that beside it.
+/// A program that was killed while writing the entry may have left the ".new" file.
 void clearLeftover(const QString &fileName) {
   if (QFile::exists(fileName + ".new"_L1)) PlainFileWriter{fileName};
 }
@@ -140,7 +140,7 @@ void XdgLoginItems::insertOwnItem() {
   for (const QString &name : names) {
     if (switchOn(name)) return;
   }
-  if (_isAnsweredLate) return;  // a second item of ours would be worse than none
+  if (_isAnsweredLate) return;  // no entry is better than a second one for this program
   QString name = u"keldra.desktop"_s;
   for (int number = 1; names.contains(name); ++number) name = u"keldra-%1.desktop"_s.arg(number);
   const QString entry =

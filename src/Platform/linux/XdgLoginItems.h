@@ -1,7 +1,6 @@
 #pragma once
 
-// Login items as the desktops of this system keep them: one desktop entry each in a folder of the
-// user's.
+// Login items of Linux desktops: one desktop entry each in a folder of the user.
 
 #include <QSet>
 #include <functional>
@@ -13,43 +12,42 @@ class KeyFile;
 
 class XdgLoginItems final : public LoginItems {
  public:
-  /// How a path is looked at: programs of others, and what links lead to, may lie on a volume that never
-  /// answers.
+  /// Looks at a path: other programs, and targets of links, may lie on a volume that never answers.
   using Look = std::function<LookAtPath(const QString &)>;
 
-  /// `folder` is the user's autostart folder, made when it is needed; `program` the path of this
+  /// `folder` is the user's autostart folder, created when needed; `program` the path of this
   /// program.
   XdgLoginItems(QString folder, const QString &program, Look look = lookAtOnce);
 
   static LookAtPath lookAtOnce(const QString &path);
 
-  /// In the folder that the desktop reads, for the executable that is running.
+  /// For the folder that the desktop reads and the running executable.
   static XdgLoginItems ofThisUser(Look look);
 
   QString ownLocation() const override;
 
-  /// An item's location is the program that its entry starts: absolute, or found on the search
-  /// path, links resolved; also of one that the user, or the desktop, has switched off. Absent for an
-  /// entry that is broken, or names no program that is there.
+  /// An item's location is the program that its entry starts: absolute or from the search path, links
+  /// resolved, even if the user or the desktop has switched the entry off. Absent for an entry that
+  /// is broken, or whose program does not exist.
   std::optional<QVector<Item>> snapshot() const override;
 
-  /// Switches an own item on that is switched off, and changes nothing else of it. Entries of others
-  /// are left alone. While it cannot be told which are which, nothing is added.
+  /// If an own item is switched off, switches it on and changes nothing else of it. Entries of
+  /// others are not changed. While it cannot be determined which items are own, adds nothing.
   void insertOwnItem() override;
 
-  /// An item that is switched off starts nothing: its entry stays as it is, and has no location from
-  /// then on.
+  /// An item that is switched off starts nothing, so its entry stays, without a location from then
+  /// on.
   void remove(const Item &item) override;
 
  private:
   QStringList entryNames() const;
-  /// Empty when nothing is there, or it cannot be told.
+  /// Empty when nothing exists there, or the volume does not answer.
   QString realPath(const QString &path) const;
-  /// Without lines for what is no plain file of a sensible size.
+  /// Empty unless the file is a plain file of a sensible size.
   KeyFile readEntry(const QString &name) const;
-  /// Also of an entry that is switched off.
+  /// Works also for an entry that is switched off.
   std::optional<QString> programOf(const KeyFile &entry) const;
-  /// False when this is no own entry that is switched off.
+  /// False unless this is an own entry that is switched off.
   bool switchOn(const QString &name);
 
   QSet<QString> _leftAlone;

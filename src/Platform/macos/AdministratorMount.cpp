@@ -20,7 +20,7 @@ bool isEsp(const DiskDescription &description) {
              u"EFI System Partition"_s;
 }
 
-/// Empty for what is no BSD name: it becomes a part of a command that root runs.
+/// Empty unless the name is a BSD name, because the name becomes part of a command that root runs.
 QString commandFor(const QString &bsdName) {
   static const QRegularExpression kName(
       QRegularExpression::anchoredPattern(u"disk[0-9]+(s[0-9]+)*"_s));
@@ -35,7 +35,7 @@ std::optional<Dissenter> outcomeOf(QProcess &prompt, DissenterStatus refusal) {
   const QByteArray problem = prompt.readAllStandardError();
   systemLog(u"The administrator's mount failed: "_s +
             (hasRun ? QString::fromUtf8(problem) : prompt.errorString()));
-  // The words around the number are in the person's language.
+  // The text around the number is in the user's language.
   return Dissenter{problem.contains("(-128)") ? unixErrorStatus(ECANCELED) : refusal};
 }
 
@@ -53,7 +53,7 @@ void mountAsAdministrator(const QString &bsdName, DissenterStatus refusal, const
   if (command.isEmpty()) return completion(Dissenter{refusal});
   auto *prompt = new QProcess(&owner);
   const auto end = [prompt, refusal, call = std::move(completion)] {
-    prompt->disconnect();  // a program that cannot be started may say so twice
+    prompt->disconnect();  // a start failure may emit two signals
     prompt->deleteLater();
     call(outcomeOf(*prompt, refusal));
   };

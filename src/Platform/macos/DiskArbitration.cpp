@@ -7,9 +7,9 @@
 
 #include "Platform/macos/Values.h"
 
-// It may outlive the service's object while the service's library has it in hand.
+// Shared ownership: a request may outlive its `DiskArbitration` while the system's library uses it.
 struct DiskArbitration::Request : std::enable_shared_from_this<Request> {
-  DiskArbitration *service = nullptr;  // null once it has been dropped
+  DiskArbitration *service = nullptr;  // null once the request has been dropped
   Completion completion;
   Owned<DASessionRef> session;
   Owned<DADiskRef> disk;
@@ -20,7 +20,7 @@ struct DiskArbitration::Request : std::enable_shared_from_this<Request> {
     completion(status);
   }
 
-  // A refusal may come inside the request, and so on the queue where that is made.
+  // A refusal may come inside the request, on the queue where the request is made.
   static void finish(DADiskRef, DADissenterRef dissenter, void *context) {
     std::optional<quint32> status;
     if (dissenter != nullptr) status = static_cast<quint32>(DADissenterGetStatus(dissenter));
@@ -110,7 +110,7 @@ std::optional<DiskArbitration::Record> DiskArbitration::recordOfVolume(const QSt
       Owned<DADiskRef>(DADiskCreateFromVolumePath(kCFAllocatorDefault, session.get(), url.get())));
 }
 
-// The library may ask for a password inside the request, on the thread that makes it.
+// On another queue, because the library may block in the request to ask for a password.
 void DiskArbitration::ask(const QString &bsdName, Completion completion, Question question) {
   Owned<DASessionRef> session = openSession();
   Owned<DADiskRef> disk = diskNamed(bsdName, session);

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the disk arbitration service is asked, in Qt's terms. Nothing of the seam is known here: its
-// constants go by the same names as the service's own.
+// The disk arbitration service with Qt's types. Does not include the seam, whose constants have the
+// same names as the service's own.
 
 #include <QHash>
 #include <QVariant>
@@ -12,36 +12,36 @@
 
 class DiskArbitration {
  public:
-  /// What the service publishes under its own keys: texts, which UUIDs are too, numbers, booleans,
-  /// QUrls of local files, and a QVariantMap for the icon.
+  /// The service's values under its own keys: texts (also for UUIDs), numbers, booleans, QUrls of
+  /// local files, and a QVariantMap for the icon.
   using Record = QVariantHash;
 
-  /// Called with the service's status when it refused.
+  /// Called with the service's status when it refused, without one on success.
   using Completion = std::function<void(const std::optional<quint32> &status)>;
 
   DiskArbitration();
   DiskArbitration(const DiskArbitration &) = delete;
   DiskArbitration &operator=(const DiskArbitration &) = delete;
 
-  /// Requests under way are not completed any more.
+  /// Pending requests are never completed.
   ~DiskArbitration();
 
-  /// Whether there is a service to open a session with.
+  /// Whether a session with the service can be opened.
   static bool answers();
 
-  // Every question opens a session of its own and waits for the answer, which takes well below a
-  // millisecond. Absent where the service knows nothing.
+  // Each call opens its own session and waits for the answer, which takes well below a millisecond.
+  // Absent where the service knows nothing.
 
   static std::optional<Record> recordOfMedia(const QString &bsdName);
   static std::optional<Record> recordOfVolume(const QString &path);
 
-  // The completion is called inside these when there is nobody to ask, else from the run loop in its
-  // default mode. A password prompt of the service's keeps only the request waiting.
+  // The completion is called inside these functions when there is no service, else from the run loop
+  // in its default mode. The service's password prompt delays only its own request.
 
   void mount(const QString &bsdName, const std::optional<QString> &path, Completion completion);
   void unmount(const QString &bsdName, bool isForced, Completion completion);
 
-  /// Completes all requests that are under way.
+  /// Completes all pending requests.
   void answerAll(quint32 status);
 
  private:

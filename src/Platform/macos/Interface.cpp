@@ -1,5 +1,5 @@
-// That the platform's headers declare what this backend was written against: a difference is found here, by name, and
-// not at run time.
+// Checks that the platform's headers match the declarations that this backend assumes: a difference fails the
+// build with its name, instead of failing at run time.
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <CoreServices/CoreServices.h>
@@ -17,7 +17,7 @@
 #include <string_view>
 #include <type_traits>
 
-// A constant may be const or not, and a function promise not to throw or not.
+// Constants match with or without const, functions with or without noexcept.
 #define TYPE(name, ...) static_assert(std::is_same_v<name, __VA_ARGS__>);
 #define ENUM(name, type) static_assert(std::is_same_v<std::underlying_type_t<name>, type>);
 #define INT(type, name, value) static_assert(static_cast<int>(name) == static_cast<int>(value));

@@ -14,7 +14,7 @@ void setUuid(DiskDescription &description, const QString &key) {
   if (uuid) description.insert(key, QVariant::fromValue(*uuid));
 }
 
-// The service also knows the name of a volume that is not mounted.
+// The service also reports the name of a volume that is not mounted.
 DiskDescription descriptionFrom(DiskArbitration::Record record) {
   const bool isMounted = record.contains(disk_service::kDADiskDescriptionVolumePathKey);
   if (!isMounted ||
@@ -42,20 +42,19 @@ std::optional<DiskDescription> MacDiskService::descriptionOfMedia(const QString 
   return descriptionFrom(std::move(*record));
 }
 
-// The service may take the path of a folder or link on a volume for the volume's.
+// The service may return the volume for the path of a folder or link on that volume.
 std::optional<DiskDescription> MacDiskService::descriptionOfVolume(
     const QString &mountPoint) const {
   auto record = DiskArbitration::recordOfVolume(mountPoint);
   if (!record) return std::nullopt;
   const QUrl path = record->value(disk_service::kDADiskDescriptionVolumePathKey).toUrl();
-  // In one of the forms that accents have, as the path came through the file system's.
+  // Normalizes accents in the same way as the service's path.
   const QString wanted = QFile::decodeName(QFile::encodeName(mountPoint));
   if (path.toLocalFile() != wanted) return std::nullopt;
   return descriptionFrom(std::move(*record));
 }
 
-// The service takes an unknown disk for a bad argument, and hands on that the volume was busy as the
-// system said it.
+// The service reports an unknown disk as a bad argument, and a busy volume as the system's EBUSY.
 DissenterStatus MacDiskService::inWordsOfTheSeam(const QString &bsdName, quint32 status) const {
   if (status == unixErrorStatus(EBUSY)) return disk_service::kDAReturnBusy;
   const bool isUnknown =

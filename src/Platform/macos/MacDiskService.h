@@ -18,7 +18,7 @@ class MacDiskService final : public DiskService {
              Completion completion) override;
   void unmount(const QString &bsdName, UnmountOption option, Completion completion) override;
 
-  /// Completes what is under way: the service that it was asked of is gone.
+  /// Completes pending requests: the service that had them is gone.
   void noteServiceStart() { _arbitration.answerAll(disk_service::kDAReturnNotReady); }
 
  private:
@@ -26,5 +26,5 @@ class MacDiskService final : public DiskService {
 
   QString _root;
   DiskArbitration _arbitration;
-  QObject _prompts;  // owns what asks a person for a password
+  QObject _prompts;  // owns the password prompts
 };

@@ -15,7 +15,7 @@ Owned<CFURLRef> ownUrl() {
   return Owned<CFURLRef>(CFBundleCopyBundleURL(CFBundleGetMainBundle()));
 }
 
-/// The items as they are now, owned together.
+/// The present items; the array owns them.
 Owned<CFArrayRef> itemsOf(const Owned<LSSharedFileListRef> &list) {
   UInt32 seed = 0;
   return list ? Owned<CFArrayRef>(LSSharedFileListCopySnapshot(list.get(), &seed))
@@ -28,7 +28,7 @@ LSSharedFileListItemRef itemAt(const Owned<CFArrayRef> &items, CFIndex index) {
 }
 
 std::optional<QString> locationOf(LSSharedFileListItemRef item) {
-  // An item may be on a server.
+  // No prompt and no mount, because an item may be on a server.
   constexpr auto kQuietly = kLSSharedFileListNoUserInteraction | kLSSharedFileListDoNotMountVolumes;
   CFURLRef url = nullptr;
   const OSStatus status = LSSharedFileListItemResolve(item, kQuietly, &url, nullptr);

@@ -2,8 +2,8 @@
 
 #include "Platform/LoginItems.h"
 
-/// The session's login items, in the system's shared file list. An item goes by its location; one
-/// that does not resolve has none and is never removed.
+/// The session's login items, in the system's shared file list. Items are identified by their
+/// locations; one that does not resolve has no location and is never removed.
 class MacLoginItems final : public LoginItems {
  public:
   QString ownLocation() const override;

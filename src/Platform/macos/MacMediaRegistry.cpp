@@ -10,20 +10,20 @@ namespace {
 
 Owned<io_iterator_t> allMedia() {
   io_iterator_t media{};
-  // Asking takes the matching dictionary over, also when it fails.
+  // The call consumes the matching dictionary, even on failure.
   const kern_return_t result =
       IOServiceGetMatchingServices(kIOMasterPortDefault, IOServiceMatching(kIOMediaClass), &media);
   return result == KERN_SUCCESS ? Owned<io_iterator_t>(media) : Owned<io_iterator_t>();
 }
 
 std::optional<QString> bsdNameOf(const Owned<io_object_t> &medium) {
-  CFMutableDictionaryRef table = nullptr;  // which it stays for a medium that has gone
+  CFMutableDictionaryRef table = nullptr;  // remains null for a removed medium
   IORegistryEntryCreateCFProperties(medium.get(), &table, kCFAllocatorDefault, 0);
   const Owned<CFMutableDictionaryRef> properties(table);
   return textOf(referenceIn(properties.get(), QString::fromUtf8(kIOBSDNameKey)));
 }
 
-// "disk1" and "disk1s2" lie on "disk1", and "disk10" does not.
+// "disk1" and "disk1s2" lie on "disk1", but "disk10" does not.
 bool liesOn(const QString &bsdName, const QString &wholeDisk) {
   if (!bsdName.startsWith(wholeDisk)) return false;
   return bsdName.size() == wholeDisk.size() || bsdName.at(wholeDisk.size()) == u's';

@@ -2,7 +2,7 @@
 
 #include "Platform/Platform.h"
 
-/// The I/O registry's media objects, in its order.
+/// The I/O registry's media objects, in the registry's order.
 class MacMediaRegistry final : public MediaRegistry {
  public:
   QStringList mediaNames() const override;

@@ -70,8 +70,8 @@ class MacPlatform final : public MachinePlatform {
 
   void postChange() { _workspace.post({kNSWorkspaceDidMountNotification, this}); }
 
-  // The system asks the person before a program reads what is on removable and network volumes for
-  // the first time. Not out of the blue: when a window of the program is in front.
+  // The system asks the user before a program first reads removable or network volumes. So these
+  // are read only when one of the program's windows is in front.
   void readForeignIconsOnceAWindowIsOpen() {
     _readsForeignIcons = qobject_cast<QGuiApplication *>(qApp) == nullptr;
     if (_readsForeignIcons) return;

@@ -7,7 +7,7 @@
 
 void MacRunLoop::run(const bool &finished) {
   ++_waits;
-  // A stop ends the innermost run of the loop, which may be somebody else's, such as a dialog's.
+  // A stop ends the innermost run of the loop, which may be a foreign one, such as a dialog's.
   QTimer lookAgain;
   QObject::connect(&lookAgain, &QTimer::timeout, [&] {
     if (finished) stop();
@@ -15,11 +15,11 @@ void MacRunLoop::run(const bool &finished) {
   lookAgain.start(std::chrono::milliseconds(50));
   while (!finished) CFRunLoopRun();
   --_waits;
-  // The stop that has ended this wait may have been meant for the one outside.
+  // The stop that has ended this wait may have been meant for the outer one.
   stop();
 }
 
-// Without a wait under way it would end the program's own loop.
+// Without a pending wait this would end the program's own loop.
 void MacRunLoop::stop() {
   if (_waits > 0) CFRunLoopStop(CFRunLoopGetMain());
 }
@@ -27,6 +27,6 @@ void MacRunLoop::stop() {
 void MacRunLoop::servePending() {
   constexpr CFTimeInterval kMoment = 0.02;
   CFRunLoopRunInMode(kCFRunLoopDefaultMode, kMoment, 0);
-  // The stop that has ended this may have been meant for the wait outside.
+  // The stop that has ended this call may have been meant for the outer wait.
   stop();
 }

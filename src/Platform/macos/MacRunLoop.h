@@ -2,8 +2,8 @@
 
 #include "Platform/Platform.h"
 
-/// The main thread's CFRunLoop, which serves Qt's timers and painting too, but nothing that a
-/// person does: the disk arbitration service answers to nothing else.
+/// The main thread's CFRunLoop. It serves Qt's timers and painting too, but no user input. The disk
+/// arbitration service needs this loop.
 class MacRunLoop final : public RunLoop {
  public:
   void run(const bool &finished) override;

@@ -9,7 +9,7 @@ std::optional<QString> MacSystemFiles::bundleResource(const QString &bundle, con
   const Owned<CFURLRef> url = makeFolderUrl(_root + bundle);
   const Owned<CFBundleRef> opened(url ? CFBundleCreate(kCFAllocatorDefault, url.get()) : nullptr);
   if (!opened) return std::nullopt;
-  // For no name the system gives any file of the type.
+  // For an empty name the system returns any file of the type.
   if (name.isEmpty()) return QString();
   const Owned<CFURLRef> resource(
       CFBundleCopyResourceURL(opened.get(), makeText(name).get(), makeText(type).get(), nullptr));

@@ -2,7 +2,7 @@
 
 #include "Platform/common/FileSystemFiles.h"
 
-/// The system's own files, its bundles read as the system reads them.
+/// The system's own files; bundles are read with the system's functions.
 class MacSystemFiles final : public FileSystemFiles {
  public:
   /// `root` is put before every path.

@@ -2,7 +2,7 @@
 
 #include "Platform/LoginItems.h"
 
-/// The preferences of the application, by its bundle's identifier.
+/// The application's preferences, stored under its bundle identifier.
 class MacUserDefaults final : public UserDefaults {
  public:
   QVariant object(const QString &key) const override;

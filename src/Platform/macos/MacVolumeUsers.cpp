@@ -8,7 +8,7 @@
 
 namespace {
 
-// More than this nobody reads.
+// More than a message can show.
 constexpr std::size_t kMostProcesses = 256;
 
 QString nameOf(int process) {
@@ -20,7 +20,7 @@ QString nameOf(int process) {
 }  // namespace
 
 QStringList programsUsingVolume(const QString &mountPoint) {
-  // Who only watches the volume for changes does not hold it.
+  // A process that only watches the volume for changes does not prevent an unmount.
   constexpr auto kHolders = PROC_LISTPIDSPATH_PATH_IS_VOLUME | PROC_LISTPIDSPATH_EXCLUDE_EVTONLY;
   std::vector<int> processes(kMostProcesses);
   const int bytes =

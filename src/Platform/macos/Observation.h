@@ -1,6 +1,6 @@
 #pragma once
 
-// While one of these lives, a callback is called for each notification of a name.
+// While an object of this class exists, a callback is called for each notification of a name.
 //
 //   const Observation theme(CFNotificationCenterGetDistributedCenter(),
 //                           QStringLiteral("AppleInterfaceThemeChangedNotification"), this, callback);
@@ -9,7 +9,7 @@
 
 class Observation {
  public:
-  /// The callback is given the observer, which tells one observation from another.
+  /// The callback gets `observer`, which identifies the observation.
   Observation(CFNotificationCenterRef center, const QString &name, void *observer,
               CFNotificationCallback callback)
       : _center(center), _name(makeText(name)), _observer(observer) {

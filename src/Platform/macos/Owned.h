@@ -1,13 +1,13 @@
 #pragma once
 
-// Who owns what the system's C interfaces hand out.
+// Ownership of objects from the system's C interfaces.
 //
 //   const Owned<CFURLRef> location(CFBundleCopyBundleURL(bundle));
 //   use(location.get());
 //
-// The result of a function with Create or Copy in its name goes into one of these at once, and so
-// does every object of the I/O registry. The result of any other function belongs to somebody else
-// and is used while that owner lives.
+// Put the result of a function with Create or Copy in its name into an `Owned` at once, and every
+// object of the I/O registry too. The result of any other function has another owner, and is valid
+// while that owner exists.
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <IOKit/IOKitLib.h>

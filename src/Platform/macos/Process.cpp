@@ -7,8 +7,8 @@
 
 #include "Platform/ThisMachine.h"
 
-// Programs that know versions by their second number only are told "10.16" instead of "11.0" to
-// "26.x" by the system, if this is in their environment when they start.
+// With this variable in its environment at the start, a program that uses only the second number of
+// a version gets "10.16" from the system instead of "11.0" to "26.x".
 void prepareProcess(char **arguments) {
   constexpr char kTellsOldVersion[] = "SYSTEM_VERSION_COMPAT";
   if (std::getenv(kTellsOldVersion) != nullptr) return;

@@ -1,6 +1,6 @@
 #pragma once
 
-// The system's values as Qt's, and the other way round.
+// Converts between the system's values and Qt's.
 
 #include <QString>
 #include <QVariant>
@@ -11,19 +11,19 @@
 Owned<CFStringRef> makeText(const QString &text);
 Owned<CFURLRef> makeFolderUrl(const QString &path);
 
-/// Absent for a null reference and for what is no text.
+/// Absent for a null reference and for a value that is not a text.
 std::optional<QString> textOf(CFTypeRef value);
 
-/// The path in a file URL, without a slash at its end. Absent for a null reference and for what is
-/// no such URL.
+/// The path in a file URL, without a trailing slash. Absent for a null reference and for a value
+/// that is not a file URL.
 std::optional<QString> pathOf(CFTypeRef value);
 
 /// A QString, qint64 or bool, a QUrl of a local file, or the text of a UUID; invalid for a null
 /// reference and for any other type.
 QVariant valueOf(CFTypeRef value);
 
-/// What a dictionary has under a key, by `valueOf`. Invalid for what is no dictionary.
+/// The value under a key of a dictionary, by `valueOf`. Invalid if it is not a dictionary.
 QVariant valueIn(CFTypeRef dictionary, const QString &key);
 
-/// The same as it stands, not owned; null when it is not there.
+/// The same value unconverted, not owned; null when the key is missing.
 CFTypeRef referenceIn(CFTypeRef dictionary, const QString &key);

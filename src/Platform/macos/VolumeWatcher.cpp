@@ -4,9 +4,8 @@
 
 #include "Platform/macos/Observation.h"
 
-// The service's callbacks; each hands on which disk it is about and where that is mounted now. A
-// volume without media, such as one on the network, has no BSD name, and what is not mounted no
-// path.
+// The service's callbacks. Each passes on the disk's BSD name and its present mount point. A volume
+// without media, such as one on the network, has no BSD name, and an unmounted volume has no path.
 struct VolumeWatcher::Session {
   explicit Session(VolumeWatcher &owner)
       : watcher(owner), reference(DASessionCreate(kCFAllocatorDefault)) {
@@ -15,7 +14,7 @@ struct VolumeWatcher::Session {
     if (session == nullptr) return;
     DARegisterDiskAppearedCallback(session, nullptr, tell<&Watcher::noteAppeared>, this);
     DARegisterDiskDisappearedCallback(session, nullptr, tell<&Watcher::noteDisappeared>, this);
-    // The name first: a mounted volume's new name changes its path as well.
+    // The name first, because a new name of a mounted volume also changes its path.
     DARegisterDiskDescriptionChangedCallback(session, nullptr, kDADiskDescriptionWatchVolumeName,
                                              tellChange<&Watcher::noteName>, this);
     DARegisterDiskDescriptionChangedCallback(session, nullptr, kDADiskDescriptionWatchVolumePath,
@@ -62,7 +61,7 @@ VolumeWatcher::VolumeWatcher() {
   watch();
 }
 
-// A session ends with the service that it was opened with.
+// A session is valid only for the service that it was opened with, so each start opens a new one.
 void VolumeWatcher::watch() {
   const bool isAnew = _session != nullptr;
   _session.reset();
@@ -74,8 +73,7 @@ void VolumeWatcher::watch() {
 
 VolumeWatcher::~VolumeWatcher() = default;
 
-// Media that are there already are told of, all together, when the watching begins; what is mounted
-// then is no news.
+// At the start, the service announces all present media together. Their mounts are not news.
 void VolumeWatcher::noteAppeared(const QString &media, const QString &path) {
   _soon.start();
   if (path.isEmpty()) return;

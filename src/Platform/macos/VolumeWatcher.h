@@ -1,8 +1,8 @@
 #pragma once
 
-// Says what becomes of volumes and media, whoever caused it, from the descriptions that the disk
-// arbitration service keeps of them. Where a volume was mounted is remembered, because the
-// description does not have it any more when the volume has gone.
+// Announces changes of volumes and media, whatever their cause, from the descriptions of the disk
+// arbitration service. Mount points are stored, because the description of an unmounted volume has
+// none.
 
 #include <QHash>
 #include <QObject>
@@ -25,12 +25,12 @@ class VolumeWatcher final : public QObject {
   void unmounted(const QString &path);
   void renamed(const QString &path);
 
-  /// Anything else: media plugged or pulled, a volume renamed that is not mounted. Said once for
-  /// all that happens in one turn of the event loop, this watcher's beginning included.
+  /// Any other change: media plugged or pulled, or an unmounted volume renamed. Sent once for all
+  /// changes in one turn of the event loop, including the start of this watcher.
   void changed();
 
-  /// The service has been started anew: what the old one was asked will not be answered. `changed`
-  /// follows for whatever has become of volumes meanwhile.
+  /// The service has restarted: calls to the old one will not be answered. `changed` follows for
+  /// changes of volumes in the meantime.
   void serviceStarted();
 
  private:
@@ -44,8 +44,8 @@ class VolumeWatcher final : public QObject {
   void notePath(const QString &media, const QString &path);
 
   std::unique_ptr<Session> _session;
-  QHash<QString, QString> _paths;  // by BSD name, of what is mounted
-  bool _knowsMedia = false;        // whether those that were there at the beginning have been told
+  QHash<QString, QString> _paths;  // by BSD name, of mounted media
+  bool _knowsMedia = false;        // whether the initial media have been announced
   QTimer _soon;
   std::unique_ptr<Observation> _starts;
 };

@@ -1,10 +1,10 @@
 #pragma once
 
-// What the disk service says of a simulated machine's disks and partitions.
+// The disk service's descriptions of a simulated machine's disks and partitions.
 
 #include "Platform/simulated/Machine.h"
 
 DiskDescription describe(const SimulatedDisk &disk);
 
-/// Name and path of the volume are there only while it is mounted.
+/// Contains the volume's name and path only while it is mounted.
 DiskDescription describe(const SimulatedDisk &disk, const SimulatedPartition &partition);

@@ -1,6 +1,6 @@
 #pragma once
 
-// A machine as data: what a machine file says, and what a simulated platform changes as it runs.
+// A machine as data: read from a machine file, and changed by a running simulated platform.
 
 #include <QString>
 #include <QVector>
@@ -10,7 +10,7 @@
 #include "Platform/Dissenter.h"
 #include "Platform/Platform.h"
 
-/// What goes wrong at one request for a partition. "During" is when half of its delay is over.
+/// A failure at one request for a partition. "During" is after half of the partition's delay.
 enum class Mishap { DiskVanishesBefore, DiskVanishesDuring, DiskVanishesAfter, ServiceDies };
 
 struct SimulatedPartition {
@@ -19,16 +19,16 @@ struct SimulatedPartition {
   QString content;
   QString uuid;
   QString deviceNode;
-  // The volume on it; one without a kind cannot be mounted.
+  // The volume on the partition; without a kind it cannot be mounted.
   QString volumeKind;
   QString volumeName;
   QString volumeUUID;
-  /// The processes that are said to use it.
+  /// The processes that are reported to use the volume.
   QStringList usedBy;
   std::optional<quint32> volumeSubtype;
   /// Absent while it is not mounted.
   std::optional<QString> mountPoint;
-  // How the service answers: a refusal stands until it is taken away, a mishap happens once.
+  // The service's answers: a refusal stays until it is removed, a mishap happens once.
   std::optional<DissenterStatus> mountRefusal;
   std::optional<DissenterStatus> unmountRefusal;
   std::chrono::milliseconds delay{0};
@@ -47,7 +47,7 @@ struct SimulatedDisk {
   bool isInternal = false;
   std::optional<quint32> physicalBlockSize;
   std::optional<quint32> logicalBlockSize;
-  /// Its picture; absent for the one that fits what else is known of it.
+  /// The disk's picture; absent for the one that fits its other properties.
   std::optional<QVariantMap> icon;
   QVector<SimulatedPartition> partitions;
 
@@ -59,10 +59,10 @@ struct SimulatedDisk {
 
 struct Machine {
   QString productVersion = QStringLiteral("10.15");
-  /// Whether its user is root.
+  /// Whether the user is root.
   bool isPrivileged = true;
   DiskService::Presence presence = DiskService::Presence::Answering;
-  /// How long a service that is asked at the start takes to answer; absent if it never does.
+  /// How long a service that is "asking" at the start takes to answer; absent if it never does.
   std::optional<std::chrono::milliseconds> answersAfter;
   QVector<SimulatedDisk> disks;
 };

@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Outside of every namespace, as Qt asks.
+// `Q_INIT_RESOURCE` must be used outside of every namespace.
 static void haveMachines() {
   Q_INIT_RESOURCE(machines);
 }
@@ -27,7 +27,7 @@ constexpr int kLargestDelay = 3'600'000;
 constexpr int kLargestCount = 1 << 30;
 constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 
-/// One JSON object, its place in the file, and which of its keys were asked for. Throws
+/// One JSON object, its place in the file, and which of its keys were read. Throws
 /// MachineFileError.
 class Reader {
  public:
@@ -242,7 +242,7 @@ Machine readMachine(const QJsonValue &root) {
   return machine;
 }
 
-/// The parser's offset is behind the character that it could not use.
+/// The parser's offset is one past the character that it could not use.
 QString lineAndColumn(const QByteArray &json, qsizetype offset) {
   const qsizetype before = qBound(qsizetype{0}, offset - 1, json.size());
   const QByteArrayView text = QByteArrayView(json).first(before);

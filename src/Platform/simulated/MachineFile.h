@@ -11,7 +11,7 @@
 //
 // A mount point without a "/" is a folder in the machine's volumes folder. Further keys:
 //
-//   machine     "productVersion", "root" (whether its user is, as is the rule), "service",
+//   machine     "productVersion", "root" (whether the user is root; the default is true), "service",
 //               "answersAfter"
 //   disk        "uuid", "protocol", "device", "writable", "ejectable", "internal",
 //               "physicalBlockSize", "logicalBlockSize" (in bytes),
@@ -22,7 +22,7 @@
 //
 // How the service behaves:
 //
-//   "service"       "answering" (the rule), "asking" (nothing is known yet) or "absent".
+//   "service"       "answering" (the default), "asking" (nothing is known yet) or "absent".
 //   "answersAfter"  milliseconds until a service that is "asking" answers; without it, it never
 //                   does.
 //   "delay"         milliseconds from a request for the partition to its answer.
@@ -45,11 +45,10 @@ struct MachineFileError {
   QString text() const { return place + QStringLiteral(": ") + reason; }
 };
 
-/// The machine, or the first thing that is wrong with the text. A key that is not known is an
-/// error.
+/// The machine, or the first error in the text. An unknown key is an error.
 std::variant<Machine, MachineFileError> readMachineFile(const QByteArray &json);
 
-/// The same for what is in a file, or for a machine that ships, by its name ("laptop").
+/// The same for a file's content, or for a machine that ships, by its name ("laptop").
 std::variant<Machine, MachineFileError> loadMachineFile(const QString &name);
 
 /// The names of the machines that ship.

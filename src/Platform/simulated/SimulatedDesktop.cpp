@@ -31,6 +31,6 @@ void SimulatedDesktop::notify(const QString & /*title*/, const QString &text, Tr
 }
 
 void SimulatedDesktop::actElsewhere() {
-  const auto handler = _handler;  // it may end the monitor
+  const auto handler = _handler;  // a copy: the handler may destroy the monitor
   if (handler) handler();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// A desktop that nobody sees: it keeps what the program asks of it, and does what it is told to.
+// An invisible desktop: it records the program's calls and makes events on command.
 //
 //   SimulatedDesktop desktop;
 //   AppDelegate delegate(platform, desktop);
@@ -42,19 +42,19 @@ class SimulatedDesktop final : public Desktop {
   QString adviceWithoutTray() const override { return QStringLiteral("Get a tray."); }
   WindowAbilities windowAbilities() const override { return {true, true, false}; }
 
-  // What happens on it.
+  // Events on the desktop.
   void clickItem() { emit item->activated(); }
   void actElsewhere();
 
-  QPointer<SimulatedTrayItem> item;  // the last that was made
+  QPointer<SimulatedTrayItem> item;  // the last one made
   QVariant style;
-  bool hasTray = true;  // for the items that are made
+  bool hasTray = true;  // for later items
   bool startedAtLogin = false;
-  int monitors = 0;  // that live
+  int monitors = 0;  // that exist now
   QStringList notifications;
 
  private:
   class Monitor;
 
-  std::function<void()> _handler;  // of the monitor that was made last; empty when it has gone
+  std::function<void()> _handler;  // of the last monitor; empty after its destruction
 };

@@ -1,4 +1,4 @@
-// What happens to a simulated machine from outside.
+// Changes to a simulated machine from outside.
 
 #include <QDir>
 #include <algorithm>
@@ -124,9 +124,9 @@ bool SimulatedPlatform::isOurs(const QString &path) const {
   return path.startsWith(_root.path() + u'/');
 }
 
-/// The volume's name, then the name with 1, 2 and so on behind it.
+/// The volume's name, then the name followed by 1, 2 and so on.
 QString SimulatedPlatform::freeFolder(const SimulatedPartition &partition) const {
-  // A volume may be called what no folder can be.
+  // A volume's name may be impossible for a folder.
   constexpr int kLongestName = 60;
   QString name = partition.volumeName.isEmpty() ? partition.volumeUUID : partition.volumeName;
   name.truncate(kLongestName);

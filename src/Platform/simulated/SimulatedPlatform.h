@@ -1,15 +1,14 @@
 #pragma once
 
-// A machine that exists only as data, and behaves: it mounts and unmounts, refuses, is slow, loses
-// disks.
+// A simulated machine, which exists only as data: it mounts and unmounts, refuses, is slow, and
+// loses disks.
 //
 //   SimulatedPlatform platform(machine, std::make_unique<SystemClock>());
 //   platform.pull(2);  // disk2 is gone, and whatever was mounted from it
 //
-// Mount points are real folders below a temporary one, so that the program can look into them; only "/" is this
-// machine's own.
-// Everything that the machine does is announced from the event loop, in order, before the request
-// that caused it is answered.
+// Mount points are real folders below a temporary folder, so that the program can read them; only "/" is the
+// real machine's own. All changes are announced from the event loop, in order, before the request that caused
+// them is answered.
 
 #include <QCoreApplication>
 #include <QHash>
@@ -29,7 +28,7 @@
 /// Files below the machine's own folder, and the processes that its machine file names.
 class SimulatedVolumeFiles final : public DirectVolumeFiles {
  public:
-  /// The machine must outlive this.
+  /// `machine` must outlive this object.
   explicit SimulatedVolumeFiles(const Machine &machine) : _machine(machine) {}
 
   void findProcessesUsing(const QString &mountPoint,
@@ -45,13 +44,13 @@ class SimulatedPlatform final : public Platform,
                                 public RawDevices,
                                 public SystemPrograms {
  public:
-  /// `moment` is how long its run loop serves at a time where a real one takes 20 ms; a test, whose
-  /// clock is its own, has none to lose.
+  /// `moment` is how long the run loop serves events at a time; 20 ms on a real machine. A test has
+  /// its own clock and need not wait.
   SimulatedPlatform(Machine machine, std::unique_ptr<Clock> clock,
                     std::chrono::milliseconds moment = QtRunLoop::kMoment);
   ~SimulatedPlatform() override;
 
-  // The roles.
+  // The roles of the seam.
   DiskService &diskService() override { return *this; }
   MediaRegistry &mediaRegistry() override { return *this; }
   RawDevices &rawDevices() override { return *this; }
@@ -83,29 +82,28 @@ class SimulatedPlatform final : public Platform,
   std::optional<quint32> fileSystemSubtype(const QString &mountPoint) const override;
   std::optional<quint32> physicalBlockSize(const QString &bsdName) const override;
   std::optional<quint32> logicalBlockSize(const QString &bsdName) const override;
-  /// There are /bin/df, /sbin/mount and /sbin/umount, the last for forced unmounts only. Whatever
-  /// refuses a mount by the service refuses it by the program.
+  /// Runs /bin/df, /sbin/mount and /sbin/umount, the last for forced unmounts only. What makes the
+  /// service refuse a mount makes the program fail.
   ProgramRun run(const QString &path, const QStringList &arguments) override;
 
-  /// The machine as it is now, pulled disks not among its own.
+  /// The machine as it is now, without pulled disks.
   const Machine &machine() const { return _machine; }
-  /// Each as it was when it was pulled, with nothing of it mounted.
+  /// Each disk as it was when pulled, with its volumes unmounted.
   const QVector<SimulatedDisk> &pulledDisks() const { return _pulled; }
 
-  // What happens to the machine from outside. Names that are not there are ignored, and so is a
-  // disk whose unit is there already.
+  // Events from outside. Unknown names are ignored, and so is a disk whose unit exists already.
   void plug(const SimulatedDisk &disk);
-  /// Requests for it that are under way are answered with "not found".
+  /// Pending requests for the disk are answered with "not found".
   void pull(int unit);
-  /// Plugs what was pulled.
+  /// Plugs a pulled disk in again.
   void plugBack(int unit);
   void mountFromOutside(const QString &bsdName);
   void unmountFromOutside(const QString &bsdName);
   void rename(const QString &bsdName, const QString &volumeName);
-  /// When the service stops answering, requests under way are answered with "not ready".
+  /// When the service stops answering, pending requests are answered with "not ready".
   void setPresence(Presence presence);
 
-  // How later requests for a partition are answered; absent values are as if nothing had been set.
+  // The answers to later requests for a partition; absent values remove earlier settings.
   void setRefusals(const QString &bsdName, std::optional<DissenterStatus> mount,
                    std::optional<DissenterStatus> unmount);
   void setDelay(const QString &bsdName, std::chrono::milliseconds delay);
@@ -132,17 +130,17 @@ class SimulatedPlatform final : public Platform,
   std::optional<Place> placeOfVolume(const QString &mountPoint) const;
   /// Null for a partition.
   const SimulatedDisk *wholeDisk(const QString &bsdName) const;
-  /// After disks have come or gone.
+  /// Call it after disks have come or gone.
   void learnPlaces();
 
   std::optional<Dissenter> tryToMount(const QString &bsdName, const std::optional<QString> &path);
   std::optional<Dissenter> tryToUnmount(const QString &bsdName, UnmountOption option);
   /// Answers the request from the event loop once the partition's delay is over.
   void take(Request request);
-  /// Lets the mishap of a request for this disk happen, now or while the request waits.
+  /// Makes the mishap of a request for this disk happen, now or while the request is pending.
   void strike(Mishap mishap, int unit, std::chrono::milliseconds delay);
   void answer(int number);
-  /// Answers requests before their time is over.
+  /// Answers the requests that match before their delay is over.
   void endRequests(DissenterStatus status, const std::function<bool(const Request &)> &concerns);
 
   QByteArray diskFree() const;
@@ -152,14 +150,14 @@ class SimulatedPlatform final : public Platform,
   void putVolumes(SimulatedDisk &disk);
   void putAt(SimulatedPartition &partition, const QString &mountPoint);
   void takeAway(SimulatedPartition &partition);
-  /// Where the machine has it, whose paths lie below its own folder: all but "/". A mere name is one in the volumes
-  /// folder.
+  /// Where the machine has the mount point: below its own folder, except for "/". A name without "/" is a
+  /// folder in the volumes folder.
   QString placeFor(const QString &mountPoint) const;
-  /// Whether it lies in the machine's own folder.
+  /// Whether the path lies in the machine's own folder.
   bool isOurs(const QString &path) const;
   QString freeFolder(const SimulatedPartition &partition) const;
   void announce(const QString &name, const QString &path = {});
-  /// In a later turn of the event loop; in the order of the calls.
+  /// Calls `action` in a later turn of the event loop, in the order of the calls.
   void later(std::function<void()> action);
 
   Machine _machine;
@@ -176,5 +174,5 @@ class SimulatedPlatform final : public Platform,
   SimulatedDefaults _userDefaults;
   QtRunLoop _runLoop;
   NotificationCenter _workspace;
-  QObject _context;  // whatever is under way ends with it
+  QObject _context;  // pending timers end with it
 };

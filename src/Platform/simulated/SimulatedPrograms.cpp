@@ -1,4 +1,4 @@
-// The programs that a simulated machine has, which know the same disks as its service.
+// The programs of a simulated machine, which use the same disks as its service.
 
 #include <QFileInfo>
 

@@ -1,4 +1,4 @@
-// What the simulated service makes of requests.
+// How the simulated service handles requests.
 
 #include <QTimer>
 #include <utility>
@@ -39,7 +39,7 @@ std::optional<Dissenter> SimulatedPlatform::tryToUnmount(const QString &bsdName,
   if (disk == nullptr) return Dissenter{kDAReturnNotFound};
   if (partition == nullptr || !partition->mountPoint.has_value())
     return Dissenter{kDAReturnNotMounted};
-  // Force is for volumes in use; it does not help against any other reason.
+  // Force is for volumes in use; it does not override other refusals.
   const bool isOverruled =
       option == UnmountOption::Force && partition->unmountRefusal == kDAReturnBusy;
   if (partition->unmountRefusal.has_value() && !isOverruled) {
@@ -61,7 +61,7 @@ void SimulatedPlatform::take(Request request) {
   }
   const int number = ++_lastRequest;
   _requests.insert({number, std::move(request)});
-  // Behind what is waiting to be announced, however late the timer is.
+  // Queued after pending announcements, however late the timer fires.
   QTimer::singleShot(delay, &_context,
                      [this, number] { later([this, number] { answer(number); }); });
 }
@@ -77,7 +77,7 @@ void SimulatedPlatform::strike(Mishap mishap, int unit, std::chrono::millisecond
     case Mishap::ServiceDies:
       QTimer::singleShot(delay / 2, &_context, [this] { setPresence(Presence::Absent); });
       return;
-    case Mishap::DiskVanishesAfter:  // when it has been answered
+    case Mishap::DiskVanishesAfter:  // happens after the answer
       return;
   }
 }
@@ -88,7 +88,7 @@ void SimulatedPlatform::answer(int number) {
   const Request request = std::move(node.mapped());
   const std::optional<Dissenter> dissenter = request.attempt();
   if (request.mishap == Mishap::DiskVanishesAfter) {
-    // In a later turn: whoever asked sees first what the answer says.
+    // In a later turn, so that the caller sees the answer's result first.
     later([this, bsdName = request.bsdName] {
       if (const SimulatedDisk *disk = find(bsdName).disk) pull(disk->unit);
     });

@@ -1,7 +1,7 @@
 #pragma once
 
-// A user of a simulated machine: login items and settings that are gone with the program, so that
-// trying it out changes nothing of the real user's.
+// A user of a simulated machine: login items and settings in memory only, so that the demo changes
+// nothing of the real user's.
 
 #include <QVariantMap>
 
@@ -16,7 +16,7 @@ class SimulatedLoginItems final : public LoginItems {
     _items.removeIf([&](const Item &each) { return each.identifier == item.identifier; });
   }
 
-  /// Somebody's item; absent for one that cannot be resolved.
+  /// Another program's item; absent for one that cannot be resolved.
   void insert(const std::optional<QString> &location) {
     _items.append({QString::number(++_lastNumber), location});
   }
@@ -33,7 +33,7 @@ class SimulatedDefaults final : public UserDefaults {
   void setBool(const QString &key, bool value) override { set(key, value); }
   void synchronize() override {}
 
-  /// What somebody, or an older program, has stored.
+  /// Sets a value, as an older program may have stored it.
   void set(const QString &key, const QVariant &value) { _objects.insert(key, value); }
   void setCanBeRead(bool canBeRead) { _canBeRead = canBeRead; }
 

@@ -83,7 +83,7 @@ TEST(IconImage, ReadsEveryKindOfEntry) {
   }
 }
 
-TEST(IconImage, TakesTheLargestThatDecodes) {
+TEST(IconImage, TakesTheLargestPictureThatDecodes) {
   const QByteArray png = pngOf(256, Qt::green);
   const QByteArray file = icns({{"TOC ", "any"},
                                 {"icp4", pngOf(16, Qt::red)},
@@ -97,17 +97,17 @@ TEST(IconImage, TakesTheLargestThatDecodes) {
   expectColor(iconFromBytes(file.first(end - 1)), 16, Qt::red);
 }
 
-TEST(IconImage, APngIsReadForItsPixelsAlone) {
+TEST(IconImage, OnlyThePixelsOfAPngAreRead) {
   QImage image(32, 32, QImage::Format_ARGB32);
   image.fill(Qt::blue);
   image.setText("Comment", QString(4'000'000, 'x'));
   const QByteArray png = pngOf(image);
-  ASSERT_LT(png.size(), 10'000) << "a text that is far larger once it is unpacked";
+  ASSERT_LT(png.size(), 10'000) << "the text should be compressed";
   expectColor(iconFromBytes(png), 32, Qt::blue);
   EXPECT_TRUE(iconFromBytes(png).textKeys().isEmpty());
 }
 
-TEST(IconImage, WhatIsLargerThanItsPixelsIsRefusedBeforeItIsDecoded) {
+TEST(IconImage, TooCostlyPicturesAreRefusedBeforeDecoding) {
   EXPECT_TRUE(iconFromBytes(sample("unpacks-to-more.png")).isNull());
   EXPECT_TRUE(iconFromBytes(pngOf(1025, Qt::red)).isNull());
   EXPECT_TRUE(iconFromBytes(icns({{"ic07", pngOf(129, Qt::red)}})).isNull());

@@ -15,7 +15,7 @@ QByteArray xmlWithVersion(const QByteArray &version) {
 
 }  // namespace
 
-TEST(SystemVersion, IsReadFromTheFirstFileThatIsThere) {
+TEST(SystemVersion, IsReadFromTheFirstFileThatExists) {
   const QTemporaryDir root;
   const FileSystemFiles files(root.path());
   const QString folder = root.filePath("System/Library/CoreServices");

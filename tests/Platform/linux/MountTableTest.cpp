@@ -34,7 +34,7 @@ TEST(MountTable, LeavesOutMalformedLines) {
   EXPECT_EQ(lines[0].mountPoint, "/good");
 }
 
-TEST(MountTable, TellsWhereAVolumeIsMounted) {
+TEST(MountTable, FindsWhereAVolumeIsMounted) {
   const QTemporaryDir folder;
   const QString path = folder.filePath("mountinfo");
   writeFile(path,
@@ -54,11 +54,11 @@ TEST(MountTable, TellsWhereAVolumeIsMounted) {
   EXPECT_FALSE(table.refresh()) << "nothing has changed since";
   EXPECT_EQ(table.mountPointOf(makedev(8, 1)), "/first");
   EXPECT_EQ(table.mountPointOf(makedev(8, 2)), "/");
-  EXPECT_EQ(table.mountPointOf(makedev(8, 3)), std::nullopt) << "a folder of it is not the volume";
+  EXPECT_EQ(table.mountPointOf(makedev(8, 3)), std::nullopt) << "a folder is not the volume";
   EXPECT_EQ(table.mountPointOf(makedev(8, 6)), "/sub");
   EXPECT_EQ(table.mounts().size(), 6);
   EXPECT_EQ(table.deviceAt("/first"), makedev(8, 1));
-  EXPECT_EQ(table.deviceAt("/second"), makedev(8, 5)) << "the one on top";
-  EXPECT_EQ(table.deviceAt("/other"), 0U) << "what is on top there is no volume";
+  EXPECT_EQ(table.deviceAt("/second"), makedev(8, 5)) << "the topmost mount";
+  EXPECT_EQ(table.deviceAt("/other"), 0U) << "the topmost mount is not a volume";
   EXPECT_EQ(table.deviceAt("/none"), 0U);
 }

@@ -1,4 +1,4 @@
-// What the program writes for its user: the settings, the entry that starts it, the unit numbers.
+// The files that the program writes: the settings, the login item, the unit numbers.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ class OwnFilesTest : public testing::Test {
     return QDir(path({})).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
   }
 
-  /// Sets the box anew, and numbers the disks. Returns what the log says.
+  /// Sets the check box's setting, and numbers the disks. Returns the log's text.
   std::string writeAll(bool isOn) const {
     testing::internal::CaptureStderr();
     SettingsDefaults settings(path("settings.ini"));
@@ -40,7 +40,7 @@ class OwnFilesTest : public testing::Test {
     settings.synchronize();
     XdgLoginItems(path({}), "/bin/true").insertOwnItem();
     UnitNumbers units(BlockDevices(root.path()), UnitFile(path("units"), "boot"));
-    EXPECT_EQ(units.unitsOf({{"sda", 8}}), QList{0}) << "shared or not";
+    EXPECT_EQ(units.unitsOf({{"sda", 8}}), QList{0}) << "the number must not depend on the file";
     return testing::internal::GetCapturedStderr();
   }
 
@@ -49,7 +49,7 @@ class OwnFilesTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(OwnFilesTest, StayAsTheyAreWhereThereIsNoRoom) {
+TEST_F(OwnFilesTest, AreNotChangedWhenTheDiskIsFull) {
   const QList<std::pair<QString, QByteArray>> files = {
       {"settings.ini", "[General]\nRunAtload=false\n"},
       {"keldra.desktop", "[Desktop Entry]\nExec=/bin/true\nHidden=true\n"},
@@ -66,12 +66,12 @@ TEST_F(OwnFilesTest, StayAsTheyAreWhereThereIsNoRoom) {
   setrlimit(RLIMIT_FSIZE, &limit);
   signal(SIGXFSZ, former);
   EXPECT_TRUE(isRemoved);
-  EXPECT_EQ(names(), QStringList({"settings.ini", "units"})) << "no empty entry, nothing beside";
+  EXPECT_EQ(names(), QStringList({"settings.ini", "units"})) << "no empty or temporary file";
   EXPECT_EQ(content("settings.ini"), files[0].second);
   EXPECT_EQ(content("units"), files[2].second);
 }
 
-TEST_F(OwnFilesTest, AreNeverPutInThePlaceOfAnythingElse) {
+TEST_F(OwnFilesTest, NeverReplaceOtherKindsOfFiles) {
   const std::pair<const char *, std::function<bool(const QString &)>> kinds[] = {
       {"a pipe", [](const QString &name) { return mkfifo(name.toLocal8Bit(), 0600) == 0; }},
       {"a folder", [](const QString &name) { return QDir().mkdir(name); }},
@@ -84,7 +84,7 @@ TEST_F(OwnFilesTest, AreNeverPutInThePlaceOfAnythingElse) {
     for (const auto &[what, make] : kinds) {
       QDir().mkpath(path({}));
       ASSERT_TRUE(make(path(name)));
-      // A leftover of ours is cleaned, and a file of numbers that makes no sense is made anew.
+      // The program's own leftover is removed, and a corrupt file of numbers is replaced.
       const bool isOurs = QFileInfo(path(name)).isFile() && name != "settings.ini";
       const ino_t before = inodeOf(path(name));
       const std::string log = writeAll(false);
@@ -95,7 +95,7 @@ TEST_F(OwnFilesTest, AreNeverPutInThePlaceOfAnythingElse) {
   }
 }
 
-TEST_F(OwnFilesTest, AreWrittenWhereALinkLeadsAndOnlyWhenTheyChange) {
+TEST_F(OwnFilesTest, AreWrittenThroughALinkAndOnlyWhenTheyChange) {
   const QString real =
       writeFile(root.filePath("real"), "; mine\n[General]\nx=1\n[Other]\nRunAtload=7");
   QFile::setPermissions(real, QFile::ReadOwner | QFile::WriteOwner);
@@ -114,7 +114,7 @@ TEST_F(OwnFilesTest, AreWrittenWhereALinkLeadsAndOnlyWhenTheyChange) {
   EXPECT_EQ(SettingsDefaults(real).object("RunAtload"), "false");
 }
 
-TEST_F(OwnFilesTest, AreNotWaitedForLongWhileAnotherProgramWritesThem) {
+TEST_F(OwnFilesTest, DoNotBlockWhileAnotherProgramHoldsTheLock) {
   writeFile(path("units.new"), "");
   const int other = open(path("units.new").toLocal8Bit(), O_RDWR | O_CLOEXEC);
   ASSERT_EQ(flock(other, LOCK_EX), 0);

@@ -1,4 +1,4 @@
-// What never answers must not hold the program up, nor keep it from ending.
+// A volume that never answers must not block the program or its exit.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -46,21 +46,21 @@ class SilentVolume : public testing::Test {
 
 }  // namespace
 
-TEST_F(SilentVolume, IsWaitedForOnceAndItsLateAnswerIsKeptForTheRefreshThatItCauses) {
+TEST_F(SilentVolume, BlocksTheProgramOnceAndItsLateAnswerServesTheNextRefresh) {
   const QString file = folder.path() + "/.VolumeIcon.icns";
   writeFile(other.filePath(".VolumeIcon.icns"), icns({{"ic08", pngOf(256, Qt::magenta)}}));
   ASSERT_TRUE(QTest::qWaitFor([&] { return files.look(other.path()).access == Open; }));
-  QTest::qWait(100);  // for the news that there is no bus
+  QTest::qWait(100);  // lets the missing bus be announced first
   events.clear();
   EXPECT_LT(timeOf([&] { EXPECT_EQ(files.image(file), std::nullopt); }), 250);
-  // The next turn of the event loop has a patience of its own.
+  // The next turn of the event loop has its own 100 ms.
   ASSERT_TRUE(QTest::qWaitFor([&] { return volume.questions() > 0; }));
   const int asked = volume.questions();
-  EXPECT_LT(timeOf([&] { EXPECT_EQ(files.look(file).access, Unknown); }), 50) << "known by now";
+  EXPECT_LT(timeOf([&] { EXPECT_EQ(files.look(file).access, Unknown); }), 50) << "no second wait";
   EXPECT_TRUE(QTest::qWaitFor([&] {
     return files.image(other.filePath(".VolumeIcon.icns")).has_value();
-  })) << "another volume's";
-  EXPECT_EQ(volume.questions(), asked) << "one process waits there, and no other";
+  })) << "another volume's icon";
+  EXPECT_EQ(volume.questions(), asked) << "only one process may wait for the volume";
 
   LookAtPath late;
   workspace.addObserver(&observer, kNSWorkspaceDidMountNotification, [&](const Notification &) {
@@ -70,12 +70,12 @@ TEST_F(SilentVolume, IsWaitedForOnceAndItsLateAnswerIsKeptForTheRefreshThatItCau
   events.clear();
   volume.fail();
   ASSERT_TRUE(QTest::qWaitFor([&] { return events.contains("changed"); }));
-  EXPECT_EQ(late.access, Closed) << "it answers again";
+  EXPECT_EQ(late.access, Closed) << "the volume answers again";
   QTest::qWait(50);
   EXPECT_EQ(events.count("changed"), 1) << "the late answer was kept";
 }
 
-TEST_F(SilentVolume, MayHoldAProgramThatStartsAtLogin) {
+TEST_F(SilentVolume, DelaysTheListOfLoginItemsOnlyBriefly) {
   const QString name = qEnvironmentVariable("XDG_CONFIG_HOME") + "/autostart/other.desktop";
   writeFile(name, "[Desktop Entry]\nExec=" + folder.filePath("program").toUtf8() + "\n");
   QFile::link(folder.filePath("own.desktop"), name + ".desktop");
@@ -85,7 +85,7 @@ TEST_F(SilentVolume, MayHoldAProgramThatStartsAtLogin) {
   QFile::remove(name + ".desktop");
 }
 
-TEST_F(SilentVolume, KeepsNothingFromEndingAndLeavesNoProcess) {
+TEST_F(SilentVolume, DoesNotDelayTheExitAndLeavesNoProcess) {
   const auto isAlone = [] {
     siginfo_t child{};
     return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) != 0;
@@ -96,7 +96,7 @@ TEST_F(SilentVolume, KeepsNothingFromEndingAndLeavesNoProcess) {
     LinuxVolumeFiles(ending).look(folder.path() + "/x");
     EXPECT_TRUE(QTest::qWaitFor([&] { return volume.questions() > 0; }));
   }
-  EXPECT_FALSE(isAlone()) << "not even force ends what waits in the kernel";
+  EXPECT_FALSE(isAlone()) << "SIGKILL does not end a process that waits in the kernel";
   volume.fail();
   EXPECT_TRUE(QTest::qWaitFor(isAlone));
 }

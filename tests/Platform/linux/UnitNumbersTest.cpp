@@ -33,7 +33,7 @@ class UnitNumbersTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(UnitNumbersTest, PutDrivesFirstAndReadersLastWhateverIsAnnounced) {
+TEST_F(UnitNumbersTest, PutDrivesFirstAndReadersLastInAnyOrderOfAnnouncements) {
   const char *const kInOrder[] = {"mmcblk0", "nvme0n1", "sdb",   "sdaa",   "pmem0", "dm-0",
                                   "md127",   "nbd0",    "loop2", "loop10", "sr0"};
   QList<WholeDisk> disks;
@@ -48,8 +48,8 @@ TEST_F(UnitNumbersTest, PutDrivesFirstAndReadersLastWhateverIsAnnounced) {
   EXPECT_EQ(units.unitsOf({{"unknown to the kernel", makedev(8, 160)}}), QList{11});
 }
 
-TEST_F(UnitNumbersTest, AreKeptForAnotherUserInFilesOfThatUser) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root acts for others";
+TEST_F(UnitNumbersTest, AreWrittenByRootToFilesOwnedByTheUser) {
+  if (geteuid() != 0) GTEST_SKIP() << "needs root";
   const auto sda = attach("sda", 1, 1);
   const QString folder = QFileInfo(QFileInfo(file()).path()).path();
   ASSERT_EQ(chown(qPrintable(folder), 65534, 65534), 0);
@@ -58,20 +58,20 @@ TEST_F(UnitNumbersTest, AreKeptForAnotherUserInFilesOfThatUser) {
   EXPECT_EQ(geteuid(), 0U);
 }
 
-TEST_F(UnitNumbersTest, AreSharedAndNeverUsedTwice) {
+TEST_F(UnitNumbersTest, AreSharedByProgramsAndNeverReused) {
   const auto sda = attach("sda", 1, 1);
   const auto loop = attach("loop0", 2, 2);
   auto first = program();
   EXPECT_EQ(first.unitsOf({sda, loop}), (QList{0, 1}));
   const auto reused = attach("loop0", 2, 3);
   auto second = program();
-  EXPECT_EQ(second.unitsOf({reused}), QList{2}) << "another file behind it is another disk";
+  EXPECT_EQ(second.unitsOf({reused}), QList{2}) << "another file is another disk";
   const auto sdb = attach("sdb", 3, 4);
   EXPECT_EQ(first.unitsOf({sdb, reused, sda}), (QList{3, 2, 0}));
   EXPECT_EQ(second.unitsOf({sdb}), QList{3});
 }
 
-TEST_F(UnitNumbersTest, OfDisksThatAreGoneAreForgottenWhenThereAreTooMany) {
+TEST_F(UnitNumbersTest, OfRemovedDisksAreDroppedWhenThereAreTooMany) {
   const auto sda = attach("sda", 1, 1);
   QByteArrayList entries;
   for (int i = 0; i < 6000; ++i) {
@@ -82,10 +82,10 @@ TEST_F(UnitNumbersTest, OfDisksThatAreGoneAreForgottenWhenThereAreTooMany) {
   EXPECT_EQ(program().unitsOf({sda, other}), (QList{1, 6000}));
   EXPECT_LT(QFileInfo(file()).size(), 200);
   EXPECT_EQ(program().unitsOf({sda, other}), (QList{1, 6000}));
-  EXPECT_EQ(program().unitsOf({{"sdy", makedev(8, 176)}}), QList{6001}) << "never used twice";
+  EXPECT_EQ(program().unitsOf({{"sdy", makedev(8, 176)}}), QList{6001}) << "a number was reused";
 }
 
-TEST_F(UnitNumbersTest, StartAnewWithTheMachineAndWithAFileThatMakesNoSense) {
+TEST_F(UnitNumbersTest, RestartAfterARebootOrWithACorruptFile) {
   const auto sda = attach("sda", 1, 1);
   for (const char *text :
        {"[]", R"({"boot": "boot-0", "next": 9, "units": {"diskseq 1": 3}})",

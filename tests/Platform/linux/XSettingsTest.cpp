@@ -22,7 +22,7 @@ TEST(XSettingsTest, FindsTextsAmongOtherSettings) {
   EXPECT_EQ(textSettings(bigEndian).value("B"), "xy");
 }
 
-TEST(XSettingsTest, EndsAtTheFirstFlaw) {
+TEST(XSettingsTest, StopsAtTheFirstError) {
   const QByteArray whole = settings({kTheme, kTheme});
   for (qsizetype length = 0; length < whole.size(); ++length) {
     EXPECT_LE(textSettings(whole.left(length)).size(), 1) << length;

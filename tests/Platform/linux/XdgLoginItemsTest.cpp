@@ -20,7 +20,7 @@ class XdgLoginItemsTest : public testing::Test {
   }
   QByteArray entry(const QString &name) const { return contentOf(folder + '/' + name); }
 
-  /// What each entry starts, by its name.
+  /// The program that each entry starts, by entry name.
   static QMap<QString, std::optional<QString>> all(const XdgLoginItems &items) {
     QMap<QString, std::optional<QString>> all;
     const auto snapshot = *items.snapshot();
@@ -38,7 +38,7 @@ const QString kOwn = "keldra.desktop";
 
 }  // namespace
 
-TEST_F(XdgLoginItemsTest, ComeBackAsTheyWereWrittenWhateverTheProgramIsCalled) {
+TEST_F(XdgLoginItemsTest, AreReadBackForAnyProgramName) {
   for (const char *name :
        {"a blank ", "a\"quote`id`'s", "$HOME", "100%f", "\\\\ \\n \\s", "ünï\t", "a;b=c#d"}) {
     XdgLoginItems odd(folder, makeProgram(name));
@@ -55,7 +55,7 @@ TEST_F(XdgLoginItemsTest, ComeBackAsTheyWereWrittenWhateverTheProgramIsCalled) {
   EXPECT_TRUE(entry(kOwn).contains("\nTryExec=" + path + R"($b%c\\d)" + "\n"));
 }
 
-TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
+TEST_F(XdgLoginItemsTest, OfOtherProgramsAreNotChanged) {
   const QString other = makeProgram("other");
   writeEntry(kOwn, "Exec=" + other + "\n");
   writeEntry("keldra-1.desktop", "Exec=" + root.filePath("moved") + "\n");
@@ -75,13 +75,13 @@ TEST_F(XdgLoginItemsTest, OfOthersAreLeftAlone) {
   EXPECT_EQ(all(items), expected);
 }
 
-TEST_F(XdgLoginItemsTest, AreNotAddedWhileOneOfThemMayBeOurs) {
+TEST_F(XdgLoginItemsTest, AreNotAddedWhileAnUnknownEntryMayBeAnOwnItem) {
   writeEntry("late.desktop", "Exec=/another/way/to/it\n");
   XdgLoginItems(folder, program, [](const QString &) { return LookAtPath(); }).insertOwnItem();
   EXPECT_EQ(all(items).size(), 1);
 }
 
-TEST_F(XdgLoginItemsTest, ThatAreSwitchedOffStayUntilTheyAreSwitchedOnByThatKeyAlone) {
+TEST_F(XdgLoginItemsTest, ThatAreSwitchedOffAreKeptAndSwitchedOnAgainInPlace) {
   for (const QByteArray key : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"}) {
     const QByteArray rest = "Exec=" + program.toUtf8() + "\nName[de]=\xff mine\n";
     writeFile(folder + "/mine.desktop", "[Desktop Entry]\n" + key + rest);
@@ -91,7 +91,7 @@ TEST_F(XdgLoginItemsTest, ThatAreSwitchedOffStayUntilTheyAreSwitchedOnByThatKeyA
     EXPECT_FALSE(QFile::exists(folder + "/mine.desktop.new"));
     anew.remove(anew.snapshot()->first());
     EXPECT_EQ(entry("mine.desktop"), "[Desktop Entry]\n" + key + rest);
-    EXPECT_EQ(all(anew)["mine.desktop"], std::nullopt) << "it may be switched on";
+    EXPECT_EQ(all(anew)["mine.desktop"], std::nullopt) << "the item still counts as own";
     anew.insertOwnItem();
     EXPECT_EQ(entry("mine.desktop"), "[Desktop Entry]\n" + rest);
     EXPECT_EQ(all(anew).size(), 1);

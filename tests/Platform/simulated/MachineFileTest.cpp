@@ -16,7 +16,7 @@ std::string refusalOfPartition(const QByteArray &partition) {
 
 }  // namespace
 
-TEST(MachineFile, IsRefusedWithItsPlaceAndTheReason) {
+TEST(MachineFile, IsRefusedWithThePlaceAndTheReasonOfAnError) {
   EXPECT_EQ(refusalOf("{\n  \"disks\": [,]\n}"), "line 2, column 13: illegal value");
   EXPECT_EQ(refusalOf(R"({ "disk": [] })"), "disk: nothing by this name is known here");
   EXPECT_EQ(refusalOf(R"({ "disks": [ { "unit": 0 }, { "unit": 0 } ] })"),
@@ -36,7 +36,7 @@ TEST(MachineFile, IsRefusedWithItsPlaceAndTheReason) {
   EXPECT_EQ(refusalOfPartition(R"({ "slice": 1, "refuse": { "unmount": 49153 } })"), "accepted");
 }
 
-TEST(MachineFile, TheOnesThatShipAreAccepted) {
+TEST(MachineFile, ShippedFilesAreAccepted) {
   const QStringList names = shippedMachines();
   EXPECT_TRUE(names.contains("laptop"));
   for (const QString &name : names) {

@@ -32,7 +32,7 @@ class MachineWindowTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(MachineWindowTest, DoesToTheMachineWhatOthersDoAndChoosesHowRequestsEnd) {
+TEST_F(MachineWindowTest, ChangesTheMachineAndTheAnswersToRequests) {
   item("disk0s1")->treeWidget()->setCurrentItem(item("disk0s1"));
   press("Mount");
   EXPECT_EQ(machine.mountButton(0)->title(), "umount disk0s1");

@@ -9,7 +9,7 @@ namespace {
 
 class Simulated : public testing::Test {
  protected:
-  /// One partition whose requests wait a little, and one of another disk that is mounted.
+  /// One partition whose requests take some time, and a mounted one on another disk.
   void start(const QByteArray &more = {}) {
     machine.emplace(R"({ "disks": [
     { "unit": 0, "partitions": [ { "slice": 1, "delay": 20, "volume": { "kind": "msdos", "name": "EFI" } )" +
@@ -25,7 +25,7 @@ class Simulated : public testing::Test {
     });
   }
 
-  /// Everything that the machine says, answers among it, in its order.
+  /// All events of the machine, including its answers, in order.
   void expectHeard(const QStringList &expected) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return _heard.size() >= expected.size(); }));
     Program::settle();
@@ -41,7 +41,7 @@ class Simulated : public testing::Test {
 
 }  // namespace
 
-TEST_F(Simulated, ADiskVanishesBeforeInAndAfterARequest) {
+TEST_F(Simulated, ADiskVanishesBeforeDuringAndAfterARequest) {
   for (const QByteArray when : {"before", "during"}) {
     start(R"(, "mishap": "disk vanishes )" + when + "\"");
     mount();
@@ -55,7 +55,7 @@ TEST_F(Simulated, ADiskVanishesBeforeInAndAfterARequest) {
   EXPECT_EQ(machine->platform.mediaNames(), QStringList({"disk1", "disk1s1"}));
 }
 
-TEST_F(Simulated, AServiceThatDiesEndsAllItsRequestsAndComesBackWhenTold) {
+TEST_F(Simulated, AServiceThatDiesFailsItsRequestsAndCanBeRestarted) {
   start(R"(, "mishap": "service dies")");
   mount();
   mount();
@@ -66,7 +66,7 @@ TEST_F(Simulated, AServiceThatDiesEndsAllItsRequestsAndComesBackWhenTold) {
   expectHeard({"changed", "+" + machine->folder("EFI"), "ok"});
 }
 
-TEST_F(Simulated, ARequestIsNotServedByWhatCameBackWhileItWaited) {
+TEST_F(Simulated, ARequestForAPulledDiskFailsEvenIfTheDiskIsBack) {
   start();
   mount();
   machine->platform.pull(0);
@@ -74,7 +74,7 @@ TEST_F(Simulated, ARequestIsNotServedByWhatCameBackWhileItWaited) {
   expectHeard({"changed", "f8da0006", "changed"});
 }
 
-TEST_F(Simulated, VolumesOfAnyNameGetAFolderThatIsTheirOwn) {
+TEST_F(Simulated, VolumesOfAnyNameGetAFolderOfTheirOwn) {
   start();
   for (const QString &name :
        {QString(".."), QString(10000, 'x'), QString("a/b"), QString(QChar(0)), QString("Data")}) {

@@ -1,5 +1,5 @@
-// The platform's constants, each from its line in the list: a text that no program should depend
-// on unless it is the service's own key.
+// The platform's constants, made from the list in Interface.def. Only the service's own keys have
+// their real texts; no program should depend on the others.
 
 #include <CoreServices/CoreServices.h>
 #include <IOKit/IOKitLib.h>

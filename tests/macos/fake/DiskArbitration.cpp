@@ -1,4 +1,4 @@
-// Sessions with the disk service, and what it tells them and is asked.
+// Sessions with the disk service, their callbacks and their requests.
 
 #include <QCoreApplication>
 #include <QThread>
@@ -17,8 +17,8 @@ struct Disk : Object {
   }
 
   Session *session;
-  QByteArray bytes;                     // of its name
-  std::optional<QVariantMap> snapshot;  // what a callback's disk was when the call was queued
+  QByteArray bytes;                     // of the name
+  std::optional<QVariantMap> snapshot;  // the disk's description when a callback was queued
 };
 
 Session *sessionOf(const void *reference) {
@@ -35,13 +35,13 @@ void tell(const Listener &listener, const QString &disk) {
   });
 }
 
-/// Calls with the disk, perhaps something else, and the context.
+/// Adds a callback whose arguments are the disk, perhaps another value, and the context.
 template <class Callback, class... More>
 void add(DASessionRef reference, const QString &topic, Callback callback, void *context,
          More... more) {
   Session *const session = sessionOf(reference);
   const auto call = [=](const QString &name, const QVariantMap &description) {
-    auto *const disk = new Disk(session, name);  // gone after the call
+    auto *const disk = new Disk(session, name);  // deleted after the call
     disk->snapshot = description;
     callback(as<DADiskRef>(disk), more..., context);
     release(disk);
@@ -56,10 +56,10 @@ void complete(DADiskRef disk, DAReturn status, DADiskMountCallback callback, voi
   release(dissenter);
 }
 
-/// Takes a request, to be carried out and answered when the run loop of its session runs.
+/// Accepts a request. It is carried out and answered when the run loop of its session runs.
 void take(DADiskRef reference, const std::function<DAReturn(const QString &)> &attempt,
           DADiskMountCallback callback, void *context) {
-  // Its password prompt would stop the program's windows.
+  // On the main thread, the request's password prompt would block the program's windows.
   expect(QThread::currentThread() != qApp->thread());
   const QString name = diskOf(reference)->value.toString();
   const bool isKnown = world().disks.contains(name);

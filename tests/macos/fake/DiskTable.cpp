@@ -1,4 +1,4 @@
-// The disks of the machine, and what happens to them.
+// The machine's disks, and changes to them.
 
 #include "macos/fake/World.h"
 

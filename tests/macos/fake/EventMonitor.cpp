@@ -1,4 +1,4 @@
-// NSEvent's global monitor, by the messages of the Objective-C runtime, with a block for a handler.
+// NSEvent's global monitor, through messages of the Objective-C runtime, with a block as handler.
 
 #include <Block.h>
 #include <objc/runtime.h>
@@ -16,7 +16,7 @@ struct Block {
   int flags;
   int reserved;
   void (*invoke)(const Block *self, id event);
-  const unsigned long *descriptor;  // something reserved, and the size
+  const unsigned long *descriptor;  // a reserved value, and the size
 };
 
 }  // namespace
@@ -28,7 +28,7 @@ void Machine::sendEvent(Event event) {
   block->invoke(block, nullptr);
 }
 
-// A selector and a class are their own names.
+// A selector and a class are represented by their names.
 
 SEL sel_registerName(const char *name) {
   return reinterpret_cast<SEL>(const_cast<char *>(name));
@@ -38,8 +38,8 @@ Class objc_getClass(const char *name) {
   return reinterpret_cast<Class>(const_cast<char *>(name));
 }
 
-// Callers give it the type of the method that they mean; all arguments of those known here are
-// passed alike.
+// Callers cast this to the type of the method. All methods known here pass their arguments in the
+// same way.
 extern "C" void *answerMessage(const char *, const char *selector, std::uintptr_t first,
                                const void *second) __asm__("objc_msgSend");
 
@@ -51,7 +51,7 @@ void *answerMessage(const char *, const char *selector, std::uintptr_t first, co
   }
   const auto *const block = static_cast<const Block *>(second);
   expect(block->isa == _NSConcreteStackBlock && block->flags == 0);
-  // Its bytes are copied: it is not on its maker's stack any more when it is called.
+  // The bytes are copied, because the block's stack frame is gone when the handler is called.
   world().handler = {static_cast<const char *>(second),
                      static_cast<qsizetype>(block->descriptor[1])};
   world().watchedEvents = first;

@@ -6,7 +6,7 @@
 
 using namespace fake;
 
-// The kernel's objects go by numbers: 1 is the iterator, the others are the disks behind it.
+// The kernel's objects are numbers: 1 is the iterator, the others are the disks after it.
 
 CFMutableDictionaryRef IOServiceMatching(const char *name) {
   return as<CFMutableDictionaryRef>(objectOf(QVariantMap{{name, true}}));
@@ -32,7 +32,7 @@ kern_return_t IORegistryEntryCreateCFProperties(io_registry_entry_t number,
                                                 CFMutableDictionaryRef *properties, CFAllocatorRef,
                                                 IOOptionBits) {
   const QString name = world().disks.keys().at(number - 2);
-  if (name.startsWith('/')) return -1;  // no medium
+  if (name.startsWith('/')) return -1;  // a volume without media
   *properties = as<CFMutableDictionaryRef>(objectOf(QVariantMap{{kIOBSDNameKey, name}}));
   return KERN_SUCCESS;
 }

@@ -10,7 +10,7 @@ Machine *currentMachine = nullptr;
 
 std::set<Object *> &living() {
   static auto *const all =
-      new std::set<Object *>;  // constants outlive whatever ends with the process
+      new std::set<Object *>;  // constants outlive everything that the exit destroys
   return *all;
 }
 
@@ -32,7 +32,7 @@ Object *fake::makeConstant(const char *type, const QVariant &value) {
 }
 
 void fake::release(Object *object) {
-  if (std::string_view(object->type) == "CFBoolean") return;  // one of two, which are not counted
+  if (std::string_view(object->type) == "CFBoolean") return;  // two objects, which are not counted
   if (object->isConstant) report(std::string("A constant was released: ") + object->type);
   if (--object->references == 0) delete object;
 }

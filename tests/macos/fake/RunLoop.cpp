@@ -43,15 +43,15 @@ dispatch_queue_global_t dispatch_get_global_queue(intptr_t, uintptr_t) {
   return nullptr;
 }
 
-// On a thread of its own, and waited for, so that only one is ever at work.
+// Runs on a separate thread and waits for it, so that only one thread works at a time.
 void dispatch_async_f(dispatch_queue_t, void *context, dispatch_function_t work) {
   post(nullptr, [=] { std::thread(work, context).join(); });
 }
 
 namespace {
 
-/// Whether it was stopped before the time was over. Qt's timers and posted events run in a nested
-/// run of the loop as well, but no user's input.
+/// Whether the run was stopped before its time was over. A nested run of the loop also serves Qt's
+/// timers and posted events, but no user input.
 bool runFor(std::chrono::milliseconds time) {
   auto &runs = world().runs;
   runs.push_back(false);
@@ -80,7 +80,7 @@ CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode, CFTimeInterval seconds, Boo
 
 void CFRunLoopStop(CFRunLoopRef) {
   auto &runs = world().runs;
-  if (QThread::currentThread()->loopLevel() > 0) return;  // that of a dialog has taken it
+  if (QThread::currentThread()->loopLevel() > 0) return;  // consumed by a dialog's loop
   if (runs.empty()) return report("CFRunLoopStop outside of all waits ends the program's own run");
   runs.back() = true;
 }

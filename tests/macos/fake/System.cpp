@@ -1,5 +1,5 @@
-// The program's bundle and executable, the bundles of drivers, the list of login items, the user's
-// defaults and the notifications that tell of their change, and what is known of a mounted volume.
+// The program's bundle and executable, driver bundles, login items, user defaults and their
+// notifications, and the facts about a mounted volume.
 
 #include <CoreServices/CoreServices.h>
 #include <IOKit/kext/KextManager.h>

@@ -1,4 +1,4 @@
-// Texts, numbers, collections and their like.
+// Texts, numbers, collections and similar values.
 
 #include <QUuid>
 #include <cstring>
@@ -15,7 +15,7 @@ const std::map<int, const char *> kTypes = {{QMetaType::QString, "CFString"},
                                             {QMetaType::QUuid, "CFUUID"},
                                             {QMetaType::QVariantMap, "CFDictionary"}};
 
-/// As many bytes as there are, and the NUL behind them.
+/// Copies all bytes and a final NUL.
 Boolean copyWithNul(const QByteArray &text, void *buffer, CFIndex size) {
   if (size <= text.size()) return false;
   std::memcpy(buffer, text.constData(), static_cast<std::size_t>(text.size()) + 1);

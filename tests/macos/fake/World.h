@@ -1,7 +1,6 @@
 #pragma once
 
-// What the parts of the fake share: the objects that it hands out by reference, and what it keeps
-// for a machine.
+// Shared by the parts of the fake: the reference-counted objects, and the state of a machine.
 
 #include <DiskArbitration/DiskArbitration.h>
 
@@ -14,7 +13,7 @@
 
 namespace fake {
 
-/// Whatever has a count of references. A new one has one, which is the caller's.
+/// An object with a reference count. A new one has the count 1, which the caller owns.
 struct Object {
   explicit Object(const char *typeName, const QVariant &standsFor = {});
   virtual ~Object();
@@ -28,28 +27,28 @@ struct Object {
   bool isConstant = false;
 };
 
-/// Of the type that the value has on the platform.
+/// An object of the type that the value has on the platform.
 Object *objectOf(const QVariant &value);
-/// For as long as the process lives; nobody may release it.
+/// Lives until the process exits; must not be released.
 Object *makeConstant(const char *type, const QVariant &value = {});
 void release(Object *object);
 
 /// Fails the test.
 void report(const std::string &fault);
-/// Fails it unless the function was asked for what the fake knows of it.
+/// Fails the test unless the call is one that the fake supports.
 void expect(bool isKnown, const char *function = __builtin_FUNCTION());
 
-/// The object that the function was given. Ends the program when it is none, is gone or is of
-/// another type than the function takes, as a Mac would.
+/// The object that the function got. Aborts the program when it is null, destroyed or of another
+/// type than the function takes, as a Mac would.
 Object *checked(const void *reference, const char *type = nullptr,
                 const char *function = __builtin_FUNCTION());
-/// What it stands for.
+/// The value of the object.
 QVariant valueOf(const void *reference, const char *type,
                  const char *function = __builtin_FUNCTION());
 QString textOf(const void *string, const char *function = __builtin_FUNCTION());
 QString pathOf(const void *url, const char *function = __builtin_FUNCTION());
 
-/// The same object as the interface's own type of reference.
+/// The object as a reference of the interface's type.
 template <class Reference>
 Reference as(Object *object) {
   return reinterpret_cast<Reference>(object);
@@ -58,39 +57,39 @@ Reference as(Object *object) {
 struct Session : Object {
   Session() : Object("DASession") {}
   ~Session() override;
-  QStringList modes;  // of the run loop, in which it is served
+  QStringList modes;  // the run loop's modes in which it is served
 };
 
-/// What is called back by the disk service, or by a notification centre, which is no session's.
+/// A callback of the disk service, or of a notification centre, which has no session.
 struct Listener {
   Session *session;
-  QString topic;  // "appeared", "disappeared", the key that is watched, a notification's name
+  QString topic;  // "appeared", "disappeared", the watched key, a notification's name
   const void *context;
   std::function<void(const QString &disk, const QVariantMap &description)> call;
 };
 
 struct World {
-  QObject context;  // what Qt's event loop is to do for this machine
-  // For a session; for none when it does not matter how the run loop runs.
+  QObject context;  // owns what Qt's event loop must do for this machine
+  // By session; null for a call in any mode of the run loop.
   std::deque<std::pair<Session *, std::function<void()>>> deliveries;
-  std::vector<bool> runs;  // for each run of the run loop under way, whether it has been stopped
+  std::vector<bool> runs;  // for each active run of the run loop, whether it has been stopped
   QMap<QString, QVariantMap> disks;  // descriptions, by BSD name or path of a volume without media
   std::vector<Listener> listeners;
-  quint32 nextMedium = 0;  // of the disks, for the registry's iterator
+  quint32 nextMedium = 0;  // an index of the disks, for the registry's iterator
   int kernelReferences = 0;
-  std::uintptr_t watchedEvents = 0;  // the mask of the event monitor, and the block that it calls
+  std::uintptr_t watchedEvents = 0;  // the event monitor's mask, and the block that it calls
   QByteArray handler;
 };
 
-/// The current machine's. Ends the program where there is none.
+/// The current machine's world. Aborts the program where there is none.
 World &world();
 
 void post(Session *session, std::function<void()> deliver);
 
-/// Queues the calls of who listens to one of the topics, with the disk as it is now.
+/// Queues the callbacks for these topics, with the disk's present description.
 void announce(const QStringList &topics, const QString &disk = {});
 
-/// The service's library makes them when the first session is opened.
+/// The service's library creates the keys when the first session is opened.
 void setWatchKeys(bool areThere);
 
 }  // namespace fake

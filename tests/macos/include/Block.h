@@ -1,6 +1,6 @@
 #pragma once
 
-// The classes that a block says it is of.
+// The classes of blocks.
 
 extern "C" {
 extern void *_NSConcreteStackBlock[32];

@@ -1,7 +1,6 @@
 #pragma once
 
-// The platform's interface as C++ declarations, with the types and the linkage that they have on a
-// Mac.
+// The platform's interface as C++ declarations, with the types and linkage of a Mac.
 
 #include <cstdint>
 

@@ -30,7 +30,7 @@ ColorScheme::Preference preferenceOf(const QVariant &value) {
   return isKnown ? number : ColorScheme::Preference::None;
 }
 
-// Red, green and blue from 0 to 1; anything else is the absence of a colour.
+// Red, green and blue from 0 to 1; other values mean that there is no colour.
 std::optional<QColor> colorOf(const QVariant &value) {
   if (!value.canConvert<QDBusArgument>()) return std::nullopt;
   const auto argument = value.value<QDBusArgument>();
@@ -79,7 +79,7 @@ void ColorScheme::askFor(const QString &key) {
   });
 }
 
-// The whole message: Qt 6.4 refuses to connect a slot that takes the value by itself.
+// Takes the whole message, because Qt 6.4 cannot connect a slot that takes the value itself.
 void ColorScheme::settingChanged(const QDBusMessage &change) {
   const QVariantList arguments = change.arguments();
   if (arguments.size() == 3 && arguments[0] == kGroup) take(arguments[1].toString(), arguments[2]);

@@ -1,6 +1,6 @@
 #pragma once
 
-// Whether the person likes windows light or dark, and in which accent colour, as the desktop's portal tells it.
+// The user's preference for light or dark windows, and the accent colour, as the desktop's portal reports them.
 
 #include <QColor>
 #include <QDBusMessage>
@@ -16,13 +16,13 @@ class ColorScheme final : public QObject {
  public:
   enum class Preference : uint { None = 0, Dark = 1, Light = 2 };
 
-  /// What the portal says becomes known later. `bus` must outlive this.
+  /// The portal's answer comes later. `bus` must outlive this object.
   explicit ColorScheme(MessageBus &bus);
 
-  /// `None` also while there is no portal that has answered.
+  /// `None` also until a portal has answered.
   Preference preference() const { return _preference; }
 
-  /// Absent where the portal knows of none.
+  /// Absent where the portal has none.
   std::optional<QColor> accent() const { return _accent; }
 
  signals:

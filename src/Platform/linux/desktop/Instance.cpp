@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// The bus itself answers at once; another program may be busy.
+// The bus itself answers at once, but the other instance may be busy.
 constexpr auto kPatienceWithBus = 500ms;
 constexpr auto kPatienceWithProgram = 1500ms;
 
@@ -42,19 +42,19 @@ bool Instance::claim() {
   bool isOnly = true;
   if (_bus.waitForConnection(kPatienceWithBus)) {
     exportObject();
-    // The other one may be ending just now, and leave us the name.
+    // The other instance may be exiting and release the name.
     isOnly = !isTaken() || (!activateOther() && !isTaken());
   }
   connect(&_bus, &MessageBus::connected, this, &Instance::claimAgain);
   return isOnly;
 }
 
-// Before the name is ours, so that nobody finds it without the object.
+// Before requesting the name, so that no caller finds the name without the object.
 void Instance::exportObject() {
   _bus.connection().registerObject(_path, this, QDBusConnection::ExportAdaptors);
 }
 
-// One that was started meanwhile keeps the name; ours is it when that one ends.
+// An instance that was started meanwhile keeps the name; this one gets it when that instance exits.
 void Instance::claimAgain() {
   exportObject();
   _bus.connection().asyncCall(requestForName(true));
@@ -73,7 +73,7 @@ bool Instance::isTaken() const {
   return false;
 }
 
-// Whether there is another one; one that does not answer is there all the same.
+// Whether another instance exists; one that does not answer counts.
 bool Instance::activateOther() const {
   auto activate = QDBusMessage::createMethodCall(_serviceName, _path, kApplication, u"Activate"_s);
   activate.setAutoStartService(false);
@@ -104,9 +104,9 @@ void Instance::tellOfSilentOther() const {
 
 void InstanceInterface::Activate(const QVariantMap &platformData) {
   const QString token = platformData.value(u"activation-token"_s).toString();
-  // With a variable that is too long no other program could be started.
+  // A variable that is too long would prevent the start of child processes.
   constexpr qsizetype kLongest = 1000;
-  // The window that is shown next finds it there.
+  // Qt reads the variable when it shows the next window.
   if (!token.isEmpty() && token.size() <= kLongest) qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
   emit _instance.activated();
 }

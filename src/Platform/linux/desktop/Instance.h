@@ -1,8 +1,8 @@
 #pragma once
 
-// One instance of the program in a session: the one that owns its name on the session bus. The
-// others ask that one to show itself, in the way in which desktops start programs
-// (org.freedesktop.Application).
+// Keeps one instance of the program in a session: the owner of the program's name on the session
+// bus. Other instances ask the owner to show itself, through the interface with which desktops
+// start programs (org.freedesktop.Application).
 
 #include <QDBusAbstractAdaptor>
 #include <QObject>
@@ -14,13 +14,12 @@ class Instance final : public QObject {
   Q_OBJECT
 
  public:
-  /// `bus` must outlive this.
+  /// `bus` must outlive this object.
   Instance(MessageBus &bus, const QString &serviceName);
 
-  /// False when another instance has the name; that one has been asked to show itself, and the
-  /// person is told if it does not answer. True where there is no bus, or none that answers. Once
-  /// it is true, the name is claimed again whenever the bus has come back. Blocks for three seconds
-  /// at most.
+  /// False when another instance has the name; that one has been asked to show itself, and the user
+  /// is told if it does not answer. True where there is no bus, or none that answers. After true,
+  /// the name is claimed again whenever the bus restarts. Blocks for three seconds at most.
   bool claim();
 
  signals:

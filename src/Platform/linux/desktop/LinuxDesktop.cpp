@@ -20,11 +20,11 @@
 
 namespace {
 
-// A tray's item, whose last click's place may be all that is known of it where a panel hides itself.
+// The size of a tray item. When the panel hides itself, only the place of the last click is known.
 constexpr int kAnItem = 24;
 
-/// Qt, too, has questions for the session's bus, and would wait for one that is frozen: then it
-/// finds none, for as long as the program runs.
+/// Qt calls the session bus too, and would block on a frozen one. While this object exists, Qt
+/// finds no frozen bus; the program then runs without Qt's connection to it.
 class HiddenBus {
  public:
   HiddenBus() {
@@ -32,7 +32,7 @@ class HiddenBus {
   }
   ~HiddenBus() {
     if (qgetenv(kVariable) == _address) return;
-    QDBusConnection::sessionBus();  // from now on it is what it is now
+    QDBusConnection::sessionBus();  // keeps the present result for good
     _address.isNull() ? qunsetenv(kVariable) : qputenv(kVariable, _address);
   }
   HiddenBus(const HiddenBus &) = delete;
@@ -48,7 +48,7 @@ class LinuxDesktop final : public Desktop {
   explicit LinuxDesktop(const QString &serviceName) : _instance(_bus, serviceName), _scheme(_bus) {
     connect(&_instance, &Instance::activated, this, &Desktop::reopened);
     connect(&_scheme, &ColorScheme::changed, this, [this] {
-      // The palette that was put over the desktop's own would be taken for it.
+      // Otherwise the palette that the program has set would count as the desktop's own.
       if (_scheme.preference() == ColorScheme::Preference::None) QApplication::setPalette({});
       emit interfaceThemeChanged();
     });
@@ -76,7 +76,7 @@ class LinuxDesktop final : public Desktop {
 
   QVariant interfaceStyle() const override {
     using enum ColorScheme::Preference;
-    // Without a word from the person, what the desktop gives to its programs.
+    // Without a preference of the user, the theme that the desktop gives to programs decides.
     const bool dark = _scheme.preference() == None ? hasDarkTheme() : _scheme.preference() == Dark;
     return dark ? QVariant(QStringLiteral("Dark")) : QVariant();
   }
@@ -150,8 +150,8 @@ class LinuxDesktop final : public Desktop {
 
 std::unique_ptr<QApplication> makeApplication(int &argc, char **argv) {
   constexpr const char *kPlatform = "QT_QPA_PLATFORM";
-  // Natively on Wayland, no program may place a window, keep it above others or out of their lists, and a popover
-  // needs all of that. Where the X server does not answer, the next in the list serves.
+  // On native Wayland, no program may place a window, keep it above others or out of task bars, and a popover
+  // needs all of that. Where the X server does not answer, Qt uses the next platform in the list.
   const bool isOurChoice =
       qEnvironmentVariableIsEmpty(kPlatform) && !qEnvironmentVariableIsEmpty("DISPLAY");
   if (isOurChoice) qputenv(kPlatform, "xcb;wayland");

@@ -33,7 +33,7 @@ void LinuxTrayItem::follow(bool notifierHostIsPresent) {
 
 void LinuxTrayItem::useTrayOfX11() {
   _item.reset();
-  // Qt's own item looks for a panel once, finds none, and keeps to the X11 protocol.
+  // Qt's own item checks once for a panel, finds none, and then uses the X11 protocol.
   if (QGuiApplication::platformName() == QLatin1String("xcb")) use(std::make_unique<QtTrayItem>());
 }
 

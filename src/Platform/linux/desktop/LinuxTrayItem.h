@@ -1,8 +1,8 @@
 #pragma once
 
-// The item in whichever kind of tray the desktop has at the moment: a panel that speaks the
-// StatusNotifierItem protocol, or else a tray of the X11 protocol. Panels come late, are killed and
-// change; the item follows, and waits where there is none.
+// The item in the present kind of tray: a panel with the StatusNotifierItem protocol, or else a
+// tray with the X11 protocol. Panels start late, are killed and change; the item follows them, and
+// waits while there is none.
 
 #include <QIcon>
 #include <QMenu>
@@ -15,11 +15,11 @@ class NotifierItem;
 
 class LinuxTrayItem final : public TrayItem {
  public:
-  /// `sessionBus` must outlive this.
+  /// `sessionBus` must outlive this object.
   explicit LinuxTrayItem(MessageBus &sessionBus);
   ~LinuxTrayItem() override;
 
-  /// Shows a picture of the backend's own, for panels of any colour, in its place.
+  /// Ignores the image and shows the backend's own picture, which suits panels of any colour.
   void setImage(const QIcon &image) override;
   void setHighlighted(bool highlighted) override;
   void setMenu(QMenu *menu) override;
@@ -35,7 +35,7 @@ class LinuxTrayItem final : public TrayItem {
 
   MessageBus &_bus;
   NotifierHosts _hosts;
-  /// Null where there is no tray, and until the desktop has told what it has.
+  /// Null where there is no tray, and until the desktop has reported one.
   std::unique_ptr<TrayItem> _item;
   NotifierItem *_notifier = nullptr;  // _item, when it is one
   bool _hasImage = false;

@@ -39,9 +39,9 @@ void NotifierHosts::ask() {
 
 void NotifierHosts::takeAnswer(QDBusPendingCallWatcher *call) {
   call->deleteLater();
-  if (call != _asking || !_bus.connection().isConnected()) return;  // things have changed since
+  if (call != _asking || !_bus.connection().isConnected()) return;  // an outdated answer
   const QDBusPendingReply<QDBusVariant> reply = *call;
-  // A panel that is frozen is there all the same, and Qt would wait for it to find that out.
+  // A frozen panel still exists. Asked again, because Qt would block to find out.
   if (reply.error().type() == QDBusError::NoReply) return ask();
   emit answered(!reply.isError() && reply.value().variant().toBool());
 }

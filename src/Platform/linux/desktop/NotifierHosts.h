@@ -1,6 +1,6 @@
 #pragma once
 
-// Whether the desktop has a panel that speaks the StatusNotifierItem protocol, now and from now on.
+// Whether the desktop has a panel that speaks the StatusNotifierItem protocol, now and later.
 
 #include <QDBusServiceWatcher>
 #include <QObject>
@@ -13,11 +13,11 @@ class NotifierHosts : public QObject {
   Q_OBJECT
 
  public:
-  /// Answers later. `bus` must outlive this.
+  /// The answer comes later. `bus` must outlive this object.
   explicit NotifierHosts(MessageBus &bus);
 
  signals:
-  /// What is so now; also when it is so again, because another panel has taken over.
+  /// Sent for each answer, even an unchanged one, because another panel may have taken over.
   void answered(bool present);
 
  private slots:

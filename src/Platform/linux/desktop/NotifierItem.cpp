@@ -69,7 +69,7 @@ void NotifierItem::activate(const QPoint &place) {
   if (const auto clicked = placeOfClick(place, knownPointer(), screenAreas())) {
     _place = pointRect(*clicked);
   }
-  // Later: a row action may be under way in what it opens, and the panel waits for our answer.
+  // Queued, because the slot may block in a row action while the panel waits for the reply.
   QMetaObject::invokeMethod(this, &TrayItem::activated, Qt::QueuedConnection);
 }
 

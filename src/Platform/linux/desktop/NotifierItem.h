@@ -1,7 +1,7 @@
 #pragma once
 
-// An item of our own for panels that speak the StatusNotifierItem protocol. Qt's item there knows
-// neither the place of a click nor a panel that comes later.
+// The program's own item for panels with the StatusNotifierItem protocol. Qt's item reports no
+// place of a click and ignores a panel that starts later.
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
@@ -19,28 +19,29 @@ class NotifierItem final : public TrayItem {
   Q_OBJECT
 
  public:
-  /// One at a time on a connection.
+  /// At most one on a connection.
   explicit NotifierItem(const QDBusConnection &bus);
   ~NotifierItem() override;
 
-  /// Makes the panels know it; again whenever they have been restarted. Does not wait.
+  /// Registers the item with the panels; call it again when they have been restarted. Does not
+  /// block.
   void announce();
 
   void setImage(const QIcon &image) override;
   void setHighlighted(bool highlighted) override;
   void setMenu(QMenu *menu) override;
-  /// The place of the last click whose place was known.
+  /// The last known place of a click.
   QRect place() const override { return _place; }
-  bool isShown() const override { return true; }  // it is not made without a panel
+  bool isShown() const override { return true; }  // exists only with a panel
   QString kind() const override { return QStringLiteral("StatusNotifierItem"); }
   /// Panels have no messages of their own.
   void showMessage(const QString &, const QString &) override {}
 
-  // What a panel calls; the coordinates are the window system's.
+  // Called by a panel, with the window system's coordinates.
   void activate(const QPoint &place);
   void popUpMenu(const QPoint &place);
 
-  // What a panel asks for.
+  // Read by a panel.
   NotifierPixmaps pixmaps() const;
   QString iconName() const;
   QString iconFolder() const { return _iconFolder; }
@@ -52,12 +53,12 @@ class NotifierItem final : public TrayItem {
   class NotifierInterface *_exported;
   QIcon _image;
   bool _highlighted = false;
-  QString _iconFolder;  // empty when pixmaps must do
+  QString _iconFolder;  // empty where panels get pixmaps instead
   QPointer<QMenu> _menu;
   QRect _place;
 };
 
-/// What a panel sees of it.
+/// The interface for panels.
 class NotifierInterface final : public QDBusAbstractAdaptor {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
@@ -95,7 +96,7 @@ class NotifierInterface final : public QDBusAbstractAdaptor {
  public slots:
   void Activate(int x, int y) { _item.activate({x, y}); }
   void SecondaryActivate(int x, int y) { _item.activate({x, y}); }
-  /// Of panels that do not show menus themselves.
+  /// For panels that do not show menus themselves.
   void ContextMenu(int x, int y) { _item.popUpMenu({x, y}); }
   // Not ProvideXdgActivationToken: GNOME shows a busy pointer until some window has spent the token.
   void Scroll(int /*delta*/, const QString & /*orientation*/) {}

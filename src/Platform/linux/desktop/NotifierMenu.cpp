@@ -57,7 +57,7 @@ MenuEntry NotifierMenu::entry(int id) const {
   if (action == nullptr) return {id, {}};
   if (action->isSeparator()) return {id, {{u"type"_s, u"separator"_s}}};
   QString label = action->text();
-  // Each side has a sign of its own that underlines what follows it.
+  // Qt marks an underlined character with "&", the protocol with "_".
   label.replace(u"&&"_s, u"&"_s).replace(u"_"_s, u"__"_s);
   return {id, {{u"label"_s, label}, {u"enabled"_s, action->isEnabled()}}};
 }
@@ -84,7 +84,7 @@ MenuEntries NotifierMenu::GetGroupProperties(const QList<int> &ids, const QStrin
   if (ids.isEmpty()) return entries();
   MenuEntries wanted = entries();
   wanted.prepend(entry(0));
-  // Each once, however often it is asked for: a bus throws out whoever sends too much.
+  // Each entry once, however often a panel asks: the bus disconnects a program that sends too much.
   wanted.removeIf([&ids](const MenuEntry &each) { return !ids.contains(each.id); });
   return wanted;
 }
@@ -97,7 +97,7 @@ void NotifierMenu::Event(int id, const QString &kind, const QDBusVariant & /*dat
                          uint /*timestamp*/) {
   QAction *action = this->action(id);
   if (action == nullptr || kind != "clicked"_L1) return;
-  // Later: the action may end the program, and the panel waits for our answer.
+  // Queued, because the action may quit the program while the panel waits for the reply.
   QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
 }
 
@@ -107,7 +107,7 @@ QList<int> NotifierMenu::EventGroup(const MenuEvents &events) {
 }
 
 bool NotifierMenu::AboutToShow(int /*id*/) {
-  return false;  // nothing has to be fetched anew
+  return false;  // panels need not fetch the menu again
 }
 
 QList<int> NotifierMenu::AboutToShowGroup(const QList<int> & /*ids*/, QList<int> &errors) {

@@ -21,7 +21,7 @@ class NotifierMenu final : public QDBusAbstractAdaptor {
  public:
   explicit NotifierMenu(QObject *object) : QDBusAbstractAdaptor(object) {}
 
-  /// Not owned. Panels are told of its changes, some together.
+  /// Not owned. Panels are notified of changes, of several at a time.
   void setMenu(QMenu *menu);
   bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -45,7 +45,7 @@ class NotifierMenu final : public QDBusAbstractAdaptor {
 
  private:
   int idOf(const QAction *action) const { return _ids.value(action); }
-  /// Null where there is none of this number.
+  /// Null if no action has this number.
   QAction *action(int id) const;
   MenuEntry entry(int id) const;
   MenuEntries entries() const;
@@ -53,7 +53,7 @@ class NotifierMenu final : public QDBusAbstractAdaptor {
   void tellPanels();
 
   QPointer<QMenu> _menu;
-  // Never given to another action: a panel may name one that has just gone.
+  // Never reused for another action: a panel may ask for an action that has just been removed.
   QHash<const QAction *, int> _ids;
   int _lastId = 0;
   uint _revision = 1;

@@ -50,8 +50,7 @@ Q_DECLARE_METATYPE(MenuEntry)
 Q_DECLARE_METATYPE(MenuLayout)
 Q_DECLARE_METATYPE(MenuEvent)
 
-/// Makes them known to QtDBus; needed before an object that uses them is
-/// exported.
+/// Registers the types with QtDBus. Call it before exporting an object that uses them.
 void registerNotifierTypes();
 
 /// The picture in each of its sizes.

@@ -7,7 +7,7 @@
 
 namespace {
 
-// As far from the pointer as the corner of the largest item may be.
+// The greatest distance from the pointer to a corner of the largest item.
 constexpr int kNear = 64;
 
 bool isOnScreen(const QPoint &place, const QList<ScreenArea> &screens) {
@@ -15,9 +15,9 @@ bool isOnScreen(const QPoint &place, const QList<ScreenArea> &screens) {
                      [&](const ScreenArea &screen) { return screen.whole.contains(place); });
 }
 
-// Screens keep their origins whatever their scale.
+// A screen's origin is the same in native and in scaled units.
 QList<QPoint> readings(const QPoint &told, const QList<ScreenArea> &screens) {
-  if (told.isNull()) return {};  // a panel that does not know
+  if (told.isNull()) return {};  // the panel does not know the place
   QList<QPoint> all;
   for (const ScreenArea &screen : screens) {
     const QPoint origin = screen.whole.topLeft();

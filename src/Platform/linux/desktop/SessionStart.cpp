@@ -18,11 +18,11 @@ bool isUnitOfAutostartEntry() {
   return contentOf(u"/proc/self/cgroup"_s).contains("@autostart.service");
 }
 
-// Session managers end the address at which they listen with their process number.
+// A session manager's address ends in its process number.
 bool isChildOfSessionManager() {
   const QString address = qEnvironmentVariable("SESSION_MANAGER");
   if (address.section(u'/', -1).toInt() == getppid()) return true;
-  // LXQt's has no such address.
+  // LXQt's session manager has no such address.
   return contentOf(u"/proc/%1/comm"_s.arg(getppid())).trimmed() == "lxqt-session";
 }
 

@@ -8,20 +8,20 @@
 
 using namespace Qt::StringLiterals;
 
-// A linker leaves out what a static library's resources are registered by, unless it is asked for.
+// A linker drops the registration of a static library's resources unless it is called.
 static void registerIcons() {
   Q_INIT_RESOURCE(icons);
 }
 
 namespace {
 
-// Of the usual panels, and of those at 125, 150 and 200 percent.
+// The sizes of usual panels, also at 125, 150 and 200 percent.
 constexpr int kSizes[] = {16, 18, 20, 22, 24, 28, 30, 32, 36, 44, 48, 64};
 
 const QColor kLight(0xf4, 0xf4, 0xf4);
 const QColor kDark(0x24, 0x24, 0x26);
 
-// All edges lie on pixels.
+// All edges are aligned to pixels.
 void paintDisk(QPainter &painter, int side) {
   const int line = qMax(1, qRound(side / 18.0));
   const int left = qRound(side / 16.0);
@@ -50,7 +50,7 @@ QPixmap picture(int side) {
   return result;
 }
 
-// MATE's show a symbolic picture in whatever colour it has; the protocol has no word for which panels do.
+// MATE's panels do not colour symbolic pictures, and the protocol does not say which panels do.
 bool panelsColorPictures() {
   const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
   return desktops.contains("GNOME"_L1) || desktops.contains("KDE"_L1);

@@ -1,17 +1,17 @@
 #pragma once
 
-// The item's picture for panels. Nobody tells a program what colour a panel has: its own style says nothing of that.
-// Panels that colour pictures themselves are given names; the others, a picture that can be read on any ground.
+// The item's picture for panels. A program cannot find out a panel's colour. Panels that colour pictures
+// themselves get names; the others get a picture that is visible on any background.
 
 #include <QIcon>
 #include <QString>
 
-/// Light with dark lines, sharp in each of the sizes that panels have.
+/// Light with dark lines, sharp in all usual sizes of panels.
 QIcon statusPicture();
 
-/// A name for panels that look pictures up by name and colour them.
+/// A name for panels that look up pictures by name and colour them.
 QString statusPictureName(bool highlighted);
 
-/// The folder where panels find these names; the files are written there, in the session's runtime folder. Empty
-/// where that cannot be, and on desktops whose panels do not colour what they find.
+/// The folder with the files for these names, written to the session's runtime folder. Empty where that fails,
+/// and on desktops whose panels do not colour pictures.
 QString statusPictureFolder();

@@ -11,10 +11,11 @@ namespace {
 
 constexpr uint32_t kLeftButton = 1;
 constexpr uint32_t kRightButton = 3;
-// Within which a panel tells of a click after the button has been let go.
+// A panel reports a click within this time after the release of the button.
 constexpr std::chrono::milliseconds kPanelsTime(250);
 
-// The opcode of the extension's events; 0 where the server lacks it or has an older one.
+// The opcode of the extension's events; 0 where the server lacks the extension or has an old
+// version.
 quint8 opcodeOf(xcb_connection_t *server) {
   const xcb_query_extension_reply_t *extension = xcb_get_extension_data(server, &xcb_input_id);
   if (!extension || !extension->present) return 0;
@@ -68,7 +69,7 @@ XInputMonitor::XInputMonitor(Connection server, quint8 opcode, std::function<voi
   _patience.setInterval(kPanelsTime);
   connect(&_patience, &QTimer::timeout, this, &XInputMonitor::callHandler);
   connect(&_readable, &QSocketNotifier::activated, this, &XInputMonitor::readEvents);
-  // What came with the replies above is read already and wakes nobody.
+  // Events that came with the replies above are buffered already and do not activate the notifier.
   QMetaObject::invokeMethod(this, &XInputMonitor::readEvents, Qt::QueuedConnection);
 }
 
@@ -93,7 +94,7 @@ bool XInputMonitor::goesElsewhere(const void *event) {
       (generic->response_type & 0x7f) == XCB_GE_GENERIC && generic->extension == _opcode;
   if (!isInput) return false;
   if (generic->event_type == XCB_INPUT_RAW_KEY_RELEASE) return !QGuiApplication::focusWindow();
-  // Presses and releases are told alike.
+  // Presses and releases have the same structure.
   const uint32_t button = static_cast<const xcb_input_raw_button_press_event_t *>(event)->detail;
   if (button != kLeftButton && button != kRightButton) return false;
   if (generic->event_type == XCB_INPUT_RAW_BUTTON_PRESS) return pressGoesElsewhere();

@@ -1,10 +1,10 @@
 #pragma once
 
-// Watches presses and key releases that go to other programs on an X server, which shows them to
-// whoever asks (the XInput extension's raw events).
+// Watches presses and key releases that go to other programs on an X server, which reports them to
+// any client (the XInput extension's raw events).
 //
-// Nobody tells where on a panel our item is. A press on a panel waits, therefore: if the panel says that
-// it was on the item, it was ours.
+// No protocol tells where on a panel the program's item is. So a press on a panel is held back until its
+// release: the press was on the item if the panel then reports a click.
 
 #include <QSocketNotifier>
 #include <QTimer>
@@ -20,11 +20,11 @@ class XInputMonitor final : public QObject, public EventMonitor {
   /// What a press is on.
   enum class On { Ours, Panel, Other };
 
-  /// Null where there is no X server that can do it. `pressedOn` is asked at the time of a press.
+  /// Null where the X server does not support this. `pressedOn` is called at the time of a press.
   static std::unique_ptr<XInputMonitor> make(std::function<void()> handler,
                                              std::function<On()> pressedOn);
 
-  /// The press that waits was on our item.
+  /// Reports that the press held back was on the item.
   void itemClicked();
 
  private:
@@ -41,7 +41,7 @@ class XInputMonitor final : public QObject, public EventMonitor {
   bool pressGoesElsewhere();
   void released();
 
-  // A connection of its own, so that closing it ends everything that was asked for.
+  // A separate connection: closing it ends all event selections.
   Connection _server;
   quint8 _opcode;
   QSocketNotifier _readable;

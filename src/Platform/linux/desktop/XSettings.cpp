@@ -24,7 +24,7 @@ xcb_window_t rootOf(xcb_connection_t *server) {
   return xcb_setup_roots_iterator(xcb_get_setup(server)).data->root;
 }
 
-// Reads numbers and texts one after the other; what lies behind the end makes it bad, and all is nothing from there on.
+// Reads numbers and texts in sequence. Reading past the end sets `isGood` to false; all later values are empty.
 class Reader {
  public:
   explicit Reader(const QByteArray &bytes) : _bytes(bytes), _isBigEndian(bytes.startsWith('\1')) {}
@@ -39,7 +39,7 @@ class Reader {
                         : qFromLittleEndian<Number>(bytes.constData());
   }
 
-  // Texts are filled up to a multiple of four.
+  // Texts are padded to a multiple of four bytes.
   QByteArray text(qsizetype length) {
     const QByteArray text = take(length);
     take((4 - length % 4) % 4);
@@ -81,14 +81,14 @@ QHash<QByteArray, QString> textSettings(const QByteArray &property) {
       const QByteArray value = reader.text(reader.number<quint32>());
       if (reader.isGood()) settings[name] = QString::fromUtf8(value);
     } else {
-      break;  // nobody knows how long it is
+      break;  // the length of an unknown kind is unknown
     }
   }
   return settings;
 }
 
 bool isDarkThemeName(const QString &name) {
-  // "Arc-Darker" has light windows.
+  // Not "darker": "Arc-Darker" has light windows.
   static const QRegularExpression dark(u"(dark|black|inverse|night)(?!er)"_s,
                                        QRegularExpression::CaseInsensitiveOption);
   return dark.match(name).hasMatch();
@@ -100,7 +100,7 @@ void XSettings::Disconnect::operator()(xcb_connection_t *server) const {
 
 XSettings::XSettings() : _server(xcb_connect(nullptr, nullptr)) {
   if (xcb_connection_has_error(_server.get())) return;
-  // A new owner of the settings tells the root window.
+  // A new owner of the settings announces itself through the root window.
   listenTo(_server.get(), rootOf(_server.get()));
   _readable = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(_server.get()),
                                                 QSocketNotifier::Read);

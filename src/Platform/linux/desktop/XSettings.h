@@ -1,6 +1,6 @@
 #pragma once
 
-// The desktop's settings as an X server hands them on, which is where Xfce, MATE and others say which theme is in use.
+// The desktop's settings on an X server (XSETTINGS), where Xfce, MATE and others publish the theme.
 
 #include <QByteArray>
 #include <QHash>
@@ -11,20 +11,20 @@
 
 struct xcb_connection_t;
 
-/// The text settings of the property _XSETTINGS_SETTINGS, by their names; those up to the first flaw.
+/// The text settings in the property _XSETTINGS_SETTINGS by name, up to the first error.
 QHash<QByteArray, QString> textSettings(const QByteArray &property);
 
-/// Whether a theme of that name is a dark one, as far as names tell.
+/// Whether a theme's name suggests a dark theme.
 bool isDarkThemeName(const QString &name);
 
 class XSettings final : public QObject {
   Q_OBJECT
 
  public:
-  /// Waits for the X server's answers. Without one, there are no settings.
+  /// Blocks for the X server's answers. Without a server, there are no settings.
   XSettings();
 
-  /// "Net/ThemeName"; empty while nobody tells.
+  /// "Net/ThemeName"; empty while there is none.
   QString themeName() const { return _themeName; }
 
  signals:
@@ -38,7 +38,7 @@ class XSettings final : public QObject {
   void readEvents();
   void readSettings();
 
-  // A connection of its own, which nobody else reads.
+  // A separate connection, so that no other code reads its events.
   std::unique_ptr<xcb_connection_t, Disconnect> _server;
   std::unique_ptr<QSocketNotifier> _readable;
   QString _themeName;

@@ -1,6 +1,6 @@
 #pragma once
 
-// An owner for what the X server's library hands out in C's way, and the question that everybody has.
+// Ownership of what xcb returns as C pointers, and the look-up of atoms.
 
 #include <xcb/xcb.h>
 
@@ -15,7 +15,7 @@ struct FreeReply {
 template <typename Reply>
 using XcbReply = std::unique_ptr<Reply, FreeReply>;
 
-/// The server's number for a name; XCB_ATOM_NONE if it does not answer.
+/// The server's number for a name; XCB_ATOM_NONE if the server does not answer.
 inline xcb_atom_t atom(xcb_connection_t *server, std::string_view name) {
   const auto cookie =
       xcb_intern_atom(server, false, static_cast<uint16_t>(name.size()), name.data());

@@ -10,8 +10,7 @@
 
 namespace {
 
-// Null on every other window system. The offscreen one has the interface, but no connection behind
-// it.
+// Null on every other window system. The offscreen platform has the interface, but no connection.
 xcb_connection_t *connection() {
   const auto *application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   return application ? application->connection() : nullptr;
@@ -29,7 +28,7 @@ bool hasCompositor(xcb_connection_t *server) {
 WindowAbilities windowAbilitiesNow() {
   if (xcb_connection_t *server = connection()) {
     const bool isComposited = hasCompositor(server);
-    // sway puts a window that floats in the middle of the screen, whatever place it asks for.
+    // sway puts a floating window in the middle of the screen, whatever place it asks for.
     return {isComposited, qEnvironmentVariableIsEmpty("SWAYSOCK"), isComposited};
   }
   return {true, !QGuiApplication::platformName().startsWith(QLatin1String("wayland")), false};

@@ -1,7 +1,7 @@
 #pragma once
 
-// What windows can do on the X server, if that is the window system, and what it must be told
-// beyond what Qt tells it.
+// What windows can do on the X server, if that is the window system, and the hints that Qt does not
+// set.
 
 #include "Platform/Desktop.h"
 

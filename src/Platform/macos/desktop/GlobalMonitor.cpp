@@ -11,7 +11,7 @@ constexpr unsigned long long kPressesAndReleasedKeys = 1U << 1U | 1U << 3U | 1U 
 
 class GlobalMonitor;
 
-/// An Objective-C block as its compilers lay it out. The system copies it byte by byte.
+/// An Objective-C block in the layout of the compilers. The system copies it byte by byte.
 struct Block {
   struct Descriptor {
     unsigned long reserved;
@@ -51,7 +51,7 @@ class GlobalMonitor final : public EventMonitor {
   bool isWatching() const { return _token != nullptr; }
 
  private:
-  // A copy of the handler, because it may destroy the monitor and what it captured.
+  // A copy, because the handler may destroy the monitor and what it captured.
   static void handle(Block *block, id) {
     const std::function<void()> call = block->monitor->_handler;
     call();

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The menu bar's shade follows the wallpaper behind it, so the bar colours the picture.
+/// The menu bar, whose shade follows the wallpaper, colours the picture itself.
 class MacTrayItem final : public QtTrayItem {
  public:
   MacTrayItem() : QtTrayItem(MenuBy::Us) {}
@@ -37,7 +37,7 @@ class MacDesktop final : public Desktop {
     return std::make_unique<ActivationMonitor>(handler);
   }
 
-  // Of all applications, where this one has none of its own.
+  // The global value, unless this application has its own.
   QVariant interfaceStyle() const override {
     return MacUserDefaults().object(QStringLiteral("AppleInterfaceStyle"));
   }
@@ -51,7 +51,7 @@ class MacDesktop final : public Desktop {
     item.showMessage(title, text);
   }
 
-  // The Finder, the Dock and `open` start an application only once.
+  // The Finder, the Dock and `open` start only one instance of an application.
   bool becomeOnlyInstance() override { return true; }
 
  private:
@@ -60,7 +60,7 @@ class MacDesktop final : public Desktop {
     emit static_cast<MacDesktop *>(observer)->interfaceThemeChanged();
   }
 
-  // An application that is opened once more is told that it has become active although it was.
+  // Opening a running application again sends it "active" although it is active already.
   void noteApplicationState(Qt::ApplicationState state) {
     const bool isActive = state == Qt::ApplicationActive;
     if (isActive && _isActive) emit reopened();

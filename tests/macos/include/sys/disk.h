@@ -1,6 +1,6 @@
 #pragma once
 
-// The requests by which this system's own devices tell the same, so that the backend can ask one.
+// This system's equivalent requests, so that the backend can query a device of this system.
 
 #include <linux/fs.h>
 

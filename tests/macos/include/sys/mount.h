@@ -1,6 +1,6 @@
 #pragma once
 
-// The part of it that tells one FAT from another.
+// The part that distinguishes the FAT variants.
 
 #include <cstdint>
 
@@ -11,7 +11,7 @@ struct statfs {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wshadow"
 
-// Not this system's own function of that name, which knows nothing of this record.
+// Under another linker name, because this system's own statfs has another record.
 extern "C" int statfs(const char *path, struct statfs *result) __asm__("keldra_fake_statfs");
 
 #pragma GCC diagnostic pop
