@@ -43,7 +43,17 @@ def settle():
         shell("Main.overview.hide(); Main.messageTray._banner && Main.messageTray._banner.destroy(); 1")
         time.sleep(2)
     screen.move_pointer(*WALLPAPER)
-    screen.wait_for_rest()
+    wait_for_quiet(5)
+
+
+def wait_for_quiet(seconds):
+    """Until the screen has stayed the same for so long: panels load their parts late, and move the others."""
+    last, since, deadline = None, time.monotonic(), time.monotonic() + 40
+    while time.monotonic() < min(since + seconds, deadline):
+        now = pixels()
+        if now != last:
+            last, since = now, time.monotonic()
+        time.sleep(0.5)
 
 
 def start():
