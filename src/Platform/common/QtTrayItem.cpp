@@ -42,7 +42,9 @@ void QtTrayItem::setMenu(QMenu *menu) {
 }
 
 void QtTrayItem::noteClick(QSystemTrayIcon::ActivationReason reason) {
-  if (reason == QSystemTrayIcon::Trigger) emit activated();
+  // The second click of a double click is told as such, and in place of an ordinary one.
+  const bool isClick = reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick;
+  if (isClick) emit activated();
   const bool asksForMenu = reason == QSystemTrayIcon::Context && _menuBy == MenuBy::Us;
   if (asksForMenu && _menu) _menu->popup(QCursor::pos());
 }

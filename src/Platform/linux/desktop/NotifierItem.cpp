@@ -1,8 +1,9 @@
 #include "Platform/linux/desktop/NotifierItem.h"
 
 #include <QCoreApplication>
-#include <QDBusMessage>
 #include <QGuiApplication>
+#include <QTimer>
+#include <chrono>
 #include <utility>
 
 #include "Platform/common/QtTrayItem.h"
@@ -15,6 +16,9 @@ namespace {
 
 const QString kItemPath = u"/StatusNotifierItem"_s;
 const QString kMenuPath = u"/MenuBar"_s;
+
+// Longer than GNOME on X11 takes to hear of its own launch: a refusal before that leaves the pointer busy.
+constexpr auto kRefusalDelay = std::chrono::milliseconds(100);
 
 QRect pointRect(const QPoint &place) {
   return {place, QSize(1, 1)};
@@ -87,6 +91,14 @@ QString NotifierInterface::title() const {
 
 QDBusObjectPath NotifierInterface::menu() const {
   return QDBusObjectPath(kMenuPath);
+}
+
+void NotifierInterface::ProvideXdgActivationToken(const QString & /*token*/,
+                                                  const QDBusMessage &message) {
+  message.setDelayedReply(true);
+  QTimer::singleShot(kRefusalDelay, this, [this, message] {
+    _item.bus().send(message.createErrorReply(QDBusError::UnknownMethod, u"no window needs it"_s));
+  });
 }
 
 #include "moc_NotifierItem.cpp"

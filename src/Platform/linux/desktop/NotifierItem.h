@@ -5,6 +5,7 @@
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QIcon>
 
@@ -45,6 +46,7 @@ class NotifierItem final : public TrayItem {
   NotifierPixmaps pixmaps() const;
   QString iconName() const;
   QString iconFolder() const { return _iconFolder; }
+  const QDBusConnection &bus() const { return _bus; }
 
  private:
   QDBusConnection _bus;
@@ -98,7 +100,8 @@ class NotifierInterface final : public QDBusAbstractAdaptor {
   void SecondaryActivate(int x, int y) { _item.activate({x, y}); }
   /// For panels that do not show menus themselves.
   void ContextMenu(int x, int y) { _item.popUpMenu({x, y}); }
-  // Not ProvideXdgActivationToken: GNOME shows a busy pointer until some window has spent the token.
+  /// Refused: GNOME shows a busy pointer until a window has used the token.
+  void ProvideXdgActivationToken(const QString &token, const QDBusMessage &message);
   void Scroll(int /*delta*/, const QString & /*orientation*/) {}
 
  signals:
