@@ -43,6 +43,12 @@ def work_area():
     return left, top, width, height
 
 
+def screen_at(x):
+    """Two screens stand side by side."""
+    width = WIDTH // int(os.environ.get("SCREENS", 1))
+    return x // width * width, width
+
+
 def click(x, y, button=1, times=1):
     screen.click((x, y, 0, 0), button, times)
 
@@ -145,9 +151,10 @@ class Visit:
         if not place:
             return
         area = work_area()
-        tell("in work area", place[0] >= area[0] and place[1] >= area[1] - 1
-             and place[0] + place[2] <= area[0] + area[2] and place[1] + place[3] <= area[1] + area[3] + 1,
-             f"{place} in {area}")
+        left, width = screen_at(self.middle[0])
+        tell("in work area", place[0] >= max(area[0], left) and place[1] >= area[1] - 1
+             and place[0] + place[2] <= min(area[0] + area[2], left + width)
+             and place[1] + place[3] <= area[1] + area[3] + 1, f"{place} in {area}")
         hangs = self.middle[1] < HEIGHT / 2
         row = place[1] + 5 if hangs else place[1] + place[3] - 6
         line = pixels((place[0], row, place[2], 1))
