@@ -168,6 +168,15 @@ class Keldra:
     def stays(self, is_open, seconds=0.8):
         return not wait_for(lambda: bool(self.window()) != is_open, seconds)
 
+    def watch(self, seconds):
+        """Whether it was open, again and again for so long."""
+        end = time.monotonic() + seconds
+        seen = []
+        while time.monotonic() < end:
+            seen.append(bool(self.window()))
+            time.sleep(0.05)
+        return seen
+
     def close(self):
         if self.window():
             screen.press("Escape")

@@ -38,15 +38,10 @@ def tell(cell, good, seen=""):
 
 
 def work_area():
+    """Of the first screen, where the items are."""
     told = re.findall(r"\d+", run("xprop", "-root", "_NET_WORKAREA", inside=True).partition("=")[2])
     left, top, width, height = map(int, told[:4]) if len(told) >= 4 else (0, 26, WIDTH, HEIGHT - 26)
     return left, top, width, height
-
-
-def screen_at(x):
-    """Two screens stand side by side."""
-    width = WIDTH // int(os.environ.get("SCREENS", 1))
-    return x // width * width, width
 
 
 def click(x, y, button=1, times=1):
@@ -151,9 +146,8 @@ class Visit:
         if not place:
             return
         area = work_area()
-        left, width = screen_at(self.middle[0])
-        tell("in work area", place[0] >= max(area[0], left) and place[1] >= area[1] - 1
-             and place[0] + place[2] <= min(area[0] + area[2], left + width)
+        tell("in work area", place[0] >= area[0] and place[1] >= area[1] - 1
+             and place[0] + place[2] <= area[0] + area[2] + 1
              and place[1] + place[3] <= area[1] + area[3] + 1, f"{place} in {area}")
         hangs = self.middle[1] < HEIGHT / 2
         row = place[1] + 5 if hangs else place[1] + place[3] - 6
@@ -184,10 +178,11 @@ class Visit:
             time.sleep(0.5)
             screen.move_pointer(self.middle[0] + self.item[2] // 3, self.middle[1])
             run("xdotool", "mousedown", "1")
-            seen = [bool(self.program.window()) for _ in range(6) if not time.sleep(0.1)]
+            seen = self.program.watch(0.6)
             run("xdotool", "mouseup", "1")
-            # Some panels tell of a click when the button goes down, others when it is let go.
-            tell("held", sorted(seen, reverse=True) == seen and self.program.is_closed() and self.program.stays(False))
+            # A panel tells of a click when the button goes down, when it is let go, or not at all if that took long.
+            seen += self.program.watch(1.5)
+            tell("held", sorted(seen, reverse=True) == seen)
 
     def windows(self):
         self.program.close()
