@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "Foundation/PlainFile.h"
@@ -82,13 +84,18 @@ QString XdgLoginItems::ownLocation() const {
   return _program;
 }
 
+// Not by QDir: it may follow a link, and the volume behind that may not answer.
 QStringList XdgLoginItems::entryNames() const {
-  constexpr auto kUnseen = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
-  QStringList names = QDir(_folder).entryList({u"*.desktop"_s}, kUnseen, QDir::Name);
-  names.removeIf([this](const QString &name) {
-    const QFileInfo file(QDir(_folder), name);
-    return !file.isSymLink() && file.isDir();
-  });
+  QStringList names;
+  std::error_code problem;
+  std::error_code noStatus;
+  std::filesystem::directory_iterator entry(QFile::encodeName(_folder).toStdString(), problem);
+  for (; entry != std::filesystem::directory_iterator(); entry.increment(problem)) {
+    const QString name = QFile::decodeName(entry->path().filename().c_str());
+    const bool isFolder = std::filesystem::is_directory(entry->symlink_status(noStatus));
+    if (name.endsWith(".desktop"_L1) && !isFolder) names << name;
+  }
+  names.sort();
   return names;
 }
 
