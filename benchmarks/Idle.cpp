@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kStartUpMilliseconds =
-    10000;  // a thread of the last search may live for some seconds
+// The process that asks volumes lives ten seconds longer than its last answer.
+constexpr int kStartUpMilliseconds = 15000;
 
 /// By thread.
 QHash<QString, qint64> voluntarySwitches(qint64 process) {
