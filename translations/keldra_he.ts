@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>%1 is not there</source>
-        <translation>%1 לא נמצא</translation>
+        <translation>לא נמצא: %1</translation>
     </message>
     <message>
         <source>you may not read %1</source>
@@ -135,7 +135,7 @@
     <name>Desktop</name>
     <message>
         <source>Keldra is running already, but does not answer. End process %1 and start Keldra again.</source>
-        <translation>Keldra כבר פועלת, אך אינה עונה. יש לסיים את התהליך %1 ולהפעיל את Keldra שוב.</translation>
+        <translation>התוכנה Keldra כבר פועלת, אך אינה עונה. יש לסיים את התהליך %1 ולהפעיל את Keldra שוב.</translation>
     </message>
     <message>
         <source>Tray</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>GNOME shows no tray icons by itself. Install and switch on the extension “AppIndicator and KStatusNotifierItem Support” to see Keldra&apos;s. Until then, start Keldra once more to open this window.</source>
-        <translation>GNOME אינו מציג סמלי מגש בעצמו. יש להתקין ולהפעיל את ההרחבה „AppIndicator and KStatusNotifierItem Support” כדי לראות את הסמל של Keldra. עד אז, הפעלה נוספת של Keldra פותחת חלון זה.</translation>
+        <translation>שולחן העבודה GNOME אינו מציג סמלי מגש בעצמו. יש להתקין ולהפעיל את ההרחבה „AppIndicator and KStatusNotifierItem Support” כדי לראות את הסמל של Keldra. עד אז, הפעלה נוספת של Keldra פותחת חלון זה.</translation>
     </message>
     <message>
         <source>No panel here shows tray icons. Add a tray, or “status notifier”, to a panel to see Keldra&apos;s. Until then, start Keldra once more to open this window.</source>

@@ -139,7 +139,7 @@
     </message>
     <message>
         <source>Tray</source>
-        <translation>Vassoio di sistema</translation>
+        <translation>Area di notifica</translation>
     </message>
     <message>
         <source>Windows</source>
@@ -367,11 +367,11 @@
     <name>TrayItem</name>
     <message>
         <source>the window system&apos;s</source>
-        <translation>quello del sistema di finestre</translation>
+        <translation>quella del sistema di finestre</translation>
     </message>
     <message>
         <source>none yet</source>
-        <translation>ancora nessuno</translation>
+        <translation>ancora nessuna</translation>
     </message>
 </context>
 <context>
