@@ -113,9 +113,9 @@ class Visit:
         return self.program.place()
 
     def press(self, title):
-        """No hand is at a button in no time, and not every desktop tells of a pointer that is."""
+        """By way of the popover: Xwayland learns from the second motion over a window where the pointer is."""
         left, top, width, height = place = self.program.control(title)
-        screen.move_pointer(left + width // 2, top + height // 2)
+        screen.move_pointer(left + 2, top + height // 2)
         time.sleep(0.3)
         screen.click(place)
 
