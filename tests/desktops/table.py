@@ -289,6 +289,17 @@ class Visit:
                 self.picture_of_item()
         tell("theme", 0 <= seen[0] < 110 and seen[1] > 160, str(seen))
 
+    def choose_mount(self):
+        """Sway gives keys to windows alone, and the menu is none."""
+        shown = [node for window in self.program.windows() for node in window.descendants() if DESKTOP == "sway"]
+        entry = next((node for node in shown if node.role == "menu item" and node.name == "mount disk0s1"), None)
+        if entry:
+            screen.click(entry.place())
+        else:
+            for key in ("Down", "Down", "Return"):  # "Open Keldra", then "mount disk0s1"
+                screen.press(key)
+                time.sleep(0.2)
+
     def menu(self):
         self.program.close()
         screen.move_pointer(*WALLPAPER)
@@ -300,9 +311,7 @@ class Visit:
         time.sleep(1.2)
         picture("5-menu")
         menu = bounding_box(before, pixels(), WIDTH)
-        for key in ("Down", "Down", "Return"):  # "Open Keldra", then "mount disk0s1"
-            screen.press(key)
-            time.sleep(0.2)
+        self.choose_mount()
         mounted = wait_for(lambda: any("disk0s1" in path for path in os.listdir("/tmp")), 0.1)
         time.sleep(1.5)
         picture("6-after-menu")
