@@ -289,16 +289,19 @@ class Visit:
                 self.picture_of_item()
         tell("theme", 0 <= seen[0] < 110 and seen[1] > 160, str(seen))
 
-    def choose_mount(self):
-        """Sway gives keys to windows alone, and the menu is none."""
-        shown = [node for window in self.program.windows() for node in window.descendants() if DESKTOP == "sway"]
-        entry = next((node for node in shown if node.role == "menu item" and node.name == "mount disk0s1"), None)
-        if entry:
-            screen.click(entry.place())
-        else:
-            for key in ("Down", "Down", "Return"):  # "Open Keldra", then "mount disk0s1"
+    @staticmethod
+    def choose_mount(menu):
+        """The entry below "Open Keldra". On sway by mouse: it gives keys to windows alone, and the menu is none."""
+        if DESKTOP != "sway":
+            for key in ("Down", "Down", "Return"):
                 screen.press(key)
                 time.sleep(0.2)
+            return
+        left, top = menu[0] + menu[2] // 2, menu[1] + 35
+        for step in range(10):
+            screen.move_pointer(left - 40 + 4 * step, top)
+            time.sleep(0.08)
+        click(left, top)
 
     def menu(self):
         self.program.close()
@@ -311,7 +314,7 @@ class Visit:
         time.sleep(1.2)
         picture("5-menu")
         menu = bounding_box(before, pixels(), WIDTH)
-        self.choose_mount()
+        self.choose_mount(menu)
         mounted = wait_for(lambda: any("disk0s1" in path for path in os.listdir("/tmp")), 0.1)
         time.sleep(1.5)
         picture("6-after-menu")
