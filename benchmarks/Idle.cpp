@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The process that asks volumes lives ten seconds longer than its last answer.
-constexpr int kStartUpMilliseconds = 15000;
+constexpr int kSettledAfterMilliseconds = 15000;
 
 /// By thread.
 QHash<QString, qint64> voluntarySwitches(qint64 process) {
@@ -36,7 +36,7 @@ QHash<QString, qint64> voluntarySwitches(qint64 process) {
 /// A thread that has ended meanwhile is not counted.
 void addSwitches(const TrayProgram &program, const QString &measure, int partitions,
                  Report &report) {
-  QTest::qWait(kStartUpMilliseconds);
+  QTest::qWait(kSettledAfterMilliseconds);
   const auto before = voluntarySwitches(program.process());
   QTest::qWait(kIdleSeconds * 1000);
   const auto after = voluntarySwitches(program.process());

@@ -47,7 +47,7 @@ double peerTime(const QString &action, const QString &device, const PaintedTitle
   return time;
 }
 
-/// What a person sees and does while nothing else may hold the program up: clicks, and lists of everything.
+/// The longest time without serving events while the partition is mounted and unmounted by clicks.
 double gapOf(Program &program, const QString &name) {
   const EventGap gap;
   for (int run = 0; run < kRuns; ++run) {
@@ -129,6 +129,7 @@ void measureGaps(Program &program, const QString &device, const QString &other, 
   check(mount(other.toLocal8Bit().constData(), path.constData(), "ext4", 0, nullptr), "mount");
   {
     const MuteVolume silence(folder.path());
+    check(silence.isThere() ? 0 : -1, "mount of a volume that does not answer");
     report.add(kGapBesideSilence, partitions, gapOf(program, name));
   }
   check(umount2(path.constData(), 0), "umount");
