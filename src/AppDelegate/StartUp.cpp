@@ -17,7 +17,7 @@ namespace {
 
 const QString kVersion = u"1.6"_s;
 // A tray that exists shows the item within this time.
-constexpr std::chrono::milliseconds kTraysTime(1500);
+constexpr std::chrono::milliseconds kTraysTime(1200);
 
 void setBackground(QWidget *window, const QColor &color) {
   QPalette palette = window->palette();
