@@ -50,10 +50,12 @@ QPixmap picture(int side) {
   return result;
 }
 
-// MATE's panels do not colour symbolic pictures, and the protocol does not say which panels do.
+// MATE's panels do not colour symbolic pictures, Plasma 5 gives them the programs' colours in place of the panel's,
+// and the protocol does not say which panels do it well.
 bool panelsColorPictures() {
   const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
-  return desktops.contains("GNOME"_L1) || desktops.contains("KDE"_L1);
+  return desktops.contains("GNOME"_L1) ||
+         (desktops.contains("KDE"_L1) && qEnvironmentVariableIntValue("KDE_SESSION_VERSION") >= 6);
 }
 
 bool write(const QString &folder, const QString &name) {
