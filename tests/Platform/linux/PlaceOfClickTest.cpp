@@ -30,6 +30,8 @@ TEST(PlaceOfClick, TellsNativeFromScaledUnits) {
   EXPECT_EQ(placeOfClick({1122, 28}, QPoint(560, 13), dense), QPoint(561, 14));
   EXPECT_EQ(placeOfClick({561, 14}, QPoint(560, 13), dense), QPoint(561, 14));
   EXPECT_EQ(placeOfClick({1122, 28}, std::nullopt, dense), QPoint(561, 14));
+  EXPECT_EQ(inPixels({561, 14}, {640, 400}, dense), QPoint(1122, 28));
+  EXPECT_EQ(inPixels({561, 14}, {}, dense), QPoint(561, 14));
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "Platform/linux/desktop/NotifierItem.h"
 
 #include <QCoreApplication>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QGuiApplication>
 #include <QTimer>
 #include <chrono>
@@ -19,6 +21,7 @@ const QString kMenuPath = u"/MenuBar"_s;
 
 // Longer than GNOME on X11 takes to hear of its own launch: a refusal before that leaves the pointer busy.
 constexpr auto kRefusalDelay = std::chrono::milliseconds(100);
+constexpr int kShellsTime = 200;  // milliseconds
 
 QRect pointRect(const QPoint &place) {
   return {place, QSize(1, 1)};
@@ -70,11 +73,22 @@ void NotifierItem::setMenu(QMenu *menu) {
 }
 
 void NotifierItem::activate(const QPoint &place) {
-  if (const auto clicked = placeOfClick(place, knownPointer(), screenAreas())) {
-    _place = pointRect(*clicked);
-  }
-  // Queued, because the slot may block in a row action while the panel waits for the reply.
-  QMetaObject::invokeMethod(this, &TrayItem::activated, Qt::QueuedConnection);
+  // GNOME reports places in units of its own, of which an X server with a scale may have several pixels each.
+  auto question =
+      QDBusMessage::createMethodCall(u"org.gnome.Shell"_s, u"/org/gnome/Shell/Introspect"_s,
+                                     u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+  question << u"org.gnome.Shell.Introspect"_s << u"ScreenSize"_s;
+  question.setAutoStartService(false);
+  auto *call = new QDBusPendingCallWatcher(_bus.asyncCall(question, kShellsTime), this);
+  connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, place] {
+    call->deleteLater();
+    const QDBusPendingReply<QDBusVariant> size = *call;  // an error on other desktops
+    const QSize shell = size.isError() ? QSize() : qdbus_cast<QSize>(size.value().variant());
+    const QList<ScreenArea> screens = screenAreas();
+    const auto clicked = placeOfClick(inPixels(place, shell, screens), knownPointer(), screens);
+    if (clicked) _place = pointRect(*clicked);
+    emit activated();
+  });
 }
 
 void NotifierItem::popUpMenu(const QPoint &place) {

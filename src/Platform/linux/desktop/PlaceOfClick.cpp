@@ -16,13 +16,17 @@ bool isOnScreen(const QPoint &place, const QList<ScreenArea> &screens) {
 }
 
 // A screen's origin is the same in native and in scaled units.
+QRect nativeArea(const ScreenArea &screen) {
+  return {screen.whole.topLeft(), (QSizeF(screen.whole.size()) * screen.ratio).toSize()};
+}
+
 QList<QPoint> readings(const QPoint &told, const QList<ScreenArea> &screens) {
   if (told.isNull()) return {};  // the panel does not know the place
   QList<QPoint> all;
   for (const ScreenArea &screen : screens) {
     const QPoint origin = screen.whole.topLeft();
-    const QRect native(origin, (QSizeF(screen.whole.size()) * screen.ratio).toSize());
-    if (native.contains(told)) all += origin + (QPointF(told - origin) / screen.ratio).toPoint();
+    if (nativeArea(screen).contains(told))
+      all += origin + (QPointF(told - origin) / screen.ratio).toPoint();
   }
   if (isOnScreen(told, screens)) all += told;
   return all;
@@ -48,6 +52,13 @@ std::optional<QPoint> knownPointer() {
   const bool isServerOfItsOwn = QGuiApplication::platformName() == QLatin1String("xcb") &&
                                 qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
   return isServerOfItsOwn ? std::optional(QCursor::pos()) : std::nullopt;
+}
+
+QPoint inPixels(const QPoint &told, const QSize &size, const QList<ScreenArea> &screens) {
+  if (size.isEmpty()) return told;
+  QRect all;
+  for (const ScreenArea &screen : screens) all |= nativeArea(screen);
+  return {told.x() * all.width() / size.width(), told.y() * all.height() / size.height()};
 }
 
 std::optional<QPoint> placeOfClick(const QPoint &told, std::optional<QPoint> pointer,

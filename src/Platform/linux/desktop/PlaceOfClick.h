@@ -23,6 +23,10 @@ bool isOnPanel(const QPoint &place, const QList<ScreenArea> &screens);
 /// pointer while it is over other programs' windows.
 std::optional<QPoint> knownPointer();
 
+/// A place that was told in units of which all screens have `size`, in native pixels; the place itself if the
+/// size is not known.
+QPoint inPixels(const QPoint &told, const QSize &size, const QList<ScreenArea> &screens);
+
 /// Panels report a place with each click, in the window system's units or in scaled ones; some report nonsense.
 /// `told` is used if it is near the pointer, or on a panel while the pointer is on none or unknown; otherwise
 /// the pointer. Absent if neither is known.
