@@ -95,6 +95,8 @@ void InfoWindow::makeContent() {
 
   _rows = new QFormLayout;
   _rows->setHorizontalSpacing(look.margin());
+  // Some styles keep fields at their preferred width, which cuts texts that wrap.
+  _rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(look.scaled(24), look.scaled(20), look.scaled(24), look.scaled(20));
   layout->setSpacing(look.margin());

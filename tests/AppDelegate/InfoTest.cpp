@@ -1,18 +1,40 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QFormLayout>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QPushButton>
 
 #include "Interface/InfoWindow.h"
 #include "support/OpenedFolders.h"
 #include "support/TestMachine.h"
 
+namespace {
+
+// As Plasma 6 does.
+struct NarrowFields : QProxyStyle {
+  int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                QStyleHintReturn *data) const override {
+    return hint == SH_FormLayoutFieldGrowthPolicy
+               ? QFormLayout::FieldsStayAtSizeHint
+               : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
+}  // namespace
+
 TEST(Info, ShowsAndCopiesTheFactsForABugReport) {
+  NarrowFields style;
   TestMachine machine(twoEspMachine());
-  QTest::mouseClick(machine.interface.infoButton(), Qt::LeftButton);
   InfoWindow *window = machine.interface.infoWindow();
+  window->setStyle(&style);
+  QTest::mouseClick(machine.interface.infoButton(), Qt::LeftButton);
   EXPECT_TRUE(window->isVisible());
+  for (const auto *label : window->findChildren<QLabel *>()) {
+    EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+        << label->text().toStdString();
+  }
   const QRect screen = window->screen()->availableGeometry();
   EXPECT_LE((window->frameGeometry().center() - screen.center()).manhattanLength(), 2);
   for (auto *button : window->findChildren<QPushButton *>()) {
