@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 // Two screens, the left one with a panel along its top.
@@ -32,6 +34,8 @@ TEST(PlaceOfClick, TellsNativeFromScaledUnits) {
   EXPECT_EQ(placeOfClick({1122, 28}, std::nullopt, dense), QPoint(561, 14));
   EXPECT_EQ(inPixels({561, 14}, {640, 400}, dense), QPoint(1122, 28));
   EXPECT_EQ(inPixels({561, 14}, {}, dense), QPoint(561, 14));
+  const QPoint nonsense(std::numeric_limits<int>::max(), -1);
+  EXPECT_EQ(inPixels(nonsense, {640, 400}, dense), nonsense);
 }
 
 }  // namespace

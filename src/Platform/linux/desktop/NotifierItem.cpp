@@ -21,7 +21,8 @@ const QString kMenuPath = u"/MenuBar"_s;
 
 // Longer than GNOME on X11 takes to hear of its own launch: a refusal before that leaves the pointer busy.
 constexpr auto kRefusalDelay = std::chrono::milliseconds(100);
-constexpr int kShellsTime = 200;  // milliseconds
+// After which a click is acted on without the shell's answer, in milliseconds.
+constexpr int kShellsTime = 200;
 
 QRect pointRect(const QPoint &place) {
   return {place, QSize(1, 1)};

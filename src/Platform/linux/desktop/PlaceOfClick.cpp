@@ -25,8 +25,8 @@ QList<QPoint> readings(const QPoint &told, const QList<ScreenArea> &screens) {
   QList<QPoint> all;
   for (const ScreenArea &screen : screens) {
     const QPoint origin = screen.whole.topLeft();
-    if (nativeArea(screen).contains(told))
-      all += origin + (QPointF(told - origin) / screen.ratio).toPoint();
+    if (!nativeArea(screen).contains(told)) continue;
+    all += origin + (QPointF(told - origin) / screen.ratio).toPoint();
   }
   if (isOnScreen(told, screens)) all += told;
   return all;
@@ -55,10 +55,14 @@ std::optional<QPoint> knownPointer() {
 }
 
 QPoint inPixels(const QPoint &told, const QSize &size, const QList<ScreenArea> &screens) {
-  if (size.isEmpty()) return told;
+  if (!QRect(QPoint(), size).contains(told)) return told;
   QRect all;
   for (const ScreenArea &screen : screens) all |= nativeArea(screen);
-  return {told.x() * all.width() / size.width(), told.y() * all.height() / size.height()};
+  const auto scaled = [](qint64 length, int to, int from) {
+    return static_cast<int>(length * to / from);
+  };
+  return {scaled(told.x(), all.width(), size.width()),
+          scaled(told.y(), all.height(), size.height())};
 }
 
 std::optional<QPoint> placeOfClick(const QPoint &told, std::optional<QPoint> pointer,

@@ -23,8 +23,8 @@ bool isOnPanel(const QPoint &place, const QList<ScreenArea> &screens);
 /// pointer while it is over other programs' windows.
 std::optional<QPoint> knownPointer();
 
-/// A place that was told in units of which all screens have `size`, in native pixels; the place itself if the
-/// size is not known.
+/// A place that was told in units of which all screens have `size`, in native pixels; the place itself if it
+/// is outside, as every place is if the size is not known.
 QPoint inPixels(const QPoint &told, const QSize &size, const QList<ScreenArea> &screens);
 
 /// Panels report a place with each click, in the window system's units or in scaled ones; some report nonsense.
